@@ -1,0 +1,33 @@
+#ifndef GALLERYPAGE_H
+#define GALLERYPAGE_H
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QString>
+#include <QtCore/QVector>
+
+class QWidget;
+
+/// One page of the gallery. A page lives in a file of its own under pages/ and adds itself with
+/// GALLERY_PAGE; the window creates it when it is first shown.
+struct GalleryPage
+{
+    using Create = QWidget *(*)(QWidget *parent);
+
+    int order;         ///< place in the list, ascending
+    const char *name;  ///< for --page and for file names, lower-case
+    const char *title; ///< for people; translated in the context "Gallery"
+    Create create;
+
+    QString translatedTitle() const { return QCoreApplication::translate("Gallery", title); }
+};
+
+/// All pages in their order.
+QVector<GalleryPage> galleryPages();
+
+bool addGalleryPage(const GalleryPage &page);
+
+/// GALLERY_PAGE(120, "sliders", QT_TRANSLATE_NOOP("Gallery", "Sliders"), createSlidersPage)
+#define GALLERY_PAGE(order, name, title, create) \
+    static const bool galleryPageAdded = addGalleryPage({order, name, title, create});
+
+#endif

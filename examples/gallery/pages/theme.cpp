@@ -1,0 +1,77 @@
+#include "gallerypage.h"
+
+#include <nocturne/DarkUX>
+
+#include <QtCore/QMetaEnum>
+#include <QtGui/QPainter>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLabel>
+
+namespace {
+
+/// A patch of one colour with its name on it.
+class Swatch : public QWidget
+{
+public:
+    Swatch(const QColor &color, QWidget *parent)
+        : QWidget(parent)
+        , m_color(color)
+    {
+        setMinimumSize(110, 22);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), m_color);
+        painter.setPen(m_color.lightness() > 128 ? Qt::black : Qt::white);
+        painter.drawText(rect(), Qt::AlignCenter, m_color.name());
+    }
+
+private:
+    QColor m_color;
+};
+
+QWidget *createThemePage(QWidget *parent)
+{
+    auto *page = new QWidget(parent);
+    auto *grid = new QGridLayout(page);
+    const DarkUX &theme = DarkUX::getInstance();
+
+    const char *const headings[] = {
+        QT_TRANSLATE_NOOP("Gallery", "Role"),
+        QT_TRANSLATE_NOOP("Gallery", "Active"),
+        QT_TRANSLATE_NOOP("Gallery", "Disabled"),
+        QT_TRANSLATE_NOOP("Gallery", "Inactive"),
+    };
+    int column = 0;
+    for (const char *heading : headings)
+        grid->addWidget(new QLabel(QCoreApplication::translate("Gallery", heading)), 0, column++);
+
+    int row = 1;
+    const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
+    for (int i = 0; i < QPalette::NColorRoles; ++i) {
+        const auto role = static_cast<QPalette::ColorRole>(i);
+        if (role == QPalette::NoRole || role == QPalette::BrightText)
+            continue;
+        grid->addWidget(new QLabel(QLatin1String(roles.valueToKey(i))), row, 0);
+        column = 1;
+        for (QPalette::ColorGroup group :
+             {QPalette::Active, QPalette::Disabled, QPalette::Inactive})
+            grid->addWidget(new Swatch(theme.palette().color(group, role), page), row, column++);
+        ++row;
+    }
+    for (auto it = theme.backgroundColor().cbegin(); it != theme.backgroundColor().cend(); ++it) {
+        grid->addWidget(
+            new QLabel(QCoreApplication::translate("Gallery", "Background %1").arg(it.key())), row,
+            0);
+        grid->addWidget(new Swatch(it.value(), page), row++, 1);
+    }
+    grid->setRowStretch(row, 1);
+    return page;
+}
+
+} // namespace
+
+GALLERY_PAGE(10, "theme", QT_TRANSLATE_NOOP("Gallery", "Theme"), createThemePage)

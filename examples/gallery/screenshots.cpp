@@ -1,0 +1,75 @@
+#include "screenshots.h"
+
+#include "gallerypage.h"
+
+#include <QtCore/QDir>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+constexpr QSize smallestPage(900, 600);
+
+enum class Variant { LeftToRight, RightToLeft, Disabled };
+
+QString suffixOf(Variant variant)
+{
+    QString suffix;
+    if (variant == Variant::RightToLeft)
+        suffix = QStringLiteral("-rtl");
+    else if (variant == Variant::Disabled)
+        suffix = QStringLiteral("-disabled");
+    if (qApp->devicePixelRatio() > 1.0)
+        suffix += QStringLiteral("@%1x").arg(qApp->devicePixelRatio());
+    return suffix;
+}
+
+bool renderPage(const GalleryPage &page, Variant variant, const QDir &directory)
+{
+    QApplication::setLayoutDirection(variant == Variant::RightToLeft ? Qt::RightToLeft
+                                                                     : Qt::LeftToRight);
+    const std::unique_ptr<QWidget> widget(page.create(nullptr));
+    widget->setEnabled(variant != Variant::Disabled);
+    widget->resize(widget->sizeHint().expandedTo(smallestPage));
+    widget->show();
+    for (int i = 0; i < 5; ++i)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+
+    const QString path = directory.absoluteFilePath(QLatin1String(page.name) + suffixOf(variant)
+                                                    + QStringLiteral(".png"));
+    const bool saved = widget->grab().save(path);
+    if (saved)
+        std::printf("%s\n", qPrintable(path));
+    else
+        std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
+    return saved;
+}
+
+} // namespace
+
+bool renderScreenshots(const QString &directory, const QString &only)
+{
+    const QDir target(directory);
+    if (!target.mkpath(QStringLiteral("."))) {
+        std::fprintf(stderr, "cannot create the folder %s\n", qPrintable(directory));
+        return false;
+    }
+
+    bool found = false;
+    for (const GalleryPage &page : galleryPages()) {
+        if (!only.isEmpty() && only != QLatin1String(page.name))
+            continue;
+        found = true;
+        for (Variant variant : {Variant::LeftToRight, Variant::RightToLeft, Variant::Disabled}) {
+            if (!renderPage(page, variant, target))
+                return false;
+        }
+    }
+    if (!found)
+        std::fprintf(stderr, "there is no page named %s\n", qPrintable(only));
+    std::fflush(stdout);
+    return found;
+}

@@ -1,0 +1,31 @@
+#ifndef NOCTURNE_THEMEPAINT_P_H
+#define NOCTURNE_THEMEPAINT_P_H
+
+#include <QtCore/QRectF>
+#include <QtGui/QBrush>
+#include <QtGui/QPalette>
+
+#include <initializer_list>
+
+/// What the paint events of the library's own widgets take from the theme.
+namespace ThemePaint {
+
+/// The accent of value fills, progress and focus rings.
+constexpr QRgb accentBlue = 0xff419bf9; // rgb(65, 155, 249)
+
+/// A colour of the theme palette's current group.
+QColor color(QPalette::ColorRole role);
+
+/// \a color with \a shift added to red, green and blue, clamped to 0 to 255, at \a alpha.
+QColor shifted(const QColor &color, int shift, int alpha = 255);
+
+/// The theme's Window colour, shifted.
+QColor window(int shift = 0, int alpha = 255);
+
+/// A gradient straight down from y = rect.top() to y = rect.height(). For a rectangle that starts
+/// at 1 it thus ends short of the bottom edge, which is meant.
+QBrush verticalGradient(const QRectF &rect, std::initializer_list<QGradientStop> stops);
+
+} // namespace ThemePaint
+
+#endif
