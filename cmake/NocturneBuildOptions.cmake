@@ -43,3 +43,13 @@ find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
 endif()
+
+# nocturne_rerun_moc_on_new_files(<target>)
+#
+# A file that a glob has newly found does not by itself make the target's moc step run again.
+function(nocturne_rerun_moc_on_new_files target)
+  get_target_property(sources ${target} SOURCES)
+  set(list_file "${CMAKE_CURRENT_BINARY_DIR}/${target}_sources.txt")
+  file(GENERATE OUTPUT "${list_file}" CONTENT "${sources}")
+  set_property(TARGET ${target} APPEND PROPERTY AUTOGEN_TARGET_DEPENDS "${list_file}")
+endfunction()
