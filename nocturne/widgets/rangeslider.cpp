@@ -5,6 +5,7 @@
 #include "handleaccessible_p.h"
 #include "rangeslider_p.h"
 
+#include <nocturne/style/stylehelpers_p.h>
 #include <nocturne/theme/themepaint_p.h>
 
 #include <QtGui/QHelpEvent>
@@ -28,6 +29,21 @@ int outsideRange(int minimum, int maximum)
     const qint64 position = qint64(minimum) - maximum;
     return int(qMax<qint64>(position, std::numeric_limits<int>::min()));
 }
+
+/// Bar and handles are painted smoothly and half a unit off the pixel grid.
+class HalfUnitShift
+{
+public:
+    explicit HalfUnitShift(QPainter *painter)
+        : m_saver(painter)
+    {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(0.5, 0.5);
+    }
+
+private:
+    StyleHelpers::PainterSaver m_saver;
+};
 
 } // namespace
 
@@ -381,15 +397,12 @@ void RangeSlider::paintEvent(QPaintEvent *)
     const RangeSliderPrivate *d = d_func();
     QStylePainter painter(this);
 
-    QStyleOptionSlider groove;
-    initStyleOption(&groove);
-    groove.subControls = QStyle::SC_SliderGroove;
-    groove.sliderValue = groove.sliderPosition = outsideRange(minimum(), maximum());
-    painter.drawComplexControl(QStyle::CC_Slider, groove);
-
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(0.5, 0.5);
-    d->drawBar(&painter);
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    option.subControls = QStyle::SC_SliderGroove;
+    option.sliderValue = option.sliderPosition = outsideRange(minimum(), maximum());
+    painter.drawComplexControl(QStyle::CC_Slider, option);
+    d->drawBar(&painter, option);
 
     using Private = RangeSliderPrivate;
     if (!m_rangeEnabled) {
@@ -612,10 +625,9 @@ bool RangeSliderPrivate::showHandleToolTip(const QHelpEvent *event) const
 /// Where the bar between the range handles goes: four units thick on the middle of the groove,
 /// from handle centre to handle centre, a little longer while there are no handles to cover its
 /// ends.
-QRect RangeSliderPrivate::barRect() const
+QRect RangeSliderPrivate::barRect(QStyleOptionSlider option) const
 {
     const QStyle *style = q_ptr->style();
-    QStyleOptionSlider option = sliderOption();
     const auto centreAt = [&](int position) {
         option.sliderPosition = position;
         return style->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, q_ptr)
@@ -639,13 +651,17 @@ QRect RangeSliderPrivate::barRect() const
     return box.intersected(groove).adjusted(-overhang, 1, overhang, 2);
 }
 
-void RangeSliderPrivate::drawBar(QStylePainter *painter) const
+void RangeSliderPrivate::drawBar(QStylePainter *painter, const QStyleOptionSlider &option) const
 {
     QColor fill(ThemePaint::accentBlue);
-    fill.setAlpha(sliderOption().state & QStyle::State_MouseOver ? hoveredBarAlpha : barAlpha);
-    painter->setPen(QColor(barOutline));
-    painter->setBrush(fill);
-    painter->drawRoundedRect(barRect(), barRadius, barRadius, Qt::AbsoluteSize);
+    fill.setAlpha(option.state & QStyle::State_MouseOver ? hoveredBarAlpha : barAlpha);
+    bar.drawStretched(painter, barRect(option), q_ptr->orientation(), {fill.rgba()},
+                      [&fill](QPainter *target, const QRect &rect) {
+                          const HalfUnitShift shift(target);
+                          target->setPen(QColor(barOutline));
+                          target->setBrush(fill);
+                          target->drawRoundedRect(rect, barRadius, barRadius, Qt::AbsoluteSize);
+                      });
 }
 
 void RangeSliderPrivate::drawHandle(QStylePainter *painter, Handle handle) const
@@ -666,6 +682,7 @@ void RangeSliderPrivate::drawHandle(QStylePainter *painter, Handle handle) const
             option.activeSubControls = QStyle::SC_SliderHandle;
             option.state |= QStyle::State_Sunken;
         }
+        const HalfUnitShift shift(painter);
         painter->drawComplexControl(QStyle::CC_Slider, option);
         return;
     }
@@ -673,7 +690,11 @@ void RangeSliderPrivate::drawHandle(QStylePainter *painter, Handle handle) const
     // A range handle is an upright bar in the middle of where the style would put a knob.
     const QRect knob =
         q_ptr->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, q_ptr);
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(Qt::green);
-    painter->drawRect(knob.adjusted(5, 0, -6, 0));
+    rangeHandle.draw(painter, knob.adjusted(5, 0, -6, 0), {},
+                     [](QPainter *target, const QRect &rect) {
+                         const HalfUnitShift shift(target);
+                         target->setPen(Qt::NoPen);
+                         target->setBrush(Qt::green);
+                         target->drawRect(rect);
+                     });
 }

@@ -1,6 +1,8 @@
 #ifndef NOCTURNE_RANGESLIDER_P_H
 #define NOCTURNE_RANGESLIDER_P_H
 
+#include "paintsample_p.h"
+
 #include <nocturne/widgets/rangeslider.h>
 
 #include <QtCore/QRect>
@@ -71,8 +73,8 @@ public:
     void reportHover(const QPoint &point);
     bool showHandleToolTip(const QHelpEvent *event) const;
 
-    QRect barRect() const;
-    void drawBar(QStylePainter *painter) const;
+    QRect barRect(QStyleOptionSlider option) const;
+    void drawBar(QStylePainter *painter, const QStyleOptionSlider &option) const;
     void drawHandle(QStylePainter *painter, Handle handle) const;
 
     RangeSlider *q_ptr;
@@ -88,6 +90,8 @@ public:
     bool symmetricMoves = false;
     QString handleToolTip;
     int lastHoverValue = 0;
+    mutable PaintSample bar;
+    mutable PaintSample rangeHandle;
     bool gestureChangedValue = false; ///< asks for valuesChanged() at the end of the gesture
 
 private:

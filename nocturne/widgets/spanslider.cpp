@@ -3,6 +3,7 @@
 #include "gestureend_p.h"
 #include "groovemapping_p.h"
 #include "handleaccessible_p.h"
+#include "paintsample_p.h"
 
 #include <QtCore/QDebug>
 #include <QtGui/QKeyEvent>
@@ -14,12 +15,14 @@
 
 SpanSlider::SpanSlider(QWidget *parent)
     : QSlider(parent)
+    , m_spanSample(new PaintSample)
 {
     initialize();
 }
 
 SpanSlider::SpanSlider(Qt::Orientation orientation, QWidget *parent)
     : QSlider(orientation, parent)
+    , m_spanSample(new PaintSample)
 {
     initialize();
 }
@@ -397,13 +400,13 @@ void SpanSlider::paintEvent(QPaintEvent *)
 {
     QStylePainter painter(this);
 
-    QStyleOptionSlider groove;
-    initStyleOption(&groove, UpperHandle);
-    groove.sliderPosition = groove.sliderValue = 0;
-    groove.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderTickmarks;
-    painter.drawComplexControl(QStyle::CC_Slider, groove);
+    QStyleOptionSlider option;
+    initStyleOption(&option, UpperHandle);
+    option.sliderPosition = option.sliderValue = 0;
+    option.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderTickmarks;
+    painter.drawComplexControl(QStyle::CC_Slider, option);
 
-    drawSpan(&painter, spanRect());
+    drawSpan(&painter, spanRect(option));
 
     const bool lowerOnTop = m_lastPressed == LowerHandle;
     drawHandle(&painter, lowerOnTop ? UpperHandle : LowerHandle);
@@ -411,10 +414,8 @@ void SpanSlider::paintEvent(QPaintEvent *)
 }
 
 /// From one handle's centre to the other's, four units thick.
-QRect SpanSlider::spanRect() const
+QRect SpanSlider::spanRect(QStyleOptionSlider option) const
 {
-    QStyleOptionSlider option;
-    initStyleOption(&option, UpperHandle);
     const auto centreAt = [&](int position) {
         option.sliderPosition = position;
         return style()
@@ -437,16 +438,25 @@ void SpanSlider::drawSpan(QStylePainter *painter, const QRect &rect) const
     initStyleOption(&option, UpperHandle);
     QRect groove =
         style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, this);
-    if (isHorizontal()) {
-        groove.setRight(groove.right() - 1);
-        setupPainter(painter, orientation(), groove.center().x(), groove.top(), groove.center().x(),
-                     groove.bottom());
-    } else {
-        groove.setBottom(groove.bottom() - 1);
-        setupPainter(painter, orientation(), groove.left(), groove.center().y(), groove.right(),
-                     groove.center().y());
-    }
-    painter->drawRect(rect.intersected(groove));
+    const bool horizontal = isHorizontal();
+    groove.adjust(0, 0, horizontal ? -1 : 0, horizontal ? 0 : -1);
+    const QRect span = rect.intersected(groove);
+    const QPoint centre = groove.center();
+    const QLine gradient = horizontal
+                               ? QLine(centre.x(), groove.top(), centre.x(), groove.bottom())
+                               : QLine(groove.left(), centre.y(), groove.right(), centre.y());
+
+    // Where in the gradient the span lies is part of its look.
+    const PaintSample::Look look = {
+        palette().color(QPalette::Highlight).rgba(), uint(horizontal),
+        uint(horizontal ? span.top() - groove.top() : span.left() - groove.left()),
+        uint(horizontal ? groove.height() : groove.width())};
+    m_spanSample->drawStretched(painter, span, orientation(), look,
+                                [&](QPainter *target, const QRect &part) {
+                                    setupPainter(target, orientation(), gradient.x1(),
+                                                 gradient.y1(), gradient.x2(), gradient.y2());
+                                    target->drawRect(part);
+                                });
 }
 
 void SpanSlider::setupPainter(QPainter *painter, Qt::Orientation orientation, qreal x1, qreal y1,

@@ -3,9 +3,11 @@
 
 #include <nocturne/nocturneglobal.h>
 
+#include <QtCore/QScopedPointer>
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QStyle>
 
+class PaintSample;
 class QStylePainter;
 
 /// A slider with two handles, lower and upper, that select a span inside the slider's range. Both
@@ -141,7 +143,7 @@ private:
     void moveLowerHandle(int target, int upperBound);
     void moveUpperHandle(int target, int lowerBound);
     int valueUnderDrag(const QPoint &point) const;
-    QRect spanRect() const;
+    QRect spanRect(QStyleOptionSlider option) const;
     void endGesture();
 
     int m_lower = 0;
@@ -157,6 +159,7 @@ private:
     HandleMovementMode m_movement = FreeMovement;
     bool m_firstMovement = false;
     bool m_blockTracking = false;
+    QScopedPointer<PaintSample> m_spanSample;
 };
 
 #endif
