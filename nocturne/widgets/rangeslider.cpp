@@ -5,7 +5,6 @@
 #include "handleaccessible_p.h"
 #include "rangeslider_p.h"
 
-#include <nocturne/style/stylehelpers_p.h>
 #include <nocturne/theme/themepaint_p.h>
 
 #include <QtGui/QHelpEvent>
@@ -30,19 +29,27 @@ int outsideRange(int minimum, int maximum)
     return int(qMax<qint64>(position, std::numeric_limits<int>::min()));
 }
 
-/// Bar and handles are painted smoothly and half a unit off the pixel grid.
+/// Bar and handles are painted smoothly and half a unit off the pixel grid. Undone at the end of
+/// the scope without the cost of saving everything else a painter knows.
 class HalfUnitShift
 {
 public:
     explicit HalfUnitShift(QPainter *painter)
-        : m_saver(painter)
+        : m_painter(painter)
     {
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(0.5, 0.5);
+        m_painter->setRenderHint(QPainter::Antialiasing);
+        m_painter->translate(0.5, 0.5);
+    }
+    ~HalfUnitShift()
+    {
+        m_painter->translate(-0.5, -0.5);
+        m_painter->setRenderHint(QPainter::Antialiasing, false);
     }
 
 private:
-    StyleHelpers::PainterSaver m_saver;
+    Q_DISABLE_COPY(HalfUnitShift)
+
+    QPainter *m_painter;
 };
 
 } // namespace
@@ -402,7 +409,7 @@ void RangeSlider::paintEvent(QPaintEvent *)
     option.subControls = QStyle::SC_SliderGroove;
     option.sliderValue = option.sliderPosition = outsideRange(minimum(), maximum());
     painter.drawComplexControl(QStyle::CC_Slider, option);
-    d->drawBar(&painter, option);
+    d->drawBar(&painter, &option);
 
     using Private = RangeSliderPrivate;
     if (!m_rangeEnabled) {
@@ -625,18 +632,18 @@ bool RangeSliderPrivate::showHandleToolTip(const QHelpEvent *event) const
 /// Where the bar between the range handles goes: four units thick on the middle of the groove,
 /// from handle centre to handle centre, a little longer while there are no handles to cover its
 /// ends.
-QRect RangeSliderPrivate::barRect(QStyleOptionSlider option) const
+QRect RangeSliderPrivate::barRect(QStyleOptionSlider *option) const
 {
     const QStyle *style = q_ptr->style();
     const auto centreAt = [&](int position) {
-        option.sliderPosition = position;
-        return style->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, q_ptr)
+        option->sliderPosition = position;
+        return style->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderHandle, q_ptr)
             .center();
     };
     const QPoint a = centreAt(minimumPosition);
     const QPoint b = centreAt(maximumPosition);
     const QRect groove =
-        style->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, q_ptr);
+        style->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderGroove, q_ptr);
     const QPoint middle = groove.center();
 
     QRect box;
@@ -651,10 +658,10 @@ QRect RangeSliderPrivate::barRect(QStyleOptionSlider option) const
     return box.intersected(groove).adjusted(-overhang, 1, overhang, 2);
 }
 
-void RangeSliderPrivate::drawBar(QStylePainter *painter, const QStyleOptionSlider &option) const
+void RangeSliderPrivate::drawBar(QStylePainter *painter, QStyleOptionSlider *option) const
 {
     QColor fill(ThemePaint::accentBlue);
-    fill.setAlpha(option.state & QStyle::State_MouseOver ? hoveredBarAlpha : barAlpha);
+    fill.setAlpha(option->state & QStyle::State_MouseOver ? hoveredBarAlpha : barAlpha);
     bar.drawStretched(painter, barRect(option), q_ptr->orientation(), {fill.rgba()},
                       [&fill](QPainter *target, const QRect &rect) {
                           const HalfUnitShift shift(target);

@@ -73,8 +73,8 @@ public:
     void reportHover(const QPoint &point);
     bool showHandleToolTip(const QHelpEvent *event) const;
 
-    QRect barRect(QStyleOptionSlider option) const;
-    void drawBar(QStylePainter *painter, const QStyleOptionSlider &option) const;
+    QRect barRect(QStyleOptionSlider *option) const;
+    void drawBar(QStylePainter *painter, QStyleOptionSlider *option) const;
     void drawHandle(QStylePainter *painter, Handle handle) const;
 
     RangeSlider *q_ptr;

@@ -273,12 +273,17 @@ void SpanSlider::initStyleOption(QStyleOptionSlider *option, SpanHandle handle) 
                              ? invertedAppearance() != (option->direction == Qt::RightToLeft)
                              : !invertedAppearance();
     option->direction = Qt::LeftToRight; // It is in upsideDown now.
-    option->sliderPosition = handle == LowerHandle ? m_lowerPosition : m_upperPosition;
-    option->sliderValue = handle == LowerHandle ? m_lower : m_upper;
+    placeHandle(option, handle);
     option->singleStep = singleStep();
     option->pageStep = pageStep();
     if (isHorizontal())
         option->state |= QStyle::State_Horizontal;
+}
+
+void SpanSlider::placeHandle(QStyleOptionSlider *option, SpanHandle handle) const
+{
+    option->sliderPosition = handle == LowerHandle ? m_lowerPosition : m_upperPosition;
+    option->sliderValue = handle == LowerHandle ? m_lower : m_upper;
 }
 
 bool SpanSlider::isHandleDown() const
@@ -393,7 +398,8 @@ int SpanSlider::valueUnderDrag(const QPoint &point) const
     const QRect area = rect().adjusted(-distance, -distance, distance, distance);
     if (distance >= 0 && !area.contains(point))
         return m_pressValue;
-    return pixelPosToRangeValue(pick(point) - m_offset);
+    return GrooveMapping(style(), option, orientation(), this)
+        .valueAtLeadingEdge(pick(point) - m_offset);
 }
 
 void SpanSlider::paintEvent(QPaintEvent *)
@@ -406,20 +412,21 @@ void SpanSlider::paintEvent(QPaintEvent *)
     option.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderTickmarks;
     painter.drawComplexControl(QStyle::CC_Slider, option);
 
-    drawSpan(&painter, spanRect(option));
+    const QRect span = spanRect(&option);
+    paintSpan(&painter, option, span);
 
     const bool lowerOnTop = m_lastPressed == LowerHandle;
-    drawHandle(&painter, lowerOnTop ? UpperHandle : LowerHandle);
-    drawHandle(&painter, lowerOnTop ? LowerHandle : UpperHandle);
+    paintHandle(&painter, &option, lowerOnTop ? UpperHandle : LowerHandle);
+    paintHandle(&painter, &option, lowerOnTop ? LowerHandle : UpperHandle);
 }
 
 /// From one handle's centre to the other's, four units thick.
-QRect SpanSlider::spanRect(QStyleOptionSlider option) const
+QRect SpanSlider::spanRect(QStyleOptionSlider *option) const
 {
     const auto centreAt = [&](int position) {
-        option.sliderPosition = position;
+        option->sliderPosition = position;
         return style()
-            ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this)
+            ->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderHandle, this)
             .center();
     };
     const QPoint lower = centreAt(m_lowerPosition);
@@ -436,6 +443,12 @@ void SpanSlider::drawSpan(QStylePainter *painter, const QRect &rect) const
 {
     QStyleOptionSlider option;
     initStyleOption(&option, UpperHandle);
+    paintSpan(painter, option, rect);
+}
+
+void SpanSlider::paintSpan(QStylePainter *painter, const QStyleOptionSlider &option,
+                           const QRect &rect) const
+{
     QRect groove =
         style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, this);
     const bool horizontal = isHorizontal();
@@ -474,11 +487,17 @@ void SpanSlider::drawHandle(QStylePainter *painter, SpanHandle handle) const
 {
     QStyleOptionSlider option;
     initStyleOption(&option, handle);
-    option.subControls = QStyle::SC_SliderHandle;
+    paintHandle(painter, &option, handle);
+}
+
+void SpanSlider::paintHandle(QStylePainter *painter, QStyleOptionSlider *option,
+                             SpanHandle handle) const
+{
+    placeHandle(option, handle);
+    option->subControls = QStyle::SC_SliderHandle;
     const QStyle::SubControl pressed = handle == LowerHandle ? m_lowerPressed : m_upperPressed;
-    if (pressed == QStyle::SC_SliderHandle) {
-        option.activeSubControls = QStyle::SC_SliderHandle;
-        option.state |= QStyle::State_Sunken;
-    }
-    painter->drawComplexControl(QStyle::CC_Slider, option);
+    const bool grabbed = pressed == QStyle::SC_SliderHandle;
+    option->activeSubControls = grabbed ? QStyle::SC_SliderHandle : QStyle::SC_None;
+    option->state.setFlag(QStyle::State_Sunken, grabbed);
+    painter->drawComplexControl(QStyle::CC_Slider, *option);
 }

@@ -143,7 +143,11 @@ private:
     void moveLowerHandle(int target, int upperBound);
     void moveUpperHandle(int target, int lowerBound);
     int valueUnderDrag(const QPoint &point) const;
-    QRect spanRect(QStyleOptionSlider option) const;
+    void placeHandle(QStyleOptionSlider *option, SpanHandle handle) const;
+    QRect spanRect(QStyleOptionSlider *option) const;
+    void paintSpan(QStylePainter *painter, const QStyleOptionSlider &option,
+                   const QRect &rect) const;
+    void paintHandle(QStylePainter *painter, QStyleOptionSlider *option, SpanHandle handle) const;
     void endGesture();
 
     int m_lower = 0;
