@@ -164,15 +164,15 @@ void RangeSlider::setValues(int min, int max, int main)
     }
 
     if (now.minimum != oldValues.minimum) {
-        HandleAccessibility::valueChanged(this, 0);
+        HandleAccessibility::valueChanged(this, 0, now.minimum);
         emit minimumValueChanged(now.minimum);
     }
     if (now.maximum != oldValues.maximum) {
-        HandleAccessibility::valueChanged(this, 1);
+        HandleAccessibility::valueChanged(this, 1, now.maximum);
         emit maximumValueChanged(now.maximum);
     }
     if (now.main != oldValues.main) {
-        HandleAccessibility::valueChanged(this, 2);
+        HandleAccessibility::valueChanged(this, 2, now.main);
         emit mainValueChanged(now.main);
     }
 
