@@ -1,0 +1,213 @@
+#include "listwidget.h"
+
+#include "edgeshadow_p.h"
+#include "ilistitem.h"
+
+#include <nocturne/theme/themepaint_p.h>
+
+#include <QtCore/QMimeData>
+#include <QtCore/QUrl>
+#include <QtGui/QDropEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QScrollBar>
+
+namespace {
+
+constexpr int contentMargin = 5;
+constexpr int backgroundShift = -6;
+
+} // namespace
+
+ListWidget::ListWidget(QWidget *parent)
+    : QListWidget(parent)
+{
+    viewport()->setAutoFillBackground(false);
+    connect(this, &QListWidget::itemSelectionChanged, this, &ListWidget::itemSelectionChange);
+}
+
+ListWidget::~ListWidget() = default;
+
+IListItem *ListWidget::findItem(const QString &key) const
+{
+    for (int row = 0; row < count(); ++row) {
+        auto *candidate = dynamic_cast<IListItem *>(item(row));
+        if (candidate && candidate->itemKey() == key)
+            return candidate;
+    }
+    return nullptr;
+}
+
+void ListWidget::setLayoutType(int type, int index)
+{
+    m_layoutType = type;
+    m_layoutIndex = index;
+}
+
+void ListWidget::shadow(bool shadow)
+{
+    if (m_shadow == shadow)
+        return;
+    m_shadow = shadow;
+    viewport()->update();
+}
+
+void ListWidget::setViewportMargins(int left, int top, int right, int bottom)
+{
+    QListWidget::setViewportMargins(left, top, right, bottom);
+}
+
+void ListWidget::itemSelectionChange()
+{
+    if (selectionMode() != SingleSelection)
+        return;
+
+    blockSignals(true);
+    if (selectedItems().isEmpty() && currentItem())
+        currentItem()->setSelected(true);
+    blockSignals(false);
+    emit itemSelectionChanged(currentRow());
+}
+
+void ListWidget::setCurrentRowSlot(int idx)
+{
+    setCurrentRow(idx);
+}
+
+void ListWidget::itemClick(QListWidgetItem *item)
+{
+    setCurrentItem(item);
+}
+
+QStringList ListWidget::mimeTypes() const
+{
+    return QListWidget::mimeTypes()
+           << QStringLiteral("text/uri-list") << QStringLiteral("text/plain");
+}
+
+Qt::DropActions ListWidget::supportedDropActions() const
+{
+    return Qt::CopyAction | Qt::MoveAction;
+}
+
+void ListWidget::dragEnterEvent(QDragEnterEvent *event)
+{
+    m_dragRefused = event->keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier);
+    if (m_dragRefused) {
+        event->ignore();
+    } else if (event->source() == this) {
+        m_draggedIndex = indexAt(event->pos());
+        event->accept();
+    } else if (event->mimeData()->hasUrls()) {
+        event->acceptProposedAction();
+    } else {
+        QListWidget::dragEnterEvent(event);
+    }
+}
+
+void ListWidget::dragMoveEvent(QDragMoveEvent *event)
+{
+    // The moves of a drag that was refused arrive all the same, for a second opinion.
+    if (m_dragRefused)
+        event->ignore();
+    else if (event->source())
+        event->accept();
+    else if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+    else
+        QListWidget::dragMoveEvent(event);
+}
+
+void ListWidget::dropEvent(QDropEvent *event)
+{
+    if (event->source()) {
+        dropFromWithin(event);
+        return;
+    }
+    if (event->mimeData()->hasUrls())
+        dropUrls(event);
+    QListWidget::dropEvent(event);
+}
+
+void ListWidget::dropFromWithin(QDropEvent *event)
+{
+    // A view that hears of a completed move deletes what it let be dragged.
+    const bool canCopy = event->possibleActions() & Qt::CopyAction;
+    event->setDropAction(canCopy ? Qt::CopyAction : Qt::IgnoreAction);
+    event->accept();
+
+    QListWidgetItem *dragged = itemFromIndex(m_draggedIndex);
+    QListWidgetItem *target = itemAt(event->pos());
+    m_draggedIndex = QModelIndex();
+    if (dragged && dragged != target)
+        emit itemMoved(dragged, target);
+}
+
+void ListWidget::dropUrls(QDropEvent *event)
+{
+    QStringList files;
+    const QList<QUrl> urls = event->mimeData()->urls();
+    for (const QUrl &url : urls)
+        files << url.toLocalFile();
+    if (files.isEmpty())
+        return;
+    emit dragDropFiles(files);
+    event->acceptProposedAction();
+}
+
+void ListWidget::mousePressEvent(QMouseEvent *event)
+{
+    if (dragEnabled() && event->button() == Qt::LeftButton) {
+        m_dragPending = true;
+        m_pressPos = event->pos();
+    }
+    QListWidget::mousePressEvent(event);
+}
+
+void ListWidget::mouseMoveEvent(QMouseEvent *event)
+{
+    const int distance = (event->pos() - m_pressPos).manhattanLength();
+    if (m_dragPending && distance < QApplication::startDragDistance())
+        return;
+    QListWidget::mouseMoveEvent(event);
+}
+
+void ListWidget::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_dragPending = false;
+    m_draggedIndex = QModelIndex();
+    QListWidget::mouseReleaseEvent(event);
+}
+
+void ListWidget::paintEvent(QPaintEvent *event)
+{
+    paintBackground();
+    QListWidget::paintEvent(event);
+    if (m_shadow && verticalScrollBar())
+        paintShadows();
+}
+
+void ListWidget::paintBackground()
+{
+    QPainter painter(viewport());
+    painter.fillRect(rect(), ThemePaint::window(backgroundShift));
+}
+
+void ListWidget::paintShadows()
+{
+    const int offset = verticalOffset() + contentMargin;
+    const bool above = offset > verticalScrollBar()->minimum();
+    const bool below = offset < verticalScrollBar()->maximum();
+    QPainter painter(viewport());
+    paintEdgeShadows(&painter, size(), above, below);
+}
+
+int ListWidget::horizontalOffset() const
+{
+    return QListWidget::horizontalOffset() - contentMargin;
+}
+
+int ListWidget::verticalOffset() const
+{
+    return QListWidget::verticalOffset() - contentMargin;
+}
