@@ -16,6 +16,7 @@ namespace {
 
 constexpr int contentMargin = 5;
 constexpr int backgroundShift = -6;
+constexpr int shadowHeight = 30;
 
 } // namespace
 
@@ -23,6 +24,9 @@ ListWidget::ListWidget(QWidget *parent)
     : QListWidget(parent)
 {
     viewport()->setAutoFillBackground(false);
+    // Every pixel is filled below, so what lies behind need not be painted, and scrolling moves
+    // what is there already.
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     connect(this, &QListWidget::itemSelectionChanged, this, &ListWidget::itemSelectionChange);
 }
 
@@ -179,12 +183,59 @@ void ListWidget::mouseReleaseEvent(QMouseEvent *event)
     QListWidget::mouseReleaseEvent(event);
 }
 
+void ListWidget::scrollContentsBy(int dx, int dy)
+{
+    QListWidget::scrollContentsBy(dx, dy);
+    const int movedUp = verticalOffset() - m_shownOffset;
+    m_shownOffset = verticalOffset();
+    if (!m_shadow)
+        return;
+
+    // The shadows have moved along with the items and have to be put right at either end.
+    const int upper = shadowHeight + qMax(0, -movedUp);
+    const int lower = shadowHeight + qMax(0, movedUp);
+    viewport()->update(0, 0, viewport()->width(), upper);
+    viewport()->update(0, height() - lower, viewport()->width(), lower);
+}
+
 void ListWidget::paintEvent(QPaintEvent *event)
 {
+    m_shownOffset = verticalOffset();
     paintBackground();
-    QListWidget::paintEvent(event);
+    paintItems(event->region());
     if (m_shadow && verticalScrollBar())
         paintShadows();
+}
+
+void ListWidget::paintItems(const QRegion &region)
+{
+    // The base class paints every item between the ends of a region; after a scroll, however, only
+    // those close to the ends have changed.
+    const auto paint = [this](const QRect &part) {
+        QPaintEvent event(part);
+        QListWidget::paintEvent(&event);
+    };
+    QRect part;
+    for (const QRect &rect : region) {
+        if (!part.isNull() && areRowsBetween(part.bottom(), rect.top())) {
+            paint(part);
+            part = rect;
+        } else {
+            part |= rect;
+        }
+    }
+    paint(part);
+}
+
+/// Whether the items at \a above and \a below are not even neighbours.
+bool ListWidget::areRowsBetween(int above, int below) const
+{
+    if (viewMode() != ListMode || flow() != TopToBottom || isWrapping())
+        return false;
+    const int x = viewport()->width() / 2;
+    const QModelIndex upper = indexAt(QPoint(x, above));
+    const QModelIndex lower = indexAt(QPoint(x, below));
+    return upper.isValid() && lower.isValid() && upper.row() + 1 < lower.row();
 }
 
 void ListWidget::paintBackground()

@@ -78,6 +78,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
     void paintEvent(QPaintEvent *event) override;
     int horizontalOffset() const override;
     int verticalOffset() const override;
@@ -86,6 +87,8 @@ private:
     void dropFromWithin(QDropEvent *event);
     void dropUrls(QDropEvent *event);
     void paintBackground();
+    void paintItems(const QRegion &region);
+    bool areRowsBetween(int above, int below) const;
     void paintShadows();
 
     bool m_dragPending = false;
@@ -93,6 +96,7 @@ private:
     bool m_shadow = true;
     QPoint m_pressPos;
     QPersistentModelIndex m_draggedIndex; ///< of the item, which may be deleted during the drag
+    int m_shownOffset = 0;                ///< the vertical offset of what is on the screen
     int m_layoutType = -1;
     int m_layoutIndex = -1;
 };
