@@ -11,8 +11,6 @@
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyleOption>
 
-#include <memory>
-
 // The hidden tools that all paint functions of the style share.
 
 namespace {
@@ -76,6 +74,7 @@ class tst_StyleHelpers : public QObject
 
 private slots:
     void init() { QPixmapCache::clear(); }
+    void cleanupTestCase() { delete m_theme.style(); }
 
     void derivedColors();
     void colorsOverTexture();
