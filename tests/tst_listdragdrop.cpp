@@ -11,8 +11,10 @@
 #include <QtGui/QDrag>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QScreen>
+#include <QtWidgets/QScrollBar>
 
 #include <cstdio>
+#include <functional>
 #include <memory>
 
 // Drags with a real pointer between real windows: the test process shows the lists, and a second
@@ -105,6 +107,34 @@ QPoint centerOf(const QListWidget &list, int row)
 {
     return list.viewport()->mapToGlobal(list.visualItemRect(list.item(row)).center());
 }
+
+/// Calls \a work while a drag from \a source is on its way.
+void duringDragFrom(QObject *source, const std::function<void()> &work)
+{
+    auto *drag = new QDrag(source);
+    drag->setMimeData(new QMimeData);
+    QTimer::singleShot(0, source, [&work] {
+        work();
+        QDrag::cancel();
+    });
+    drag->exec(Qt::CopyAction | Qt::MoveAction);
+}
+
+template <typename Event>
+void sendDrag(QListWidget &list, int row)
+{
+    static const QMimeData data;
+    const QPoint position = list.visualItemRect(list.item(row)).center();
+    Event event(position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(list.viewport(), &event);
+    QVERIFY(event.isAccepted());
+}
+
+class OpenSimpleList : public SimpleListWidget
+{
+public:
+    using SimpleListWidget::startDrag;
+};
 
 template <typename List>
 std::unique_ptr<List> shownList()
@@ -236,6 +266,79 @@ private slots:
         QCOMPARE(textsOf(*list), QStringLiteral("ABCDE"));
     }
 
+    void draggedItemIsForgotten()
+    {
+        const auto list = shownList<ListWidget>();
+        QStringList seen;
+        connect(list.get(), &ListWidget::itemMoved, this,
+                [&seen](QListWidgetItem *item) { seen << item->text(); });
+        pointer(at(listGeometry.bottomRight() + QPoint(300, 300)));
+        duringDragFrom(list.get(), [&] {
+            sendDrag<QDragEnterEvent>(*list, 0);
+            sendDrag<QDragMoveEvent>(*list, 1);
+            sendDrag<QDropEvent>(*list, 1);
+        });
+        QCOMPARE(seen, QStringList{QStringLiteral("A")});
+        duringDragFrom(list.get(), [&] { sendDrag<QDropEvent>(*list, 2); });
+        duringDragFrom(list.get(), [&] { sendDrag<QDragEnterEvent>(*list, 0); });
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton);
+        duringDragFrom(list.get(), [&] { sendDrag<QDropEvent>(*list, 2); });
+        duringDragFrom(list.get(), [&] {
+            sendDrag<QDragEnterEvent>(*list, 0);
+            delete list->item(0);
+            sendDrag<QDropEvent>(*list, 2);
+        });
+        QCOMPARE(seen, QStringList{QStringLiteral("A")});
+        QCOMPARE(textsOf(*list), QStringLiteral("BCDE"));
+    }
+
+    void simpleListDragsWhatIsSeen()
+    {
+        const auto shown = shownList<OpenSimpleList>();
+        OpenSimpleList &list = *shown;
+        list.resize(200, 130);
+        list.setSelectionMode(QAbstractItemView::MultiSelection);
+        list.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
+        list.verticalScrollBar()->setValue(20);
+        for (int row : {0, 2, 4})
+            list.item(row)->setSelected(true);
+        QCursor::setPos(list.viewport()->mapToGlobal(QPoint(30, 35)));
+
+        QImage image;
+        bool whole = false;
+        QTimer::singleShot(0, &list, [&] {
+            const auto *drag = list.findChild<QDrag *>();
+            QVERIFY(drag);
+            QCOMPARE(drag->hotSpot(), QPoint(30, 35));
+            image = drag->pixmap().toImage();
+            QListWidget target;
+            whole = target.model()->dropMimeData(drag->mimeData(), Qt::CopyAction, 0, 0, {})
+                    && target.count() == 3;
+            QDrag::cancel();
+        });
+        list.startDrag(Qt::CopyAction | Qt::MoveAction);
+
+        QVERIFY(whole);
+        QCOMPARE(image.size(), list.viewport()->size());
+        for (int row : {0, 1, 2}) {
+            const QRect seen =
+                list.visualItemRect(list.item(row)).intersected(list.viewport()->rect());
+            const QImage expected = list.viewport()->grab(seen).toImage();
+            const QImage part = image.copy(seen).convertToFormat(QImage::Format_RGB32);
+            if (row == 1)
+                QCOMPARE(image.copy(seen).pixelColor(40, 20).alpha(), 0);
+            else
+                QCOMPARE(part, expected.convertToFormat(QImage::Format_RGB32));
+        }
+        QCOMPARE(image.pixelColor(40, 120).alpha(), 0);
+
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        list.clearSelection();
+        list.startDrag(Qt::CopyAction);
+        QVERIFY(!list.findChild<QDrag *>());
+    }
+
     void dragImageOfSimpleListWidget()
     {
         const auto list = shownList<SimpleListWidget>();
@@ -281,8 +384,8 @@ int main(int argc, char *argv[])
     const bool isSource = argc > 1 && qstrcmp(argv[1], "--source") == 0;
     if (!isSource) {
         if (!server().start()) {
-            std::puts("SKIP: there is no Xvfb to show windows on");
-            return 0;
+            std::puts("Xvfb does not start, and there is no other display to be sure of");
+            return 1;
         }
         qputenv("DISPLAY", server().display().toLocal8Bit());
         qputenv("QT_QPA_PLATFORM", "xcb");

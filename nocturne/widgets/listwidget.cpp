@@ -128,9 +128,11 @@ void ListWidget::dropEvent(QDropEvent *event)
         dropFromWithin(event);
         return;
     }
-    if (event->mimeData()->hasUrls())
-        dropUrls(event);
+    const bool taken = event->mimeData()->hasUrls() && dropUrls(event);
     QListWidget::dropEvent(event);
+    // The base class declines what it makes no items of.
+    if (taken)
+        event->accept();
 }
 
 void ListWidget::dropFromWithin(QDropEvent *event)
@@ -147,16 +149,18 @@ void ListWidget::dropFromWithin(QDropEvent *event)
         emit itemMoved(dragged, target);
 }
 
-void ListWidget::dropUrls(QDropEvent *event)
+/// Reports the URLs; false when the list of them turns out to be empty.
+bool ListWidget::dropUrls(QDropEvent *event)
 {
     QStringList files;
     const QList<QUrl> urls = event->mimeData()->urls();
     for (const QUrl &url : urls)
         files << url.toLocalFile();
     if (files.isEmpty())
-        return;
+        return false;
     emit dragDropFiles(files);
     event->acceptProposedAction();
+    return true;
 }
 
 void ListWidget::mousePressEvent(QMouseEvent *event)

@@ -85,7 +85,7 @@ protected:
 
 private:
     void dropFromWithin(QDropEvent *event);
-    void dropUrls(QDropEvent *event);
+    bool dropUrls(QDropEvent *event);
     void paintBackground();
     void paintItems(const QRegion &region);
     bool areRowsBetween(int above, int below) const;
