@@ -123,7 +123,8 @@ void duringDragFrom(QObject *source, const std::function<void()> &work)
 template <typename Event>
 void sendDrag(QListWidget &list, int row)
 {
-    static const QMimeData data;
+    QMimeData data;
+    data.setUrls({QUrl(QStringLiteral("file:///a"))});
     const QPoint position = list.visualItemRect(list.item(row)).center();
     Event event(position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(list.viewport(), &event);
@@ -279,10 +280,16 @@ private slots:
             sendDrag<QDropEvent>(*list, 1);
         });
         QCOMPARE(seen, QStringList{QStringLiteral("A")});
-        duringDragFrom(list.get(), [&] { sendDrag<QDropEvent>(*list, 2); });
+
+        // A drag is given up, and then something from elsewhere in the application comes.
         duringDragFrom(list.get(), [&] { sendDrag<QDragEnterEvent>(*list, 0); });
         QTest::mouseRelease(list->viewport(), Qt::LeftButton);
-        duringDragFrom(list.get(), [&] { sendDrag<QDropEvent>(*list, 2); });
+        duringDragFrom(this, [&] {
+            sendDrag<QDragEnterEvent>(*list, 0);
+            sendDrag<QDropEvent>(*list, 2);
+        });
+        QCOMPARE(seen.size(), 1);
+
         duringDragFrom(list.get(), [&] {
             sendDrag<QDragEnterEvent>(*list, 0);
             delete list->item(0);

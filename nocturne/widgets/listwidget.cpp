@@ -96,8 +96,7 @@ Qt::DropActions ListWidget::supportedDropActions() const
 
 void ListWidget::dragEnterEvent(QDragEnterEvent *event)
 {
-    m_dragRefused = event->keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier);
-    if (m_dragRefused) {
+    if (event->keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) {
         event->ignore();
     } else if (event->source() == this) {
         m_draggedIndex = indexAt(event->pos());
@@ -111,10 +110,7 @@ void ListWidget::dragEnterEvent(QDragEnterEvent *event)
 
 void ListWidget::dragMoveEvent(QDragMoveEvent *event)
 {
-    // The moves of a drag that was refused arrive all the same, for a second opinion.
-    if (m_dragRefused)
-        event->ignore();
-    else if (event->source())
+    if (event->source())
         event->accept();
     else if (event->mimeData()->hasUrls())
         event->acceptProposedAction();

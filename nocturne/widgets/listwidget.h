@@ -92,7 +92,6 @@ private:
     void paintShadows();
 
     bool m_dragPending = false;
-    bool m_dragRefused = false;
     bool m_shadow = true;
     QPoint m_pressPos;
     QPersistentModelIndex m_draggedIndex; ///< of the item, which may be deleted during the drag
