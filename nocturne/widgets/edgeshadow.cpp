@@ -9,19 +9,18 @@
 
 namespace {
 
-constexpr int shadowExtent = 30;
 constexpr int barHeight = 6;
 constexpr qreal blurRadius = 30.0;
 
 QPixmap blurredShadow()
 {
-    QImage bar(shadowExtent, shadowExtent, QImage::Format_ARGB32);
+    QImage bar(edgeShadowHeight, edgeShadowHeight, QImage::Format_ARGB32);
     bar.fill(Qt::transparent);
     QPainter barPainter(&bar);
-    barPainter.fillRect(0, 0, shadowExtent, barHeight, Qt::black);
+    barPainter.fillRect(0, 0, edgeShadowHeight, barHeight, Qt::black);
     barPainter.end();
 
-    QPixmap shadow(shadowExtent, shadowExtent);
+    QPixmap shadow(edgeShadowHeight, edgeShadowHeight);
     shadow.fill(Qt::transparent);
     QPainter shadowPainter(&shadow);
     qt_blurImage(&shadowPainter, bar, blurRadius, false, false);
@@ -48,7 +47,7 @@ void paintEdgeShadows(QPainter *painter, const QSize &size, bool top, bool botto
 
     const QPixmap shadow = shadowPixmap();
     const QPainter::PixmapFragment fragment = QPainter::PixmapFragment::create(
-        QRectF(0, 0, size.width(), shadowExtent).center(), QRectF(shadow.rect()),
+        QRectF(0, 0, size.width(), edgeShadowHeight).center(), QRectF(shadow.rect()),
         qreal(size.width()) / shadow.width(), 1.0);
 
     if (top)
