@@ -28,6 +28,13 @@ TreeWidget::TreeWidget(QWidget *parent)
     : QTreeWidget(parent)
 {}
 
+void TreeWidget::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                             const QVector<int> &roles)
+{
+    m_measuredFor = -1;
+    QTreeWidget::dataChanged(topLeft, bottomRight, roles);
+}
+
 void TreeWidget::paintEvent(QPaintEvent *event)
 {
     {
@@ -52,14 +59,14 @@ void TreeWidget::scrollContentsBy(int dx, int dy)
     if (m_painted.top || now.top)
         viewport()->update(0, 0, width(), edgeShadowHeight + qMax(0, pixels));
     if (m_painted.bottom || now.bottom) {
-        const int height = edgeShadowHeight + qMax(0, -pixels);
-        viewport()->update(0, this->height() - height, width(), height);
+        const int edge = edgeShadowHeight + qMax(0, -pixels);
+        viewport()->update(0, height() - edge, width(), edge);
     }
 }
 
 void TreeWidget::updateGeometries()
 {
-    m_measuredRows = -1;
+    m_measuredFor = -1;
     QTreeWidget::updateGeometries();
 }
 
@@ -82,7 +89,8 @@ bool TreeWidget::offsetIsBelowMaximum()
     if (uniformRowHeights() || verticalScrollMode() == QAbstractItemView::ScrollPerPixel)
         return verticalOffset() < maximum;
 
-    if (m_measuredRows < 0 || !m_nextRow.isValid()) {
+    if (m_measuredFor != maximum || !m_nextRow.isValid()) {
+        m_measuredFor = maximum;
         m_nextRow = firstRow(*this);
         m_measuredRows = 0;
         m_measuredHeight = 0;

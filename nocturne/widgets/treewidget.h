@@ -28,6 +28,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                     const QVector<int> &roles = QVector<int>()) override;
 
 private:
     struct Shadows
@@ -42,9 +44,11 @@ private:
 
     Shadows m_painted;
 
-    // The first m_measuredRows rows are m_measuredHeight pixels high; m_nextRow follows them.
+    // The first m_measuredRows rows are m_measuredHeight pixels high, m_nextRow follows them; good
+    // for the scroll bar maximum m_measuredFor, none when that is negative.
+    int m_measuredFor = -1;
     QPersistentModelIndex m_nextRow;
-    int m_measuredRows = -1;
+    int m_measuredRows = 0;
     int m_measuredHeight = 0;
 };
 
