@@ -43,6 +43,7 @@ void paintCheckIndicator(QAbstractButton *button, const QStyleOptionButton &opti
         button->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, button);
 
     QPainter painter(button);
+    painter.setLayoutDirection(option.direction);
     paintBox(&painter, cell.adjusted(3, 3, -3, -3));
     if (option.state & QStyle::State_On)
         paintDot(&painter, cell.adjusted(5, 5, -5, -5));

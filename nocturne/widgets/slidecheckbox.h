@@ -9,11 +9,11 @@
 /// one, with the state beside it.
 ///
 /// The switch fills the widget, on black, and has no caption; its text is 28 pixels high. Give it
-/// a fixed size of about 100 by 34.
+/// a fixed size of about 120 by 34.
 ///
 /// \code
 /// auto *power = new SlideCheckBox(parent);
-/// power->setFixedSize(100, 34);
+/// power->setFixedSize(120, 34);
 /// \endcode
 class NOCTURNE_EXPORT SlideCheckBox : public QCheckBox
 {

@@ -40,6 +40,8 @@ TabBar::TabBar(QWidget *parent)
     setExpanding(true);
     setDocumentMode(true);
     setElideMode(Qt::ElideNone);
+    // Not every style asks for it, and a tab under the mouse looks different under each.
+    setAttribute(Qt::WA_Hover);
 }
 
 void TabBar::setWidth(int width)

@@ -82,7 +82,7 @@ QWidget *createSwitches()
     QVector<QWidget *> switches;
     for (bool on : {true, false}) {
         auto *slide = new SlideCheckBox;
-        slide->setFixedSize(100, 34);
+        slide->setFixedSize(120, 34);
         slide->setChecked(on);
         switches << slide;
     }
