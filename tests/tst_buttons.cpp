@@ -261,8 +261,7 @@ private:
         QTest::mouseClick(&button, Qt::LeftButton);
         QVERIFY(button.isChecked());
         QTRY_VERIFY(button.isEnabled());
-        QVERIFY2(timer.elapsed() >= 500 && timer.elapsed() < 900,
-                 qPrintable(QString::number(timer.elapsed())));
+        QVERIFY2(timer.elapsed() >= 499, qPrintable(QString::number(timer.elapsed())));
 
         for (int delay : {0, -5}) {
             button.setDelay(delay);
@@ -279,13 +278,10 @@ private:
         QTRY_VERIFY_WITH_TIMEOUT(button.isEnabled(), 1000);
         button.setDelay(50);
         button.toggle();
-        button.setDelay(200);
+        button.setDelay(3000);
         button.toggle();
         QVERIFY(!button.isEnabled());
-        timer.start();
-        QTRY_VERIFY(button.isEnabled());
-        QVERIFY2(timer.elapsed() < 190, qPrintable(QString::number(timer.elapsed())));
-        QTest::qWait(250); // the second timer finds the button enabled
+        QTRY_VERIFY_WITH_TIMEOUT(button.isEnabled(), 2000);
 
         auto *doomed = new Button;
         doomed->setCheckable(true);

@@ -8,7 +8,7 @@
 #include <nocturne/RadioButton>
 #include <nocturne/SlideCheckBox>
 
-#include <QtWidgets/QFormLayout>
+#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QSlider>
 
@@ -24,7 +24,7 @@ QWidget *rowOf(const QVector<QWidget *> &widgets)
 {
     auto *row = new QWidget;
     auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 6, 0, 6);
+    layout->setContentsMargins(8, 6, 0, 6);
     for (QWidget *widget : widgets)
         layout->addWidget(widget);
     layout->addStretch(1);
@@ -122,15 +122,19 @@ QWidget *createLabels()
 QWidget *createButtonsPage(QWidget *parent)
 {
     auto *page = new QWidget(parent);
-    auto *form = new QFormLayout(page);
-    const auto add = [form](const char *caption, QWidget *row) {
-        form->addRow(text(caption), row);
+    auto *grid = new QGridLayout(page);
+    int line = 0;
+    const auto add = [grid, &line](const char *caption, QWidget *row) {
+        grid->addWidget(new QLabel(text(caption)), line, 0);
+        grid->addWidget(row, line++, 1);
     };
     add(QT_TRANSLATE_NOOP("Gallery", "Check boxes"), createCheckBoxes());
     add(QT_TRANSLATE_NOOP("Gallery", "Radio buttons, set by id"), createRadioButtons());
     add(QT_TRANSLATE_NOOP("Gallery", "Switches"), createSwitches());
     add(QT_TRANSLATE_NOOP("Gallery", "Delay buttons"), createDelayButtons());
     add(QT_TRANSLATE_NOOP("Gallery", "Clickable label"), createLabels());
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(line, 1);
     return page;
 }
 

@@ -130,8 +130,10 @@ TreeWidget *createTree()
 QWidget *createSplitter()
 {
     auto *splitter = new Splitter;
+    TreeWidget *bare = createTree();
+    bare->setHeaderHidden(true);
+    splitter->addWidget(bare);
     TreeWidget *scrolled = createTree();
-    splitter->addWidget(createTree());
     splitter->addWidget(scrolled);
     scrolled->verticalScrollBar()->setValue(60);
     auto *list = new ListView;
