@@ -175,7 +175,7 @@ private slots:
             QVERIFY(hasColor(78, 29, Qt::black));
             QVERIFY(hasColor(on ? 4 : 74, 14, track));
             QVERIFY(hasColor(40, 2, track));
-            for (int x : {2, 15, 27})
+            for (int x : {1, 15, 28})
                 QVERIFY(hasColor(knob + x, 15, Qt::white));
             QVERIFY(hasColor(knob + 15, 2, Qt::white));
             QVERIFY(hasColor(knob + 15, 27, Qt::white));
@@ -186,6 +186,7 @@ private slots:
         const QImage image = TestSupport::render(box);
         const int left = on ? 20 : 40;
         QVERIFY(count(image, QRect(left, 3, on ? 28 : 36, 19), pen) > 10);
+        QCOMPARE(count(image, QRect(left, 21, 26, 5), pen), 0); // nothing below the baseline
         const QRect before = on ? QRect(3, 10, 17, 12) : QRect(31, 10, 9, 12);
         QCOMPARE(count(image, before, track), before.width() * before.height());
     }

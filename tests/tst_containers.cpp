@@ -300,6 +300,19 @@ private slots:
         QCOMPARE(bar->tabRect(1), QRect(120, 0, 120, 30));
     }
 
+    void tabBarWidthOfALoneBar()
+    {
+        const std::unique_ptr<TabBar> bar(
+            tabBar({QStringLiteral("Media"), QStringLiteral("Audio")}));
+        bar->adjustSize();
+        bar->show();
+        QVERIFY(QTest::qWaitForWindowExposed(bar.get()));
+        QCOMPARE(bar->tabRect(1), QRect(90, 0, 90, 30));
+        bar->setWidth(120);
+        QCOMPARE(bar->tabRect(1), QRect(120, 0, 120, 30));
+        QCOMPARE(bar->width(), 240);
+    }
+
     void textlessTabFillsTheTabWidget()
     {
         const std::unique_ptr<TabWidget> tabs(
