@@ -62,7 +62,7 @@ StretchedShadow stretchedShadow(int width, int ratio)
     drawStretched(&painter, width);
     painter.end();
 
-    const StretchedShadow shadow{top, top.mirrored()};
+    StretchedShadow shadow{top, top.mirrored()};
     kept.insert(key, new StretchedShadow(shadow));
     return shadow;
 }
@@ -71,7 +71,7 @@ StretchedShadow stretchedShadow(int width, int ratio)
 /// not start at whole pixels.
 int wholeRatio(const QPainter &painter)
 {
-    const QTransform transform = painter.deviceTransform();
+    const QTransform &transform = painter.deviceTransform();
     const int ratio = qRound(transform.m11());
     const QTransform whole(ratio, 0, 0, ratio, qRound(transform.dx()), qRound(transform.dy()));
     return ratio > 0 && transform == whole ? ratio : 0;

@@ -25,6 +25,7 @@ void SlideCheckBox::paintEvent(QPaintEvent *)
 {
     const int w = width();
     const int h = height();
+    const int radius = h / 2;
     const bool on = isChecked();
 
     QPainter painter(this);
@@ -33,7 +34,7 @@ void SlideCheckBox::paintEvent(QPaintEvent *)
     painter.setFont(switchFont(painter.font()));
 
     painter.setBrush(QColor(on ? onColor : offColor));
-    painter.drawRoundedRect(0, 0, w - 2, h - 2, h / 2, h / 2);
+    painter.drawRoundedRect(0, 0, w - 2, h - 2, radius, radius);
     painter.setBrush(Qt::white);
     painter.drawEllipse(on ? w - h : 0, 0, h, h);
     painter.drawText(on ? w / 4 : w / 2, static_cast<int>(h / 1.5),
