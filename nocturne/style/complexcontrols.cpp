@@ -75,7 +75,8 @@ void DarkFusionStyle::drawComplexControl(ComplexControl control, const QStyleOpt
     case CC_Dial:
         return paintAs(ComplexControls::paintDial, this, option, painter, widget);
     default:
-        return QCommonStyle::drawComplexControl(control, option, painter, widget);
+        if (option)
+            QCommonStyle::drawComplexControl(control, option, painter, widget);
     }
 }
 
@@ -84,12 +85,17 @@ QStyle::SubControl DarkFusionStyle::hitTestComplexControl(ComplexControl control
                                                           const QPoint &position,
                                                           const QWidget *widget) const
 {
+    if (!option)
+        return SC_None;
     return QCommonStyle::hitTestComplexControl(control, option, position, widget);
 }
 
 QRect DarkFusionStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
                                       SubControl part, const QWidget *widget) const
 {
+    // The common style reads some options without looking whether there is one.
+    if (!option)
+        return QRect();
     const QRect base = QCommonStyle::subControlRect(control, option, part, widget);
     switch (control) {
     case CC_SpinBox:
