@@ -18,12 +18,17 @@ QPalette themePalette()
     return theme.palette();
 }
 
-/// The style with the palette it is meant for. A program that installs it by name installs no
-/// palette.
+/// The style together with the palette it is meant for, because a program that knows it by name
+/// only installs none.
 class ThemedDarkFusionStyle : public DarkFusionStyle
 {
 public:
+    using DarkFusionStyle::polish;
+
     QPalette standardPalette() const override { return themePalette(); }
+
+    /// Without this, the colours of the desktop would win over those of the style.
+    void polish(QPalette &palette) override { palette = themePalette().resolve(palette); }
 };
 
 } // namespace
