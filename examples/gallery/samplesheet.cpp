@@ -78,11 +78,17 @@ Picture *Picture::of(QWidget *original, QWidget *owner)
     return picture;
 }
 
+void Picture::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange)
+        m_owner->setEnabled(isEnabled());
+}
+
 void Picture::paintEvent(QPaintEvent *)
 {
-    m_original->setEnabled(isEnabled());
     QPainter painter(this);
-    m_original->render(&painter);
+    painter.drawPixmap(0, 0, m_original->grab());
 }
 
 QIcon sampleIcon(const QColor &color)

@@ -46,6 +46,7 @@ public:
     static Picture *of(QWidget *original, QWidget *owner);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

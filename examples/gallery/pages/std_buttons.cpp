@@ -51,8 +51,7 @@ void addPushButtons(SampleSheet *sheet)
         button->setText(QString());
         button->setIcon(sampleIcon());
     });
-    add(Gallery::tr("With menu"),
-        [](QPushButton *button) { button->setMenu(sampleMenu(button)); });
+    add(Gallery::tr("With menu"), [](QPushButton *button) { button->setMenu(sampleMenu(button)); });
 }
 
 void addToolButtons(SampleSheet *sheet)
@@ -72,15 +71,12 @@ void addToolButtons(SampleSheet *sheet)
         button->setCheckable(true);
         button->setChecked(true);
     });
-    add(Gallery::tr("Text"), [](QToolButton *button) {
-        button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    });
-    add(Gallery::tr("Text beside icon"), [](QToolButton *button) {
-        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    });
-    add(Gallery::tr("Text under icon"), [](QToolButton *button) {
-        button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    });
+    add(Gallery::tr("Text"),
+        [](QToolButton *button) { button->setToolButtonStyle(Qt::ToolButtonTextOnly); });
+    add(Gallery::tr("Text beside icon"),
+        [](QToolButton *button) { button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon); });
+    add(Gallery::tr("Text under icon"),
+        [](QToolButton *button) { button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon); });
     add(Gallery::tr("Menu on arrow"), [](QToolButton *button) {
         button->setMenu(sampleMenu(button));
         button->setPopupMode(QToolButton::MenuButtonPopup);

@@ -44,8 +44,8 @@ QWidget *createCombosPage(QWidget *parent)
         for (bool icons : {false, true}) {
             QString label = editable ? Gallery::tr("Editable") : Gallery::tr("Not editable");
             if (icons)
-                label = editable ? Gallery::tr("Editable, icons")
-                                 : Gallery::tr("Not editable, icons");
+                label =
+                    editable ? Gallery::tr("Editable, icons") : Gallery::tr("Not editable, icons");
             addPoses<QComboBox>(sheet, label, poses, [editable, icons](QComboBox *combo) {
                 combo->setEditable(editable);
                 addSources(combo, icons);

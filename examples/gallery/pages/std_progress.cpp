@@ -51,5 +51,4 @@ QWidget *createProgressPage(QWidget *parent)
 
 } // namespace
 
-GALLERY_PAGE(140, "std_progress", QT_TRANSLATE_NOOP("Gallery", "Progress bars"),
-             createProgressPage)
+GALLERY_PAGE(140, "std_progress", QT_TRANSLATE_NOOP("Gallery", "Progress bars"), createProgressPage)

@@ -52,7 +52,7 @@ QScrollArea *scrolledPicture(QStyle *style)
         area->verticalScrollBar()->setStyle(style);
     }
     auto *label = new QLabel(Gallery::tr("A picture that is larger than its window"));
-    label->setAlignment(Qt::AlignCenter);
+    label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     label->setFixedSize(500, 400);
     area->setWidget(label);
     area->setFixedSize(260, 150);

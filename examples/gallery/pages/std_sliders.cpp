@@ -54,8 +54,8 @@ void addSliders(SampleSheet *sheet, Qt::Orientation orientation)
             setUpSlider(slider, orientation, tick.position);
         });
     }
-    const QString inverted = orientation == Qt::Horizontal ? Gallery::tr("Inverted")
-                                                           : Gallery::tr("Vertical, inverted");
+    const QString inverted =
+        orientation == Qt::Horizontal ? Gallery::tr("Inverted") : Gallery::tr("Vertical, inverted");
     addPoses<QSlider>(sheet, inverted, poses, [&](QSlider *slider) {
         setUpSlider(slider, orientation, QSlider::NoTicks);
         slider->setInvertedAppearance(true);

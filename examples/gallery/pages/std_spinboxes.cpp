@@ -52,5 +52,4 @@ QWidget *createSpinBoxesPage(QWidget *parent)
 
 } // namespace
 
-GALLERY_PAGE(110, "std_spinboxes", QT_TRANSLATE_NOOP("Gallery", "Spin boxes"),
-             createSpinBoxesPage)
+GALLERY_PAGE(110, "std_spinboxes", QT_TRANSLATE_NOOP("Gallery", "Spin boxes"), createSpinBoxesPage)

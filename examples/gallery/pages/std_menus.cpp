@@ -1,0 +1,91 @@
+#include "gallerypage.h"
+#include "samplesheet.h"
+
+#include <QtWidgets/QActionGroup>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QMenuBar>
+
+namespace {
+
+QAction *checkable(QAction *action, bool on)
+{
+    action->setCheckable(true);
+    action->setChecked(on);
+    return action;
+}
+
+/// A menu with an item of every kind.
+QMenu *fullMenu()
+{
+    auto *menu = new QMenu;
+    menu->addAction(Gallery::tr("&Open…"))->setShortcut(QKeySequence::Open);
+    menu->addAction(sampleIcon(), Gallery::tr("With an icon"));
+    menu->setDefaultAction(menu->addAction(Gallery::tr("The default item")));
+    QAction *disabled = menu->addAction(sampleIcon(), Gallery::tr("Disabled"));
+    disabled->setShortcut(QKeySequence::Save);
+    disabled->setEnabled(false);
+    menu->addSection(Gallery::tr("Section"));
+    checkable(menu->addAction(Gallery::tr("Checked")), true);
+    checkable(menu->addAction(Gallery::tr("Not checked")), false);
+    checkable(menu->addAction(sampleIcon(), Gallery::tr("Checked, with an icon")), true);
+    QAction *checkedDisabled = checkable(menu->addAction(Gallery::tr("Checked, disabled")), true);
+    checkedDisabled->setEnabled(false);
+    menu->addSeparator();
+    auto *group = new QActionGroup(menu);
+    for (const QString &text : {Gallery::tr("One of two"), Gallery::tr("The other one")})
+        group->addAction(checkable(menu->addAction(text), group->actions().isEmpty()));
+    menu->addSeparator();
+    menu->addMenu(Gallery::tr("More"))->addAction(Gallery::tr("Inside"));
+    QMenu *closed = menu->addMenu(Gallery::tr("Nothing more"));
+    closed->setEnabled(false);
+    return menu;
+}
+
+/// The menu with its \a row-th action under the pointer; none for −1.
+QWidget *openMenu(int row)
+{
+    QMenu *menu = fullMenu();
+    menu->resize(menu->sizeHint());
+    if (row >= 0)
+        menu->setActiveAction(menu->actions().at(row));
+    return new Picture(menu);
+}
+
+QMenuBar *menuBar()
+{
+    auto *bar = new QMenuBar;
+    bar->setNativeMenuBar(false);
+    for (const QString &title : {Gallery::tr("&Show"), Gallery::tr("&Edit"), Gallery::tr("&View")})
+    {
+        QMenu *menu = bar->addMenu(title);
+        menu->addAction(Gallery::tr("Open…"));
+        menu->addAction(Gallery::tr("Close"));
+    }
+    bar->addAction(Gallery::tr("Disabled"))->setEnabled(false);
+    return bar;
+}
+
+QWidget *createMenusPage(QWidget *parent)
+{
+    auto *page = new QWidget(parent);
+    auto *column = new QVBoxLayout(page);
+    column->setMenuBar(menuBar());
+    auto *row = new QHBoxLayout;
+    const QMenu *const counted = fullMenu();
+    const int submenu = counted->actions().size() - 2;
+    delete counted;
+    for (int selected : {-1, 0, 7, submenu}) {
+        QWidget *menu = openMenu(selected);
+        row->addWidget(menu, 0, Qt::AlignTop);
+    }
+    row->addStretch(1);
+    column->addLayout(row);
+    column->addStretch(1);
+    return page;
+}
+
+} // namespace
+
+GALLERY_PAGE(175, "std_menus", QT_TRANSLATE_NOOP("Gallery", "Menus"), createMenusPage)
