@@ -178,7 +178,7 @@ void paintUnshadeGlyph(const TitleBar &bar, QPainter *painter, const QRect &butt
     painter->drawPixmap(button.adjusted(5, 7, -5, -7), arrowPixmap(bar.glyphColor(), 180));
 }
 
-void paintSystemMenuGlyph(const TitleBar &bar, QPainter *painter, const QRect &button)
+void paintSystemMenuIcon(const TitleBar &bar, QPainter *painter, const QRect &button)
 {
     if (!bar.option.icon.isNull()) {
         bar.option.icon.paint(painter, button, Qt::AlignCenter);
@@ -189,6 +189,15 @@ void paintSystemMenuGlyph(const TitleBar &bar, QPainter *painter, const QRect &b
     proxy->drawItemPixmap(painter, button, Qt::AlignCenter, icon.pixmap(16, 16));
 }
 
+QString titleBarButtonKey(const TitleBar &bar, QStyle::SubControl button, const QSize &size)
+{
+    const QString prefix =
+        bar.isActive() ? QStringLiteral("titlebarbutton-active") : QStringLiteral("titlebarbutton");
+    return StyleHelpers::styleCacheKey(prefix, &bar.option, size) + QChar(uint(button));
+}
+
+/// Bars come in any width, their buttons in one size: those are worth keeping. \a paintGlyph may
+/// be null for a button whose symbol is not the same on every bar.
 void paintTitleBarButton(const TitleBar &bar, QPainter *painter, QStyle::SubControl button,
                          bool shown, PaintGlyph paintGlyph)
 {
@@ -197,12 +206,19 @@ void paintTitleBarButton(const TitleBar &bar, QPainter *painter, QStyle::SubCont
     const QRect rect = bar.part(button);
     if (!rect.isValid())
         return;
-    const bool active = bar.option.activeSubControls & button;
-    const bool hover = active && bar.option.state & QStyle::State_MouseOver;
-    const bool sunken = active && bar.option.state & QStyle::State_Sunken;
-    const PainterSaver saver(painter);
-    StyleHelpers::drawTitleBarButton(painter, &bar.option, rect, hover, sunken);
-    paintGlyph(bar, painter, rect);
+    const QSize size = rect.size() + QSize(1, 1); // light falls on what is right of it and below
+    const QString key = titleBarButtonKey(bar, button, size);
+    StyleHelpers::drawCached(painter, rect.topLeft(), key, size, [&](QPainter *cached) {
+        const QRect local(QPoint(), rect.size());
+        const bool active = bar.option.activeSubControls & button;
+        const bool hover = active && bar.option.state & QStyle::State_MouseOver;
+        const bool sunken = active && bar.option.state & QStyle::State_Sunken;
+        StyleHelpers::drawTitleBarButton(cached, &bar.option, local, hover, sunken);
+        if (paintGlyph)
+            paintGlyph(bar, cached, local);
+    });
+    if (button == QStyle::SC_TitleBarSysMenu)
+        paintSystemMenuIcon(bar, painter, rect);
 }
 
 void paintTitleBarButtons(const TitleBar &bar, QPainter *painter)
@@ -227,7 +243,7 @@ void paintTitleBarButtons(const TitleBar &bar, QPainter *painter)
     paintTitleBarButton(bar, painter, QStyle::SC_TitleBarShadeButton, canShade, paintShadeGlyph);
     paintTitleBarButton(bar, painter, QStyle::SC_TitleBarUnshadeButton, canShade,
                         paintUnshadeGlyph);
-    paintTitleBarButton(bar, painter, QStyle::SC_TitleBarSysMenu, hasMenu, paintSystemMenuGlyph);
+    paintTitleBarButton(bar, painter, QStyle::SC_TitleBarSysMenu, hasMenu, nullptr);
 }
 
 } // namespace

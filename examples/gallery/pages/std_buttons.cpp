@@ -38,10 +38,6 @@ void addPushButtons(SampleSheet *sheet)
     add(Gallery::tr("Plain"), [](QPushButton *) {});
     add(Gallery::tr("Default"), [](QPushButton *button) { button->setDefault(true); });
     add(Gallery::tr("Flat"), [](QPushButton *button) { button->setFlat(true); });
-    add(Gallery::tr("Flat default"), [](QPushButton *button) {
-        button->setFlat(true);
-        button->setDefault(true);
-    });
     add(Gallery::tr("Checked"), [](QPushButton *button) {
         button->setCheckable(true);
         button->setChecked(true);

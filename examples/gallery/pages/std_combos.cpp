@@ -26,8 +26,7 @@ QWidget *openList(QComboBox *combo)
     int height = container->height() - container->contentsRect().height();
     for (int row = 0; row < rows; ++row)
         height += view->sizeHintForRow(row);
-    container->resize(qMax(combo->sizeHint().width(), view->sizeHintForColumn(0)) + 24,
-                      height + 12);
+    container->resize(qMax(combo->sizeHint().width(), view->sizeHintForColumn(0)) + 24, height + 4);
     return Picture::of(container, combo);
 }
 
@@ -56,7 +55,9 @@ QWidget *createCombosPage(QWidget *parent)
         combo->setFrame(false);
         addSources(combo, false);
     });
-    sheet->addRow(Gallery::tr("Fonts"), {new QFontComboBox});
+    auto *fonts = new QFontComboBox;
+    fonts->setMaximumWidth(160);
+    sheet->addRow(Gallery::tr("Fonts"), {fonts});
 
     sheet->addHeading(Gallery::tr("Open lists"));
     auto *editable = new QComboBox;

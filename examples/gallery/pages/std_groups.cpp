@@ -54,14 +54,14 @@ constexpr FrameSample frames[] = {
     {QT_TRANSLATE_NOOP("Gallery", "Box"), QFrame::Box},
     {QT_TRANSLATE_NOOP("Gallery", "Panel"), QFrame::Panel},
     {QT_TRANSLATE_NOOP("Gallery", "Styled panel"), QFrame::StyledPanel},
-    {QT_TRANSLATE_NOOP("Gallery", "Horizontal line"), QFrame::HLine},
+    {nullptr, QFrame::HLine},
 };
 
 void addFrames(QGridLayout *grid, QFrame::Shadow shadow, int row)
 {
     int column = 0;
     for (const FrameSample &sample : frames) {
-        auto *frame = new QLabel(Gallery::tr(sample.name));
+        auto *frame = new QLabel(sample.name ? Gallery::tr(sample.name) : QString());
         frame->setFrameStyle(int(sample.shape) | int(shadow));
         frame->setMinimumHeight(40);
         frame->setAlignment(Qt::AlignHCenter | Qt::AlignTop);

@@ -30,7 +30,7 @@ protected:
         option.initFrom(this);
         option.state |= m_state;
         option.text = m_text;
-        option.icon = sampleIcon();
+        option.icon = sampleIcon(QColor(237, 110, 0));
         option.titleBarState = m_titleBarState;
         option.titleBarFlags = Qt::WindowTitleHint | Qt::WindowSystemMenuHint
                                | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint
@@ -38,7 +38,12 @@ protected:
         option.subControls = QStyle::SC_All;
         if (m_state)
             option.activeSubControls = QStyle::SC_TitleBarMaxButton;
-        QStylePainter(this).drawComplexControl(QStyle::CC_TitleBar, option);
+        // A window's corners are cut by its mask.
+        QStylePainter painter(this);
+        QStyleHintReturnMask mask;
+        if (style()->styleHint(QStyle::SH_WindowFrame_Mask, &option, this, &mask))
+            painter.setClipRegion(mask.region);
+        painter.drawComplexControl(QStyle::CC_TitleBar, option);
     }
 
 private:
@@ -74,6 +79,7 @@ QMdiArea *mdiArea()
     auto *area = new QMdiArea;
     addWindow(area, Gallery::tr("Inactive window"), QRect(10, 10, 300, 160));
     QMdiSubWindow *shaded = addWindow(area, Gallery::tr("Shaded window"), QRect(330, 10, 300, 160));
+    shaded->setWindowFlags(shaded->windowFlags() | Qt::WindowShadeButtonHint);
     shaded->showShaded();
     QMdiSubWindow *small =
         addWindow(area, Gallery::tr("Minimized window"), QRect(10, 200, 240, 100));

@@ -3,9 +3,10 @@
 
 #include <QtWidgets/QActionGroup>
 #include <QtWidgets/QBoxLayout>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
+#include <QtWidgets/QStyleOption>
+#include <QtWidgets/QStylePainter>
 
 namespace {
 
@@ -53,6 +54,46 @@ QWidget *openMenu(int row)
     return new Picture(menu);
 }
 
+/// An item of a menu bar in one state.
+class MenuBarItem : public QWidget
+{
+public:
+    MenuBarItem(const QString &text, QStyle::State state)
+        : m_text(text)
+        , m_state(state)
+    {
+        setFixedSize(90, 24);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QStyleOptionMenuItem option;
+        option.initFrom(this);
+        option.state |= m_state;
+        option.menuItemType = QStyleOptionMenuItem::Normal;
+        option.text = m_text;
+        QStylePainter(this).drawControl(QStyle::CE_MenuBarItem, option);
+    }
+
+private:
+    const QString m_text;
+    const QStyle::State m_state;
+};
+
+QWidget *menuBarItems()
+{
+    auto *items = new QWidget;
+    auto *row = new QHBoxLayout(items);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(new MenuBarItem(Gallery::tr("Normal"), QStyle::State_None));
+    row->addWidget(new MenuBarItem(Gallery::tr("Hovered"), QStyle::State_Selected));
+    row->addWidget(
+        new MenuBarItem(Gallery::tr("Open"), QStyle::State_Selected | QStyle::State_Sunken));
+    row->addStretch(1);
+    return items;
+}
+
 QMenuBar *menuBar()
 {
     auto *bar = new QMenuBar;
@@ -82,6 +123,7 @@ QWidget *createMenusPage(QWidget *parent)
     }
     row->addStretch(1);
     column->addLayout(row);
+    column->addWidget(menuBarItems());
     column->addStretch(1);
     return page;
 }

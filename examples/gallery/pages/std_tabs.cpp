@@ -38,7 +38,7 @@ QTabWidget *tabs(const QString &title)
         tabs->addTab(label, text);
     }
     tabs->setCurrentIndex(1);
-    tabs->setFixedSize(260, 200);
+    tabs->setFixedSize(260, 280);
     return tabs;
 }
 
@@ -82,15 +82,17 @@ QWidget *createTabsPage(QWidget *parent)
     closable->setMovable(true);
     for (int i = 0; i < closable->count(); ++i)
         closable->setTabIcon(i, sampleIcon());
-    closable->setFixedWidth(420);
+    closable->setFixedSize(420, 120);
     grid->addWidget(closable, 2, 0, 1, 2);
 
     QTabWidget *document = tabs(Gallery::tr("Document mode, one tab disabled"));
     document->setDocumentMode(true);
+    document->setFixedSize(260, 120);
     document->setTabEnabled(2, false);
     grid->addWidget(document, 2, 2);
 
     QTabWidget *crowded = tabs(Gallery::tr("More tabs than there is room"));
+    crowded->setFixedSize(260, 120);
     for (int i = 1; i <= 8; ++i)
         crowded->addTab(new QLabel, Gallery::tr("Source %1").arg(i));
     grid->addWidget(crowded, 2, 3);

@@ -30,6 +30,7 @@ QTreeWidget *tree(Qt::SortOrder order)
         }
         item->setExpanded(show != 2);
     }
+    tree->resizeColumnToContents(0);
     tree->setSortingEnabled(true);
     tree->sortByColumn(0, order);
     tree->setAlternatingRowColors(order == Qt::AscendingOrder);
