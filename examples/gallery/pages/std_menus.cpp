@@ -3,6 +3,7 @@
 
 #include <QtWidgets/QActionGroup>
 #include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QStyleOption>
@@ -17,8 +18,7 @@ QAction *checkable(QAction *action, bool on)
     return action;
 }
 
-/// A menu with an item of every kind.
-QMenu *fullMenu()
+QMenu *plainMenu()
 {
     auto *menu = new QMenu;
     menu->addAction(Gallery::tr("&Open…"))->setShortcut(QKeySequence::Open);
@@ -28,26 +28,29 @@ QMenu *fullMenu()
     disabled->setShortcut(QKeySequence::Save);
     disabled->setEnabled(false);
     menu->addSection(Gallery::tr("Section"));
+    menu->addMenu(Gallery::tr("More"))->addAction(Gallery::tr("Inside"));
+    menu->addMenu(Gallery::tr("Nothing more"))->setEnabled(false);
+    return menu;
+}
+
+QMenu *checkableMenu()
+{
+    auto *menu = new QMenu;
     checkable(menu->addAction(Gallery::tr("Checked")), true);
     checkable(menu->addAction(Gallery::tr("Not checked")), false);
     checkable(menu->addAction(sampleIcon(), Gallery::tr("Checked, with an icon")), true);
-    QAction *checkedDisabled = checkable(menu->addAction(Gallery::tr("Checked, disabled")), true);
-    checkedDisabled->setEnabled(false);
+    checkable(menu->addAction(sampleIcon(), Gallery::tr("Not checked, with an icon")), false);
+    checkable(menu->addAction(Gallery::tr("Checked, disabled")), true)->setEnabled(false);
     menu->addSeparator();
     auto *group = new QActionGroup(menu);
     for (const QString &text : {Gallery::tr("One of two"), Gallery::tr("The other one")})
         group->addAction(checkable(menu->addAction(text), group->actions().isEmpty()));
-    menu->addSeparator();
-    menu->addMenu(Gallery::tr("More"))->addAction(Gallery::tr("Inside"));
-    QMenu *closed = menu->addMenu(Gallery::tr("Nothing more"));
-    closed->setEnabled(false);
     return menu;
 }
 
-/// The menu with its \a row-th action under the pointer; none for −1.
-QWidget *openMenu(int row)
+/// \a menu as it looks when open, with its \a row-th action under the pointer; none for −1.
+QWidget *openMenu(QMenu *menu, int row)
 {
-    QMenu *menu = fullMenu();
     menu->resize(menu->sizeHint());
     if (row >= 0)
         menu->setActiveAction(menu->actions().at(row));
@@ -113,16 +116,15 @@ QWidget *createMenusPage(QWidget *parent)
     auto *page = new QWidget(parent);
     auto *column = new QVBoxLayout(page);
     column->setMenuBar(menuBar());
-    auto *row = new QHBoxLayout;
-    const QMenu *const counted = fullMenu();
-    const int submenu = counted->actions().size() - 2;
-    delete counted;
-    for (int selected : {-1, 0, 7, submenu}) {
-        QWidget *menu = openMenu(selected);
-        row->addWidget(menu, 0, Qt::AlignTop);
-    }
-    row->addStretch(1);
-    column->addLayout(row);
+    auto *grid = new QGridLayout;
+    int place = 0;
+    for (int selected : {-1, 0, 5})
+        grid->addWidget(openMenu(plainMenu(), selected), 0, place++, Qt::AlignTop);
+    place = 0;
+    for (int selected : {-1, 0, 2, 6})
+        grid->addWidget(openMenu(checkableMenu(), selected), 1, place++, Qt::AlignTop);
+    grid->setColumnStretch(place, 1);
+    column->addLayout(grid);
     column->addWidget(menuBarItems());
     column->addStretch(1);
     return page;
