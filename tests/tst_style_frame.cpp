@@ -5,10 +5,7 @@
 #include <QtCore/QProcess>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QCommonStyle>
-#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QMainWindow>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QPushButton>

@@ -11,8 +11,6 @@
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyleOption>
 
-#include <memory>
-
 // The hidden tools that all paint functions of the style share.
 
 namespace {
@@ -22,6 +20,28 @@ QImage arrow(const QColor &color, int rotation)
     return StyleHelpers::colorizedImage(StyleHelpers::arrowImageFileName(), color, rotation)
         .toImage()
         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+/// The arrow element whose tip is where the outermost line of \a arrow is darkest.
+QStyle::PrimitiveElement pointsTo(const QImage &arrow)
+{
+    const auto light = [&](const QRect &line) {
+        int sum = 0;
+        for (int y = line.top(); y <= line.bottom(); ++y) {
+            for (int x = line.left(); x <= line.right(); ++x)
+                sum += arrow.pixelColor(x, y).lightness();
+        }
+        return sum;
+    };
+    const QRect rect = arrow.rect();
+    if (rect.width() > rect.height()) {
+        const int top = light(QRect(0, 0, rect.width(), 1));
+        const int bottom = light(QRect(0, rect.bottom(), rect.width(), 1));
+        return top < bottom ? QStyle::PE_IndicatorArrowUp : QStyle::PE_IndicatorArrowDown;
+    }
+    const int left = light(QRect(0, 0, 1, rect.height()));
+    const int right = light(QRect(rect.right(), 0, 1, rect.height()));
+    return left < right ? QStyle::PE_IndicatorArrowLeft : QStyle::PE_IndicatorArrowRight;
 }
 
 QStyleOptionSlider dialOption(const QRect &rect = QRect(0, 0, 64, 64))
@@ -54,6 +74,7 @@ class tst_StyleHelpers : public QObject
 
 private slots:
     void init() { QPixmapCache::clear(); }
+    void cleanupTestCase() { delete m_theme.style(); }
 
     void derivedColors();
     void colorsOverTexture();
@@ -377,6 +398,7 @@ void tst_StyleHelpers::arrowDrawing()
                 element == QStyle::PE_IndicatorArrowUp || element == QStyle::PE_IndicatorArrowDown;
             QCOMPARE(bounds.width() > bounds.height(), upright);
             COMPARE_PIXEL(image, rect.center().x(), rect.center().y(), Qt::white);
+            QCOMPARE(pointsTo(image.copy(bounds)), element);
         }
     }
     StyleHelpers::drawArrowImage(QStyle::PE_IndicatorArrowUp, nullptr, nullptr);
