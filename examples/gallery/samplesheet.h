@@ -34,16 +34,18 @@ private:
 };
 
 /// Shows another widget, such as a menu or the list of a combo box, that would otherwise only be
-/// seen while it is open. Takes \a original, which stays hidden.
+/// seen while it is open.
 class Picture : public QWidget
 {
 public:
+    /// Takes \a original, which stays hidden.
     explicit Picture(QWidget *original, QWidget *parent = nullptr);
     ~Picture() override;
 
-    QSize sizeHint() const override { return m_original->size(); }
-    /// Shows only; \a owner keeps the original.
+    /// A picture of \a original alone, which is a part of \a owner; takes \a owner.
     static Picture *of(QWidget *original, QWidget *owner);
+
+    QSize sizeHint() const override { return m_original->size(); }
 
 protected:
     void changeEvent(QEvent *event) override;
