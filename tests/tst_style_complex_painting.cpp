@@ -607,6 +607,8 @@ private slots:
     void titleBarColours()
     {
         QFETCH(bool, active);
+        // The two differ in more than the state, which the cache goes by.
+        paint(QStyle::CC_TitleBar, themedTitleBar(active ? 0 : int(QStyle::State_Active)));
         const auto option = themedTitleBar(active ? int(QStyle::State_Active) : 0);
         const QColor base = active ? color(QPalette::Highlight) : windowColor();
         const QColor border = active ? base.darker(180) : windowColor().darker(140).darker(110);
@@ -655,16 +657,19 @@ private slots:
     void titleBarRestoreSymbolIsTwoWindows()
     {
         auto option = themedTitleBar(int(QStyle::State_Active) | int(Qt::WindowMaximized));
+        option.rect.setHeight(34);
         option.titleBarFlags = Qt::WindowTitleHint | Qt::WindowMaximizeButtonHint;
         option.text.clear();
         const QImage image = paint(QStyle::CC_TitleBar, option);
-        // Within (281, 8, 8, 8): front (281, 11, 5, 5), back (284, 8, 5, 5).
-        compare(image, 281, 15, Qt::white);
+        // Within (271, 8, 18, 18): front (271, 11, 15, 15), back (274, 8, 15, 15).
+        compare(image, 271, 25, Qt::white);
         compare(image, 285, 12, Qt::white);
+        compare(image, 274, 8, Qt::white);
         compare(image, 288, 8, Qt::white);
-        compare(image, 284, 8, Qt::white);
-        compare(image, 288, 12, Qt::white);
-        QVERIFY(at(image, 283, 13) != QColor(Qt::white)); // the front window hides the back one
+        compare(image, 288, 22, Qt::white);
+        // The front window hides the left and the lower edge of the back one.
+        QVERIFY(at(image, 274, 17) != QColor(Qt::white));
+        QVERIFY(at(image, 278, 22) != QColor(Qt::white));
     }
 
     void wrongOptionsPaintNothing()
