@@ -91,7 +91,8 @@ void paintComboBoxArrow(const QStyleOptionComboBox &option, QPainter *painter, c
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
     painter->setBrush(StyleColors::withAlpha(option.palette.color(QPalette::ButtonText), 255));
-    const QRectF box(arrow.right() - 12, arrow.height() / 2 - 2, 8, 8);
+    const int top = arrow.height() / 2 - 2;
+    const QRectF box(arrow.right() - 12, top, 8, 8);
     const QPointF triangle[] = {box.topLeft(), box.topRight(),
                                 QPointF(box.left() + 4, box.bottom() - 2)};
     painter->drawPolygon(triangle, 3);
