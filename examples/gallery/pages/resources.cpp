@@ -111,7 +111,7 @@ QListWidget *createIconList()
     list->setResizeMode(QListView::Adjust);
     list->setIconSize(QSize(32, 32));
     list->setWordWrap(false);
-    list->setMinimumSize(700, 520);
+    list->setMinimumSize(640, 520);
     QFont small = list->font();
     small.setPointSizeF(small.pointSizeF() * 0.85);
     list->setFont(small);
