@@ -208,6 +208,23 @@ private slots:
         }
     }
 
+    /// The initialisers of whole source files, which run when the library is loaded.
+    void onlyTheBundleAndTheButtonTextsAreBuiltAtLoad()
+    {
+        if (!sanitizerFlags().isEmpty())
+            QSKIP("a sanitizer initialises every file");
+        const Outcome symbols = run("nm", {m_library});
+        QCOMPARE(symbols.exitCode, 0);
+        const QRegularExpression initialiser(QStringLiteral("_GLOBAL__sub_I_(\\S+)"));
+        QStringList files;
+        auto matches = initialiser.globalMatch(QString::fromUtf8(symbols.output));
+        while (matches.hasNext())
+            files << matches.next().captured(1);
+        QVERIFY(files.removeAll(QStringLiteral("qrc_nocturne.cpp")) == 1);
+        files.removeAll(QStringLiteral("qmessageboxex.cpp"));
+        QVERIFY2(files.isEmpty(), qPrintable(files.join(QLatin1Char(' '))));
+    }
+
     void publicHeadersOnly()
     {
         const QStringList headers = filesBelow(m_prefix.path() + "/include", {"*"});
