@@ -3,7 +3,9 @@
 #include <nocturne/DarkUX>
 
 #include <QtCore/QDirIterator>
+#include <QtCore/QProcess>
 #include <QtCore/QResource>
+#include <QtCore/QTemporaryDir>
 #include <QtCore/QTranslator>
 #include <QtCore/QXmlStreamReader>
 #include <QtGui/QImageReader>
@@ -95,8 +97,10 @@ QVector<Message> messagesOf(const QString &catalogueSource)
         } else if (xml.name() == QLatin1String("source")) {
             source = xml.readElementText();
         } else if (xml.name() == QLatin1String("translation")) {
-            const bool finished = !xml.attributes().hasAttribute(QLatin1String("type"));
-            messages << Message{context, source, xml.readElementText(), finished};
+            // A text that is no longer used is kept as "vanished" or "obsolete".
+            const QString type = xml.attributes().value(QLatin1String("type")).toString();
+            if (type.isEmpty() || type == QLatin1String("unfinished"))
+                messages << Message{context, source, xml.readElementText(), type.isEmpty()};
         }
     }
     return xml.hasError() ? QVector<Message>() : messages;
@@ -291,6 +295,26 @@ private slots:
                 QVERIFY2(message.finished && !message.translation.isEmpty(), qPrintable(where));
                 QVERIFY2(placeHolders(message.translation) == placeHolders(message.source),
                          qPrintable(where));
+            }
+        }
+    }
+
+    /// Every text that the library's code asks for is in every language.
+    void textsOfTheCode()
+    {
+        const QTemporaryDir scratch;
+        const QString collected = scratch.filePath("code.ts");
+        QProcess::execute("lupdate",
+                          {"-silent", NOCTURNE_SOURCE_DIR "/nocturne", "-ts", collected});
+        const QVector<Message> texts = messagesOf(collected);
+        QVERIFY(!texts.isEmpty());
+        for (const QString &catalogue : split(catalogues)) {
+            QTranslator translator;
+            QVERIFY(translator.load(catalogueFolder + catalogue));
+            for (const Message &text : texts) {
+                QVERIFY2(
+                    !translator.translate(text.context.toUtf8(), text.source.toUtf8()).isEmpty(),
+                    qPrintable(catalogue + ": " + text.context + ", " + text.source));
             }
         }
     }

@@ -76,7 +76,9 @@ QLabel *createLibraryTexts()
         QCoreApplication::translate("ComboFileChooser", "Media (*.%1)")
             .arg(QStringLiteral("mov *.wav")),
     };
-    return new QLabel(texts.join(QStringLiteral("  ·  ")));
+    auto *label = new QLabel(texts.join(QStringLiteral(" · ")));
+    label->setWordWrap(true);
+    return label;
 }
 
 // -- Icons ------------------------------------------------------------------------------------
@@ -111,7 +113,7 @@ QListWidget *createIconList()
     list->setResizeMode(QListView::Adjust);
     list->setIconSize(QSize(32, 32));
     list->setWordWrap(false);
-    list->setMinimumSize(640, 520);
+    list->setMinimumSize(480, 520);
     QFont small = list->font();
     small.setPointSizeF(small.pointSizeF() * 0.85);
     list->setFont(small);

@@ -77,6 +77,598 @@
         <source>Texts of the library</source>
         <translation>Texte der Bibliothek</translation>
     </message>
+    <message>
+        <source>&amp;12;Two digits have no badge</source>
+        <translation>&amp;12;Zwei Ziffern bekommen kein Kennzeichen</translation>
+    </message>
+    <message>
+        <source>&amp;1;Go to camera one</source>
+        <translation>&amp;1;Zu Kamera eins wechseln</translation>
+    </message>
+    <message>
+        <source>&amp;2;Go to camera two</source>
+        <translation>&amp;2;Zu Kamera zwei wechseln</translation>
+    </message>
+    <message>
+        <source>&amp;3;Go to camera three</source>
+        <translation>&amp;3;Zu Kamera drei wechseln</translation>
+    </message>
+    <message>
+        <source>0, 1, 50 and 100 of 100</source>
+        <translation>0, 1, 50 und 100 von 100</translation>
+    </message>
+    <message>
+        <source>A picture that is larger than its window</source>
+        <translation>Ein Bild, das größer ist als sein Fenster</translation>
+    </message>
+    <message>
+        <source>A single tab without text</source>
+        <translation>Ein einzelner Reiter ohne Text</translation>
+    </message>
+    <message>
+        <source>All sources are connected again.</source>
+        <translation>Alle Quellen sind wieder verbunden.</translation>
+    </message>
+    <message>
+        <source>Arrows</source>
+        <translation>Pfeile</translation>
+    </message>
+    <message>
+        <source>At the maximum</source>
+        <translation>Am Maximum</translation>
+    </message>
+    <message>
+        <source>At the minimum, plus and minus</source>
+        <translation>Am Minimum, Plus und Minus</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Auto raise</source>
+        <translation>Erhöht sich beim Zeigen</translation>
+    </message>
+    <message>
+        <source>Back hovered</source>
+        <translation>Zeiger auf Zurück</translation>
+    </message>
+    <message>
+        <source>Back pressed</source>
+        <translation>Zurück gedrückt</translation>
+    </message>
+    <message>
+        <source>Beside the contents</source>
+        <translation>Neben dem Inhalt</translation>
+    </message>
+    <message>
+        <source>Bin %1</source>
+        <translation>Ordner %1</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Kasten</translation>
+    </message>
+    <message>
+        <source>Buffer</source>
+        <translation>Puffer</translation>
+    </message>
+    <message>
+        <source>Bus %1</source>
+        <translation>Bus %1</translation>
+    </message>
+    <message>
+        <source>Bus A</source>
+        <translation>Bus A</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>Beschäftigt</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>Schaltflächen</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Schaltflächen und Beschriftungen</translation>
+    </message>
+    <message>
+        <source>Camera 1</source>
+        <translation>Kamera 1</translation>
+    </message>
+    <message>
+        <source>Camera 2</source>
+        <translation>Kamera 2</translation>
+    </message>
+    <message>
+        <source>Check boxes</source>
+        <translation>Kontrollkästchen</translation>
+    </message>
+    <message>
+        <source>Check boxes and radio buttons</source>
+        <translation>Kontrollkästchen und Optionsfelder</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Angekreuzt</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Gewählt</translation>
+    </message>
+    <message>
+        <source>Click this label</source>
+        <translation>Auf diese Beschriftung klicken</translation>
+    </message>
+    <message>
+        <source>Clickable label</source>
+        <translation>Anklickbare Beschriftung</translation>
+    </message>
+    <message>
+        <source>Clients</source>
+        <translation>Clients</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>Clip %1</source>
+        <translation>Clip %1</translation>
+    </message>
+    <message>
+        <source>Clip name</source>
+        <translation>Name des Clips</translation>
+    </message>
+    <message>
+        <source>Clip player</source>
+        <translation>Clip-Spieler</translation>
+    </message>
+    <message>
+        <source>Combo boxes</source>
+        <translation>Kombinationsfelder</translation>
+    </message>
+    <message>
+        <source>Command link</source>
+        <translation>Befehlslink</translation>
+    </message>
+    <message>
+        <source>Containers</source>
+        <translation>Behälter</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Schnitt</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Delay buttons</source>
+        <translation>Schaltflächen mit Sperrzeit</translation>
+    </message>
+    <message>
+        <source>Dials</source>
+        <translation>Drehregler</translation>
+    </message>
+    <message>
+        <source>Dissolve</source>
+        <translation>Überblendung</translation>
+    </message>
+    <message>
+        <source>Down pressed</source>
+        <translation>Ab gedrückt</translation>
+    </message>
+    <message>
+        <source>Editable</source>
+        <translation>Bearbeitbar</translation>
+    </message>
+    <message>
+        <source>Editable, icons</source>
+        <translation>Bearbeitbar, mit Symbolen</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effekte</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>Flach</translation>
+    </message>
+    <message>
+        <source>Flat default</source>
+        <translation>Flach, Standard</translation>
+    </message>
+    <message>
+        <source>Focused</source>
+        <translation>Mit Fokus</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>Schriften</translation>
+    </message>
+    <message>
+        <source>Half a second</source>
+        <translation>Eine halbe Sekunde</translation>
+    </message>
+    <message>
+        <source>Handle hovered</source>
+        <translation>Zeiger auf dem Griff</translation>
+    </message>
+    <message>
+        <source>Handle pressed</source>
+        <translation>Griff gedrückt</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Waagrecht</translation>
+    </message>
+    <message>
+        <source>Horizontal line</source>
+        <translation>Waagrechte Linie</translation>
+    </message>
+    <message>
+        <source>Horizontal progress bars</source>
+        <translation>Waagrechte Fortschrittsbalken</translation>
+    </message>
+    <message>
+        <source>Horizontal sliders</source>
+        <translation>Waagrechte Schieberegler</translation>
+    </message>
+    <message>
+        <source>Hovered</source>
+        <translation>Zeiger darüber</translation>
+    </message>
+    <message>
+        <source>Icon</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>Icon only</source>
+        <translation>Nur Symbol</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>In Gebrauch</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>Umgekehrt</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Pegel</translation>
+    </message>
+    <message>
+        <source>Level, time, date</source>
+        <translation>Pegel, Zeit, Datum</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Schleife</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Medien</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Menu at once</source>
+        <translation>Menü sofort</translation>
+    </message>
+    <message>
+        <source>Menu on arrow</source>
+        <translation>Menü am Pfeil</translation>
+    </message>
+    <message>
+        <source>Mix</source>
+        <translation>Mischen</translation>
+    </message>
+    <message>
+        <source>Mixed selection</source>
+        <translation>Gemischte Auswahl</translation>
+    </message>
+    <message>
+        <source>No buttons</source>
+        <translation>Ohne Tasten</translation>
+    </message>
+    <message>
+        <source>No number</source>
+        <translation>Ohne Zahl</translation>
+    </message>
+    <message>
+        <source>No ticks</source>
+        <translation>Ohne Teilstriche</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Not checkable: no delay</source>
+        <translation>Nicht umschaltbar: keine Sperrzeit</translation>
+    </message>
+    <message>
+        <source>Not chosen</source>
+        <translation>Nicht gewählt</translation>
+    </message>
+    <message>
+        <source>Not editable</source>
+        <translation>Nicht bearbeitbar</translation>
+    </message>
+    <message>
+        <source>Not editable, editable</source>
+        <translation>Nicht bearbeitbar, bearbeitbar</translation>
+    </message>
+    <message>
+        <source>Not editable, icons</source>
+        <translation>Nicht bearbeitbar, mit Symbolen</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>Auf Sendung</translation>
+    </message>
+    <message>
+        <source>On hovered</source>
+        <translation>Ein, Zeiger darüber</translation>
+    </message>
+    <message>
+        <source>On pressed</source>
+        <translation>Ein, gedrückt</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Geöffnet</translation>
+    </message>
+    <message>
+        <source>Open lists</source>
+        <translation>Geöffnete Listen</translation>
+    </message>
+    <message>
+        <source>Open the last show</source>
+        <translation>Letzte Show öffnen</translation>
+    </message>
+    <message>
+        <source>Others with the same frame</source>
+        <translation>Andere mit demselben Rahmen</translation>
+    </message>
+    <message>
+        <source>Over %1</source>
+        <translation>Über %1</translation>
+    </message>
+    <message>
+        <source>Over the contents</source>
+        <translation>Über dem Inhalt</translation>
+    </message>
+    <message>
+        <source>Partially checked</source>
+        <translation>Teilweise angekreuzt</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>Einfach</translation>
+    </message>
+    <message>
+        <source>Plus and minus</source>
+        <translation>Plus und Minus</translation>
+    </message>
+    <message>
+        <source>Position X</source>
+        <translation>X-Position</translation>
+    </message>
+    <message>
+        <source>Position Y</source>
+        <translation>Y-Position</translation>
+    </message>
+    <message>
+        <source>Pressed</source>
+        <translation>Gedrückt</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Progress bars</source>
+        <translation>Fortschrittsbalken</translation>
+    </message>
+    <message>
+        <source>Proxy style</source>
+        <translation>Proxy-Stil</translation>
+    </message>
+    <message>
+        <source>Push buttons</source>
+        <translation>Drucktasten</translation>
+    </message>
+    <message>
+        <source>Radio buttons, set by id</source>
+        <translation>Optionsfelder, über die Nummer gesetzt</translation>
+    </message>
+    <message>
+        <source>Raised</source>
+        <translation>Erhaben</translation>
+    </message>
+    <message>
+        <source>Read only</source>
+        <translation>Nur lesbar</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Aufnehmen</translation>
+    </message>
+    <message>
+        <source>Render</source>
+        <translation>Rendern</translation>
+    </message>
+    <message>
+        <source>Scroll bars</source>
+        <translation>Bildlaufleisten</translation>
+    </message>
+    <message>
+        <source>Sliders and dials</source>
+        <translation>Schiebe- und Drehregler</translation>
+    </message>
+    <message>
+        <source>Spin boxes</source>
+        <translation>Drehfelder</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <translation>Stream</translation>
+    </message>
+    <message>
+        <source>Sunken</source>
+        <translation>Vertieft</translation>
+    </message>
+    <message>
+        <source>Switches</source>
+        <translation>Schalter</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Take</translation>
+    </message>
+    <message>
+        <source>Tall</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text beside icon</source>
+        <translation>Text neben dem Symbol</translation>
+    </message>
+    <message>
+        <source>Text tabs have one width; a tab without text fills the bar.</source>
+        <translation>Reiter mit Text sind gleich breit; ein Reiter ohne Text füllt die Leiste.</translation>
+    </message>
+    <message>
+        <source>Text under icon</source>
+        <translation>Text unter dem Symbol</translation>
+    </message>
+    <message>
+        <source>Ticks above</source>
+        <translation>Teilstriche oben</translation>
+    </message>
+    <message>
+        <source>Ticks below</source>
+        <translation>Teilstriche unten</translation>
+    </message>
+    <message>
+        <source>Ticks on both sides</source>
+        <translation>Teilstriche beidseitig</translation>
+    </message>
+    <message>
+        <source>Title only</source>
+        <translation>Nur Titel</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Tool button</source>
+        <translation>Werkzeugschaltfläche</translation>
+    </message>
+    <message>
+        <source>Tool buttons</source>
+        <translation>Werkzeugschaltflächen</translation>
+    </message>
+    <message>
+        <source>Two seconds</source>
+        <translation>Zwei Sekunden</translation>
+    </message>
+    <message>
+        <source>Unchecked</source>
+        <translation>Nicht angekreuzt</translation>
+    </message>
+    <message>
+        <source>Up hovered</source>
+        <translation>Zeiger auf Auf</translation>
+    </message>
+    <message>
+        <source>Up pressed</source>
+        <translation>Auf gedrückt</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>Vertical progress bars</source>
+        <translation>Senkrechte Fortschrittsbalken</translation>
+    </message>
+    <message>
+        <source>Vertical sliders</source>
+        <translation>Senkrechte Schieberegler</translation>
+    </message>
+    <message>
+        <source>Vertical, both sides</source>
+        <translation>Senkrecht, beidseitig</translation>
+    </message>
+    <message>
+        <source>Vertical, inverted</source>
+        <translation>Senkrecht, umgekehrt</translation>
+    </message>
+    <message>
+        <source>Vertical, no ticks</source>
+        <translation>Senkrecht, ohne Teilstriche</translation>
+    </message>
+    <message>
+        <source>Vertical, ticks left</source>
+        <translation>Senkrecht, Teilstriche links</translation>
+    </message>
+    <message>
+        <source>Vertical, ticks right</source>
+        <translation>Senkrecht, Teilstriche rechts</translation>
+    </message>
+    <message>
+        <source>Wipe</source>
+        <translation>Wischblende</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Mit Symbol</translation>
+    </message>
+    <message>
+        <source>With menu</source>
+        <translation>Mit Menü</translation>
+    </message>
+    <message>
+        <source>With notches</source>
+        <translation>Mit Kerben</translation>
+    </message>
+    <message>
+        <source>Without frame</source>
+        <translation>Ohne Rahmen</translation>
+    </message>
+    <message>
+        <source>Without text</source>
+        <translation>Ohne Text</translation>
+    </message>
+    <message>
+        <source>Wrapping</source>
+        <translation>Umlaufend</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>
@@ -90,6 +682,32 @@
     <message>
         <source>Clear</source>
         <translation>Leeren</translation>
+    </message>
+</context>
+<context>
+    <name>RangeSlider</name>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+</context>
+<context>
+    <name>SpanSlider</name>
+    <message>
+        <source>Lower</source>
+        <translation>Unterer Wert</translation>
+    </message>
+    <message>
+        <source>Upper</source>
+        <translation>Oberer Wert</translation>
     </message>
 </context>
 </TS>

@@ -77,6 +77,598 @@
         <source>Texts of the library</source>
         <translation>Textos de la biblioteca</translation>
     </message>
+    <message>
+        <source>&amp;12;Two digits have no badge</source>
+        <translation>&amp;12;Dos cifras no llevan distintivo</translation>
+    </message>
+    <message>
+        <source>&amp;1;Go to camera one</source>
+        <translation>&amp;1;Ir a la cámara uno</translation>
+    </message>
+    <message>
+        <source>&amp;2;Go to camera two</source>
+        <translation>&amp;2;Ir a la cámara dos</translation>
+    </message>
+    <message>
+        <source>&amp;3;Go to camera three</source>
+        <translation>&amp;3;Ir a la cámara tres</translation>
+    </message>
+    <message>
+        <source>0, 1, 50 and 100 of 100</source>
+        <translation>0, 1, 50 y 100 de 100</translation>
+    </message>
+    <message>
+        <source>A picture that is larger than its window</source>
+        <translation>Una imagen mayor que su ventana</translation>
+    </message>
+    <message>
+        <source>A single tab without text</source>
+        <translation>Una sola pestaña sin texto</translation>
+    </message>
+    <message>
+        <source>All sources are connected again.</source>
+        <translation>Todas las fuentes vuelven a estar conectadas.</translation>
+    </message>
+    <message>
+        <source>Arrows</source>
+        <translation>Flechas</translation>
+    </message>
+    <message>
+        <source>At the maximum</source>
+        <translation>En el máximo</translation>
+    </message>
+    <message>
+        <source>At the minimum, plus and minus</source>
+        <translation>En el mínimo, más y menos</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Auto raise</source>
+        <translation>Realce automático</translation>
+    </message>
+    <message>
+        <source>Back hovered</source>
+        <translation>Puntero sobre Atrás</translation>
+    </message>
+    <message>
+        <source>Back pressed</source>
+        <translation>Atrás pulsado</translation>
+    </message>
+    <message>
+        <source>Beside the contents</source>
+        <translation>Junto al contenido</translation>
+    </message>
+    <message>
+        <source>Bin %1</source>
+        <translation>Bandeja %1</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Caja</translation>
+    </message>
+    <message>
+        <source>Buffer</source>
+        <translation>Búfer</translation>
+    </message>
+    <message>
+        <source>Bus %1</source>
+        <translation>Bus %1</translation>
+    </message>
+    <message>
+        <source>Bus A</source>
+        <translation>Bus A</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>Ocupado</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>Botones</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Botones y etiquetas</translation>
+    </message>
+    <message>
+        <source>Camera 1</source>
+        <translation>Cámara 1</translation>
+    </message>
+    <message>
+        <source>Camera 2</source>
+        <translation>Cámara 2</translation>
+    </message>
+    <message>
+        <source>Check boxes</source>
+        <translation>Casillas</translation>
+    </message>
+    <message>
+        <source>Check boxes and radio buttons</source>
+        <translation>Casillas y botones de opción</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Marcado</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Elegido</translation>
+    </message>
+    <message>
+        <source>Click this label</source>
+        <translation>Haga clic en esta etiqueta</translation>
+    </message>
+    <message>
+        <source>Clickable label</source>
+        <translation>Etiqueta pulsable</translation>
+    </message>
+    <message>
+        <source>Clients</source>
+        <translation>Clientes</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>Clip %1</source>
+        <translation>Clip %1</translation>
+    </message>
+    <message>
+        <source>Clip name</source>
+        <translation>Nombre del clip</translation>
+    </message>
+    <message>
+        <source>Clip player</source>
+        <translation>Reproductor de clips</translation>
+    </message>
+    <message>
+        <source>Combo boxes</source>
+        <translation>Cuadros combinados</translation>
+    </message>
+    <message>
+        <source>Command link</source>
+        <translation>Vínculo de comando</translation>
+    </message>
+    <message>
+        <source>Containers</source>
+        <translation>Contenedores</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Corte</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Predeterminado</translation>
+    </message>
+    <message>
+        <source>Delay buttons</source>
+        <translation>Botones con retardo</translation>
+    </message>
+    <message>
+        <source>Dials</source>
+        <translation>Diales</translation>
+    </message>
+    <message>
+        <source>Dissolve</source>
+        <translation>Disolvencia</translation>
+    </message>
+    <message>
+        <source>Down pressed</source>
+        <translation>Abajo pulsado</translation>
+    </message>
+    <message>
+        <source>Editable</source>
+        <translation>Editable</translation>
+    </message>
+    <message>
+        <source>Editable, icons</source>
+        <translation>Editable, con iconos</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Efectos</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>Plano</translation>
+    </message>
+    <message>
+        <source>Flat default</source>
+        <translation>Plano, predeterminado</translation>
+    </message>
+    <message>
+        <source>Focused</source>
+        <translation>Con foco</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>Fuentes</translation>
+    </message>
+    <message>
+        <source>Half a second</source>
+        <translation>Medio segundo</translation>
+    </message>
+    <message>
+        <source>Handle hovered</source>
+        <translation>Puntero sobre el tirador</translation>
+    </message>
+    <message>
+        <source>Handle pressed</source>
+        <translation>Tirador pulsado</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Horizontal line</source>
+        <translation>Línea horizontal</translation>
+    </message>
+    <message>
+        <source>Horizontal progress bars</source>
+        <translation>Barras de progreso horizontales</translation>
+    </message>
+    <message>
+        <source>Horizontal sliders</source>
+        <translation>Deslizadores horizontales</translation>
+    </message>
+    <message>
+        <source>Hovered</source>
+        <translation>Con el puntero encima</translation>
+    </message>
+    <message>
+        <source>Icon</source>
+        <translation>Icono</translation>
+    </message>
+    <message>
+        <source>Icon only</source>
+        <translation>Solo icono</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>En uso</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>Invertido</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nivel</translation>
+    </message>
+    <message>
+        <source>Level, time, date</source>
+        <translation>Nivel, hora, fecha</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Bucle</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Medios</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menú</translation>
+    </message>
+    <message>
+        <source>Menu at once</source>
+        <translation>Menú inmediato</translation>
+    </message>
+    <message>
+        <source>Menu on arrow</source>
+        <translation>Menú en la flecha</translation>
+    </message>
+    <message>
+        <source>Mix</source>
+        <translation>Mezcla</translation>
+    </message>
+    <message>
+        <source>Mixed selection</source>
+        <translation>Selección mixta</translation>
+    </message>
+    <message>
+        <source>No buttons</source>
+        <translation>Sin botones</translation>
+    </message>
+    <message>
+        <source>No number</source>
+        <translation>Sin número</translation>
+    </message>
+    <message>
+        <source>No ticks</source>
+        <translation>Sin marcas</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Not checkable: no delay</source>
+        <translation>No conmutable: sin retardo</translation>
+    </message>
+    <message>
+        <source>Not chosen</source>
+        <translation>No elegido</translation>
+    </message>
+    <message>
+        <source>Not editable</source>
+        <translation>No editable</translation>
+    </message>
+    <message>
+        <source>Not editable, editable</source>
+        <translation>No editable, editable</translation>
+    </message>
+    <message>
+        <source>Not editable, icons</source>
+        <translation>No editable, con iconos</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>En el aire</translation>
+    </message>
+    <message>
+        <source>On hovered</source>
+        <translation>Activado, con puntero</translation>
+    </message>
+    <message>
+        <source>On pressed</source>
+        <translation>Activado, pulsado</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacidad</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abierto</translation>
+    </message>
+    <message>
+        <source>Open lists</source>
+        <translation>Listas abiertas</translation>
+    </message>
+    <message>
+        <source>Open the last show</source>
+        <translation>Abrir el último espectáculo</translation>
+    </message>
+    <message>
+        <source>Others with the same frame</source>
+        <translation>Otros con el mismo marco</translation>
+    </message>
+    <message>
+        <source>Over %1</source>
+        <translation>Sobre %1</translation>
+    </message>
+    <message>
+        <source>Over the contents</source>
+        <translation>Sobre el contenido</translation>
+    </message>
+    <message>
+        <source>Partially checked</source>
+        <translation>Parcialmente marcado</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>Sencillo</translation>
+    </message>
+    <message>
+        <source>Plus and minus</source>
+        <translation>Más y menos</translation>
+    </message>
+    <message>
+        <source>Position X</source>
+        <translation>Posición X</translation>
+    </message>
+    <message>
+        <source>Position Y</source>
+        <translation>Posición Y</translation>
+    </message>
+    <message>
+        <source>Pressed</source>
+        <translation>Pulsado</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Progress bars</source>
+        <translation>Barras de progreso</translation>
+    </message>
+    <message>
+        <source>Proxy style</source>
+        <translation>Estilo proxy</translation>
+    </message>
+    <message>
+        <source>Push buttons</source>
+        <translation>Botones pulsadores</translation>
+    </message>
+    <message>
+        <source>Radio buttons, set by id</source>
+        <translation>Botones de opción, por identificador</translation>
+    </message>
+    <message>
+        <source>Raised</source>
+        <translation>En relieve</translation>
+    </message>
+    <message>
+        <source>Read only</source>
+        <translation>Solo lectura</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Grabar</translation>
+    </message>
+    <message>
+        <source>Render</source>
+        <translation>Renderizado</translation>
+    </message>
+    <message>
+        <source>Scroll bars</source>
+        <translation>Barras de desplazamiento</translation>
+    </message>
+    <message>
+        <source>Sliders and dials</source>
+        <translation>Deslizadores y diales</translation>
+    </message>
+    <message>
+        <source>Spin boxes</source>
+        <translation>Cuadros de número</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <translation>Transmisión</translation>
+    </message>
+    <message>
+        <source>Sunken</source>
+        <translation>Hundido</translation>
+    </message>
+    <message>
+        <source>Switches</source>
+        <translation>Interruptores</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Al aire</translation>
+    </message>
+    <message>
+        <source>Tall</source>
+        <translation>Alto</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Text beside icon</source>
+        <translation>Texto junto al icono</translation>
+    </message>
+    <message>
+        <source>Text tabs have one width; a tab without text fills the bar.</source>
+        <translation>Las pestañas con texto tienen un mismo ancho; una sin texto llena la barra.</translation>
+    </message>
+    <message>
+        <source>Text under icon</source>
+        <translation>Texto bajo el icono</translation>
+    </message>
+    <message>
+        <source>Ticks above</source>
+        <translation>Marcas arriba</translation>
+    </message>
+    <message>
+        <source>Ticks below</source>
+        <translation>Marcas abajo</translation>
+    </message>
+    <message>
+        <source>Ticks on both sides</source>
+        <translation>Marcas a ambos lados</translation>
+    </message>
+    <message>
+        <source>Title only</source>
+        <translation>Solo título</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Títulos</translation>
+    </message>
+    <message>
+        <source>Tool button</source>
+        <translation>Botón de herramienta</translation>
+    </message>
+    <message>
+        <source>Tool buttons</source>
+        <translation>Botones de herramienta</translation>
+    </message>
+    <message>
+        <source>Two seconds</source>
+        <translation>Dos segundos</translation>
+    </message>
+    <message>
+        <source>Unchecked</source>
+        <translation>Sin marcar</translation>
+    </message>
+    <message>
+        <source>Up hovered</source>
+        <translation>Puntero sobre Arriba</translation>
+    </message>
+    <message>
+        <source>Up pressed</source>
+        <translation>Arriba pulsado</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valores</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Vertical progress bars</source>
+        <translation>Barras de progreso verticales</translation>
+    </message>
+    <message>
+        <source>Vertical sliders</source>
+        <translation>Deslizadores verticales</translation>
+    </message>
+    <message>
+        <source>Vertical, both sides</source>
+        <translation>Vertical, ambos lados</translation>
+    </message>
+    <message>
+        <source>Vertical, inverted</source>
+        <translation>Vertical, invertido</translation>
+    </message>
+    <message>
+        <source>Vertical, no ticks</source>
+        <translation>Vertical, sin marcas</translation>
+    </message>
+    <message>
+        <source>Vertical, ticks left</source>
+        <translation>Vertical, marcas a la izquierda</translation>
+    </message>
+    <message>
+        <source>Vertical, ticks right</source>
+        <translation>Vertical, marcas a la derecha</translation>
+    </message>
+    <message>
+        <source>Wipe</source>
+        <translation>Cortinilla</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Con icono</translation>
+    </message>
+    <message>
+        <source>With menu</source>
+        <translation>Con menú</translation>
+    </message>
+    <message>
+        <source>With notches</source>
+        <translation>Con muescas</translation>
+    </message>
+    <message>
+        <source>Without frame</source>
+        <translation>Sin marco</translation>
+    </message>
+    <message>
+        <source>Without text</source>
+        <translation>Sin texto</translation>
+    </message>
+    <message>
+        <source>Wrapping</source>
+        <translation>Cíclico</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>
@@ -90,6 +682,32 @@
     <message>
         <source>Clear</source>
         <translation>Borrar</translation>
+    </message>
+</context>
+<context>
+    <name>RangeSlider</name>
+    <message>
+        <source>Maximum</source>
+        <translation>Máximo</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Mínimo</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+</context>
+<context>
+    <name>SpanSlider</name>
+    <message>
+        <source>Lower</source>
+        <translation>Inferior</translation>
+    </message>
+    <message>
+        <source>Upper</source>
+        <translation>Superior</translation>
     </message>
 </context>
 </TS>

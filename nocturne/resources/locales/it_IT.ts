@@ -77,6 +77,598 @@
         <source>Texts of the library</source>
         <translation>Testi della libreria</translation>
     </message>
+    <message>
+        <source>&amp;12;Two digits have no badge</source>
+        <translation>&amp;12;Due cifre non hanno un contrassegno</translation>
+    </message>
+    <message>
+        <source>&amp;1;Go to camera one</source>
+        <translation>&amp;1;Vai alla telecamera uno</translation>
+    </message>
+    <message>
+        <source>&amp;2;Go to camera two</source>
+        <translation>&amp;2;Vai alla telecamera due</translation>
+    </message>
+    <message>
+        <source>&amp;3;Go to camera three</source>
+        <translation>&amp;3;Vai alla telecamera tre</translation>
+    </message>
+    <message>
+        <source>0, 1, 50 and 100 of 100</source>
+        <translation>0, 1, 50 e 100 di 100</translation>
+    </message>
+    <message>
+        <source>A picture that is larger than its window</source>
+        <translation>Un’immagine più grande della sua finestra</translation>
+    </message>
+    <message>
+        <source>A single tab without text</source>
+        <translation>Una sola scheda senza testo</translation>
+    </message>
+    <message>
+        <source>All sources are connected again.</source>
+        <translation>Tutte le sorgenti sono di nuovo collegate.</translation>
+    </message>
+    <message>
+        <source>Arrows</source>
+        <translation>Frecce</translation>
+    </message>
+    <message>
+        <source>At the maximum</source>
+        <translation>Al massimo</translation>
+    </message>
+    <message>
+        <source>At the minimum, plus and minus</source>
+        <translation>Al minimo, più e meno</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Auto raise</source>
+        <translation>Rilievo automatico</translation>
+    </message>
+    <message>
+        <source>Back hovered</source>
+        <translation>Puntatore su Indietro</translation>
+    </message>
+    <message>
+        <source>Back pressed</source>
+        <translation>Indietro premuto</translation>
+    </message>
+    <message>
+        <source>Beside the contents</source>
+        <translation>Accanto al contenuto</translation>
+    </message>
+    <message>
+        <source>Bin %1</source>
+        <translation>Cartella %1</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Riquadro</translation>
+    </message>
+    <message>
+        <source>Buffer</source>
+        <translation>Buffer</translation>
+    </message>
+    <message>
+        <source>Bus %1</source>
+        <translation>Bus %1</translation>
+    </message>
+    <message>
+        <source>Bus A</source>
+        <translation>Bus A</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>Occupato</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>Pulsanti</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Pulsanti ed etichette</translation>
+    </message>
+    <message>
+        <source>Camera 1</source>
+        <translation>Telecamera 1</translation>
+    </message>
+    <message>
+        <source>Camera 2</source>
+        <translation>Telecamera 2</translation>
+    </message>
+    <message>
+        <source>Check boxes</source>
+        <translation>Caselle di controllo</translation>
+    </message>
+    <message>
+        <source>Check boxes and radio buttons</source>
+        <translation>Caselle e pulsanti di opzione</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Selezionato</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Scelto</translation>
+    </message>
+    <message>
+        <source>Click this label</source>
+        <translation>Fare clic su questa etichetta</translation>
+    </message>
+    <message>
+        <source>Clickable label</source>
+        <translation>Etichetta cliccabile</translation>
+    </message>
+    <message>
+        <source>Clients</source>
+        <translation>Client</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>Clip %1</source>
+        <translation>Clip %1</translation>
+    </message>
+    <message>
+        <source>Clip name</source>
+        <translation>Nome del clip</translation>
+    </message>
+    <message>
+        <source>Clip player</source>
+        <translation>Lettore di clip</translation>
+    </message>
+    <message>
+        <source>Combo boxes</source>
+        <translation>Caselle combinate</translation>
+    </message>
+    <message>
+        <source>Command link</source>
+        <translation>Collegamento a comando</translation>
+    </message>
+    <message>
+        <source>Containers</source>
+        <translation>Contenitori</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Stacco</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Predefinito</translation>
+    </message>
+    <message>
+        <source>Delay buttons</source>
+        <translation>Pulsanti con ritardo</translation>
+    </message>
+    <message>
+        <source>Dials</source>
+        <translation>Manopole</translation>
+    </message>
+    <message>
+        <source>Dissolve</source>
+        <translation>Dissolvenza</translation>
+    </message>
+    <message>
+        <source>Down pressed</source>
+        <translation>Giù premuto</translation>
+    </message>
+    <message>
+        <source>Editable</source>
+        <translation>Modificabile</translation>
+    </message>
+    <message>
+        <source>Editable, icons</source>
+        <translation>Modificabile, con icone</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effetti</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>Piatto</translation>
+    </message>
+    <message>
+        <source>Flat default</source>
+        <translation>Piatto, predefinito</translation>
+    </message>
+    <message>
+        <source>Focused</source>
+        <translation>Con il focus</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>Caratteri</translation>
+    </message>
+    <message>
+        <source>Half a second</source>
+        <translation>Mezzo secondo</translation>
+    </message>
+    <message>
+        <source>Handle hovered</source>
+        <translation>Puntatore sulla maniglia</translation>
+    </message>
+    <message>
+        <source>Handle pressed</source>
+        <translation>Maniglia premuta</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Orizzontale</translation>
+    </message>
+    <message>
+        <source>Horizontal line</source>
+        <translation>Linea orizzontale</translation>
+    </message>
+    <message>
+        <source>Horizontal progress bars</source>
+        <translation>Barre di avanzamento orizzontali</translation>
+    </message>
+    <message>
+        <source>Horizontal sliders</source>
+        <translation>Cursori orizzontali</translation>
+    </message>
+    <message>
+        <source>Hovered</source>
+        <translation>Sotto il puntatore</translation>
+    </message>
+    <message>
+        <source>Icon</source>
+        <translation>Icona</translation>
+    </message>
+    <message>
+        <source>Icon only</source>
+        <translation>Solo icona</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>In uso</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>Invertito</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durata</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Livello</translation>
+    </message>
+    <message>
+        <source>Level, time, date</source>
+        <translation>Livello, ora, data</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Ciclo</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Menu at once</source>
+        <translation>Menu immediato</translation>
+    </message>
+    <message>
+        <source>Menu on arrow</source>
+        <translation>Menu sulla freccia</translation>
+    </message>
+    <message>
+        <source>Mix</source>
+        <translation>Mix</translation>
+    </message>
+    <message>
+        <source>Mixed selection</source>
+        <translation>Selezione mista</translation>
+    </message>
+    <message>
+        <source>No buttons</source>
+        <translation>Senza pulsanti</translation>
+    </message>
+    <message>
+        <source>No number</source>
+        <translation>Senza numero</translation>
+    </message>
+    <message>
+        <source>No ticks</source>
+        <translation>Senza tacche</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>Not checkable: no delay</source>
+        <translation>Non commutabile: nessun ritardo</translation>
+    </message>
+    <message>
+        <source>Not chosen</source>
+        <translation>Non scelto</translation>
+    </message>
+    <message>
+        <source>Not editable</source>
+        <translation>Non modificabile</translation>
+    </message>
+    <message>
+        <source>Not editable, editable</source>
+        <translation>Non modificabile, modificabile</translation>
+    </message>
+    <message>
+        <source>Not editable, icons</source>
+        <translation>Non modificabile, con icone</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>In onda</translation>
+    </message>
+    <message>
+        <source>On hovered</source>
+        <translation>Acceso, sotto il puntatore</translation>
+    </message>
+    <message>
+        <source>On pressed</source>
+        <translation>Acceso, premuto</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacità</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Aperto</translation>
+    </message>
+    <message>
+        <source>Open lists</source>
+        <translation>Elenchi aperti</translation>
+    </message>
+    <message>
+        <source>Open the last show</source>
+        <translation>Apri l’ultimo spettacolo</translation>
+    </message>
+    <message>
+        <source>Others with the same frame</source>
+        <translation>Altri con la stessa cornice</translation>
+    </message>
+    <message>
+        <source>Over %1</source>
+        <translation>Sopra %1</translation>
+    </message>
+    <message>
+        <source>Over the contents</source>
+        <translation>Sopra il contenuto</translation>
+    </message>
+    <message>
+        <source>Partially checked</source>
+        <translation>Parzialmente selezionato</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>Semplice</translation>
+    </message>
+    <message>
+        <source>Plus and minus</source>
+        <translation>Più e meno</translation>
+    </message>
+    <message>
+        <source>Position X</source>
+        <translation>Posizione X</translation>
+    </message>
+    <message>
+        <source>Position Y</source>
+        <translation>Posizione Y</translation>
+    </message>
+    <message>
+        <source>Pressed</source>
+        <translation>Premuto</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
+    <message>
+        <source>Progress bars</source>
+        <translation>Barre di avanzamento</translation>
+    </message>
+    <message>
+        <source>Proxy style</source>
+        <translation>Stile proxy</translation>
+    </message>
+    <message>
+        <source>Push buttons</source>
+        <translation>Pulsanti a pressione</translation>
+    </message>
+    <message>
+        <source>Radio buttons, set by id</source>
+        <translation>Pulsanti di opzione, impostati per id</translation>
+    </message>
+    <message>
+        <source>Raised</source>
+        <translation>In rilievo</translation>
+    </message>
+    <message>
+        <source>Read only</source>
+        <translation>Sola lettura</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Registra</translation>
+    </message>
+    <message>
+        <source>Render</source>
+        <translation>Rendering</translation>
+    </message>
+    <message>
+        <source>Scroll bars</source>
+        <translation>Barre di scorrimento</translation>
+    </message>
+    <message>
+        <source>Sliders and dials</source>
+        <translation>Cursori e manopole</translation>
+    </message>
+    <message>
+        <source>Spin boxes</source>
+        <translation>Caselle di selezione</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <translation>Flusso</translation>
+    </message>
+    <message>
+        <source>Sunken</source>
+        <translation>Incassato</translation>
+    </message>
+    <message>
+        <source>Switches</source>
+        <translation>Interruttori</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Manda in onda</translation>
+    </message>
+    <message>
+        <source>Tall</source>
+        <translation>Alto</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Text beside icon</source>
+        <translation>Testo accanto all’icona</translation>
+    </message>
+    <message>
+        <source>Text tabs have one width; a tab without text fills the bar.</source>
+        <translation>Le schede con testo hanno la stessa larghezza; una senza testo riempie la barra.</translation>
+    </message>
+    <message>
+        <source>Text under icon</source>
+        <translation>Testo sotto l’icona</translation>
+    </message>
+    <message>
+        <source>Ticks above</source>
+        <translation>Tacche sopra</translation>
+    </message>
+    <message>
+        <source>Ticks below</source>
+        <translation>Tacche sotto</translation>
+    </message>
+    <message>
+        <source>Ticks on both sides</source>
+        <translation>Tacche su entrambi i lati</translation>
+    </message>
+    <message>
+        <source>Title only</source>
+        <translation>Solo titolo</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Titoli</translation>
+    </message>
+    <message>
+        <source>Tool button</source>
+        <translation>Pulsante strumento</translation>
+    </message>
+    <message>
+        <source>Tool buttons</source>
+        <translation>Pulsanti strumento</translation>
+    </message>
+    <message>
+        <source>Two seconds</source>
+        <translation>Due secondi</translation>
+    </message>
+    <message>
+        <source>Unchecked</source>
+        <translation>Non selezionato</translation>
+    </message>
+    <message>
+        <source>Up hovered</source>
+        <translation>Puntatore su Su</translation>
+    </message>
+    <message>
+        <source>Up pressed</source>
+        <translation>Su premuto</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valori</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Verticale</translation>
+    </message>
+    <message>
+        <source>Vertical progress bars</source>
+        <translation>Barre di avanzamento verticali</translation>
+    </message>
+    <message>
+        <source>Vertical sliders</source>
+        <translation>Cursori verticali</translation>
+    </message>
+    <message>
+        <source>Vertical, both sides</source>
+        <translation>Verticale, entrambi i lati</translation>
+    </message>
+    <message>
+        <source>Vertical, inverted</source>
+        <translation>Verticale, invertito</translation>
+    </message>
+    <message>
+        <source>Vertical, no ticks</source>
+        <translation>Verticale, senza tacche</translation>
+    </message>
+    <message>
+        <source>Vertical, ticks left</source>
+        <translation>Verticale, tacche a sinistra</translation>
+    </message>
+    <message>
+        <source>Vertical, ticks right</source>
+        <translation>Verticale, tacche a destra</translation>
+    </message>
+    <message>
+        <source>Wipe</source>
+        <translation>Tendina</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Con icona</translation>
+    </message>
+    <message>
+        <source>With menu</source>
+        <translation>Con menu</translation>
+    </message>
+    <message>
+        <source>With notches</source>
+        <translation>Con tacche</translation>
+    </message>
+    <message>
+        <source>Without frame</source>
+        <translation>Senza cornice</translation>
+    </message>
+    <message>
+        <source>Without text</source>
+        <translation>Senza testo</translation>
+    </message>
+    <message>
+        <source>Wrapping</source>
+        <translation>Ciclico</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>
@@ -90,6 +682,32 @@
     <message>
         <source>Clear</source>
         <translation>Cancella</translation>
+    </message>
+</context>
+<context>
+    <name>RangeSlider</name>
+    <message>
+        <source>Maximum</source>
+        <translation>Massimo</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimo</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posizione</translation>
+    </message>
+</context>
+<context>
+    <name>SpanSlider</name>
+    <message>
+        <source>Lower</source>
+        <translation>Inferiore</translation>
+    </message>
+    <message>
+        <source>Upper</source>
+        <translation>Superiore</translation>
     </message>
 </context>
 </TS>

@@ -77,6 +77,598 @@
         <source>Texts of the library</source>
         <translation>Textos da biblioteca</translation>
     </message>
+    <message>
+        <source>&amp;12;Two digits have no badge</source>
+        <translation>&amp;12;Dois algarismos não têm distintivo</translation>
+    </message>
+    <message>
+        <source>&amp;1;Go to camera one</source>
+        <translation>&amp;1;Ir para a câmara um</translation>
+    </message>
+    <message>
+        <source>&amp;2;Go to camera two</source>
+        <translation>&amp;2;Ir para a câmara dois</translation>
+    </message>
+    <message>
+        <source>&amp;3;Go to camera three</source>
+        <translation>&amp;3;Ir para a câmara três</translation>
+    </message>
+    <message>
+        <source>0, 1, 50 and 100 of 100</source>
+        <translation>0, 1, 50 e 100 de 100</translation>
+    </message>
+    <message>
+        <source>A picture that is larger than its window</source>
+        <translation>Uma imagem maior do que a sua janela</translation>
+    </message>
+    <message>
+        <source>A single tab without text</source>
+        <translation>Um único separador sem texto</translation>
+    </message>
+    <message>
+        <source>All sources are connected again.</source>
+        <translation>Todas as fontes estão novamente ligadas.</translation>
+    </message>
+    <message>
+        <source>Arrows</source>
+        <translation>Setas</translation>
+    </message>
+    <message>
+        <source>At the maximum</source>
+        <translation>No máximo</translation>
+    </message>
+    <message>
+        <source>At the minimum, plus and minus</source>
+        <translation>No mínimo, mais e menos</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Áudio</translation>
+    </message>
+    <message>
+        <source>Auto raise</source>
+        <translation>Relevo automático</translation>
+    </message>
+    <message>
+        <source>Back hovered</source>
+        <translation>Ponteiro sobre Recuar</translation>
+    </message>
+    <message>
+        <source>Back pressed</source>
+        <translation>Recuar premido</translation>
+    </message>
+    <message>
+        <source>Beside the contents</source>
+        <translation>Ao lado do conteúdo</translation>
+    </message>
+    <message>
+        <source>Bin %1</source>
+        <translation>Pasta %1</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Caixa</translation>
+    </message>
+    <message>
+        <source>Buffer</source>
+        <translation>Memória intermédia</translation>
+    </message>
+    <message>
+        <source>Bus %1</source>
+        <translation>Barramento %1</translation>
+    </message>
+    <message>
+        <source>Bus A</source>
+        <translation>Barramento A</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>Ocupado</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>Botões</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>Botões e etiquetas</translation>
+    </message>
+    <message>
+        <source>Camera 1</source>
+        <translation>Câmara 1</translation>
+    </message>
+    <message>
+        <source>Camera 2</source>
+        <translation>Câmara 2</translation>
+    </message>
+    <message>
+        <source>Check boxes</source>
+        <translation>Caixas de verificação</translation>
+    </message>
+    <message>
+        <source>Check boxes and radio buttons</source>
+        <translation>Caixas de verificação e botões de opção</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Marcado</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Escolhido</translation>
+    </message>
+    <message>
+        <source>Click this label</source>
+        <translation>Clique nesta etiqueta</translation>
+    </message>
+    <message>
+        <source>Clickable label</source>
+        <translation>Etiqueta clicável</translation>
+    </message>
+    <message>
+        <source>Clients</source>
+        <translation>Clientes</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clipe</translation>
+    </message>
+    <message>
+        <source>Clip %1</source>
+        <translation>Clipe %1</translation>
+    </message>
+    <message>
+        <source>Clip name</source>
+        <translation>Nome do clipe</translation>
+    </message>
+    <message>
+        <source>Clip player</source>
+        <translation>Leitor de clipes</translation>
+    </message>
+    <message>
+        <source>Combo boxes</source>
+        <translation>Caixas de combinação</translation>
+    </message>
+    <message>
+        <source>Command link</source>
+        <translation>Ligação de comando</translation>
+    </message>
+    <message>
+        <source>Containers</source>
+        <translation>Contentores</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Corte</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Predefinido</translation>
+    </message>
+    <message>
+        <source>Delay buttons</source>
+        <translation>Botões com atraso</translation>
+    </message>
+    <message>
+        <source>Dials</source>
+        <translation>Botões rotativos</translation>
+    </message>
+    <message>
+        <source>Dissolve</source>
+        <translation>Dissolução</translation>
+    </message>
+    <message>
+        <source>Down pressed</source>
+        <translation>Baixo premido</translation>
+    </message>
+    <message>
+        <source>Editable</source>
+        <translation>Editável</translation>
+    </message>
+    <message>
+        <source>Editable, icons</source>
+        <translation>Editável, com ícones</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Efeitos</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>Plano</translation>
+    </message>
+    <message>
+        <source>Flat default</source>
+        <translation>Plano, predefinido</translation>
+    </message>
+    <message>
+        <source>Focused</source>
+        <translation>Com foco</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>Tipos de letra</translation>
+    </message>
+    <message>
+        <source>Half a second</source>
+        <translation>Meio segundo</translation>
+    </message>
+    <message>
+        <source>Handle hovered</source>
+        <translation>Ponteiro sobre a pega</translation>
+    </message>
+    <message>
+        <source>Handle pressed</source>
+        <translation>Pega premida</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Horizontal line</source>
+        <translation>Linha horizontal</translation>
+    </message>
+    <message>
+        <source>Horizontal progress bars</source>
+        <translation>Barras de progresso horizontais</translation>
+    </message>
+    <message>
+        <source>Horizontal sliders</source>
+        <translation>Controlos deslizantes horizontais</translation>
+    </message>
+    <message>
+        <source>Hovered</source>
+        <translation>Com o ponteiro por cima</translation>
+    </message>
+    <message>
+        <source>Icon</source>
+        <translation>Ícone</translation>
+    </message>
+    <message>
+        <source>Icon only</source>
+        <translation>Apenas ícone</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>Em uso</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>Invertido</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nível</translation>
+    </message>
+    <message>
+        <source>Level, time, date</source>
+        <translation>Nível, hora, data</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Ciclo</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Multimédia</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Menu at once</source>
+        <translation>Menu imediato</translation>
+    </message>
+    <message>
+        <source>Menu on arrow</source>
+        <translation>Menu na seta</translation>
+    </message>
+    <message>
+        <source>Mix</source>
+        <translation>Mistura</translation>
+    </message>
+    <message>
+        <source>Mixed selection</source>
+        <translation>Seleção mista</translation>
+    </message>
+    <message>
+        <source>No buttons</source>
+        <translation>Sem botões</translation>
+    </message>
+    <message>
+        <source>No number</source>
+        <translation>Sem número</translation>
+    </message>
+    <message>
+        <source>No ticks</source>
+        <translation>Sem marcas</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Not checkable: no delay</source>
+        <translation>Não comutável: sem atraso</translation>
+    </message>
+    <message>
+        <source>Not chosen</source>
+        <translation>Não escolhido</translation>
+    </message>
+    <message>
+        <source>Not editable</source>
+        <translation>Não editável</translation>
+    </message>
+    <message>
+        <source>Not editable, editable</source>
+        <translation>Não editável, editável</translation>
+    </message>
+    <message>
+        <source>Not editable, icons</source>
+        <translation>Não editável, com ícones</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>No ar</translation>
+    </message>
+    <message>
+        <source>On hovered</source>
+        <translation>Ligado, com ponteiro</translation>
+    </message>
+    <message>
+        <source>On pressed</source>
+        <translation>Ligado, premido</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacidade</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Aberto</translation>
+    </message>
+    <message>
+        <source>Open lists</source>
+        <translation>Listas abertas</translation>
+    </message>
+    <message>
+        <source>Open the last show</source>
+        <translation>Abrir o último espetáculo</translation>
+    </message>
+    <message>
+        <source>Others with the same frame</source>
+        <translation>Outros com a mesma moldura</translation>
+    </message>
+    <message>
+        <source>Over %1</source>
+        <translation>Sobre %1</translation>
+    </message>
+    <message>
+        <source>Over the contents</source>
+        <translation>Sobre o conteúdo</translation>
+    </message>
+    <message>
+        <source>Partially checked</source>
+        <translation>Parcialmente marcado</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>Simples</translation>
+    </message>
+    <message>
+        <source>Plus and minus</source>
+        <translation>Mais e menos</translation>
+    </message>
+    <message>
+        <source>Position X</source>
+        <translation>Posição X</translation>
+    </message>
+    <message>
+        <source>Position Y</source>
+        <translation>Posição Y</translation>
+    </message>
+    <message>
+        <source>Pressed</source>
+        <translation>Premido</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message>
+        <source>Progress bars</source>
+        <translation>Barras de progresso</translation>
+    </message>
+    <message>
+        <source>Proxy style</source>
+        <translation>Estilo proxy</translation>
+    </message>
+    <message>
+        <source>Push buttons</source>
+        <translation>Botões de pressão</translation>
+    </message>
+    <message>
+        <source>Radio buttons, set by id</source>
+        <translation>Botões de opção, definidos por id</translation>
+    </message>
+    <message>
+        <source>Raised</source>
+        <translation>Elevado</translation>
+    </message>
+    <message>
+        <source>Read only</source>
+        <translation>Só de leitura</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Gravar</translation>
+    </message>
+    <message>
+        <source>Render</source>
+        <translation>Composição</translation>
+    </message>
+    <message>
+        <source>Scroll bars</source>
+        <translation>Barras de deslocamento</translation>
+    </message>
+    <message>
+        <source>Sliders and dials</source>
+        <translation>Controlos deslizantes e rotativos</translation>
+    </message>
+    <message>
+        <source>Spin boxes</source>
+        <translation>Caixas de incremento</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <translation>Transmissão</translation>
+    </message>
+    <message>
+        <source>Sunken</source>
+        <translation>Rebaixado</translation>
+    </message>
+    <message>
+        <source>Switches</source>
+        <translation>Interruptores</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Pôr no ar</translation>
+    </message>
+    <message>
+        <source>Tall</source>
+        <translation>Alto</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Text beside icon</source>
+        <translation>Texto ao lado do ícone</translation>
+    </message>
+    <message>
+        <source>Text tabs have one width; a tab without text fills the bar.</source>
+        <translation>Os separadores com texto têm a mesma largura; um sem texto preenche a barra.</translation>
+    </message>
+    <message>
+        <source>Text under icon</source>
+        <translation>Texto sob o ícone</translation>
+    </message>
+    <message>
+        <source>Ticks above</source>
+        <translation>Marcas em cima</translation>
+    </message>
+    <message>
+        <source>Ticks below</source>
+        <translation>Marcas em baixo</translation>
+    </message>
+    <message>
+        <source>Ticks on both sides</source>
+        <translation>Marcas dos dois lados</translation>
+    </message>
+    <message>
+        <source>Title only</source>
+        <translation>Apenas título</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Títulos</translation>
+    </message>
+    <message>
+        <source>Tool button</source>
+        <translation>Botão de ferramenta</translation>
+    </message>
+    <message>
+        <source>Tool buttons</source>
+        <translation>Botões de ferramenta</translation>
+    </message>
+    <message>
+        <source>Two seconds</source>
+        <translation>Dois segundos</translation>
+    </message>
+    <message>
+        <source>Unchecked</source>
+        <translation>Não marcado</translation>
+    </message>
+    <message>
+        <source>Up hovered</source>
+        <translation>Ponteiro sobre Cima</translation>
+    </message>
+    <message>
+        <source>Up pressed</source>
+        <translation>Cima premido</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valores</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Vertical progress bars</source>
+        <translation>Barras de progresso verticais</translation>
+    </message>
+    <message>
+        <source>Vertical sliders</source>
+        <translation>Controlos deslizantes verticais</translation>
+    </message>
+    <message>
+        <source>Vertical, both sides</source>
+        <translation>Vertical, dois lados</translation>
+    </message>
+    <message>
+        <source>Vertical, inverted</source>
+        <translation>Vertical, invertido</translation>
+    </message>
+    <message>
+        <source>Vertical, no ticks</source>
+        <translation>Vertical, sem marcas</translation>
+    </message>
+    <message>
+        <source>Vertical, ticks left</source>
+        <translation>Vertical, marcas à esquerda</translation>
+    </message>
+    <message>
+        <source>Vertical, ticks right</source>
+        <translation>Vertical, marcas à direita</translation>
+    </message>
+    <message>
+        <source>Wipe</source>
+        <translation>Cortina</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>Com ícone</translation>
+    </message>
+    <message>
+        <source>With menu</source>
+        <translation>Com menu</translation>
+    </message>
+    <message>
+        <source>With notches</source>
+        <translation>Com entalhes</translation>
+    </message>
+    <message>
+        <source>Without frame</source>
+        <translation>Sem moldura</translation>
+    </message>
+    <message>
+        <source>Without text</source>
+        <translation>Sem texto</translation>
+    </message>
+    <message>
+        <source>Wrapping</source>
+        <translation>Cíclico</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>
@@ -90,6 +682,32 @@
     <message>
         <source>Clear</source>
         <translation>Limpar</translation>
+    </message>
+</context>
+<context>
+    <name>RangeSlider</name>
+    <message>
+        <source>Maximum</source>
+        <translation>Máximo</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Mínimo</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posição</translation>
+    </message>
+</context>
+<context>
+    <name>SpanSlider</name>
+    <message>
+        <source>Lower</source>
+        <translation>Inferior</translation>
+    </message>
+    <message>
+        <source>Upper</source>
+        <translation>Superior</translation>
     </message>
 </context>
 </TS>

@@ -77,6 +77,598 @@
         <source>Texts of the library</source>
         <translation>库中的文本</translation>
     </message>
+    <message>
+        <source>&amp;12;Two digits have no badge</source>
+        <translation>&amp;12;两位数没有标记</translation>
+    </message>
+    <message>
+        <source>&amp;1;Go to camera one</source>
+        <translation>&amp;1;切换到一号摄像机</translation>
+    </message>
+    <message>
+        <source>&amp;2;Go to camera two</source>
+        <translation>&amp;2;切换到二号摄像机</translation>
+    </message>
+    <message>
+        <source>&amp;3;Go to camera three</source>
+        <translation>&amp;3;切换到三号摄像机</translation>
+    </message>
+    <message>
+        <source>0, 1, 50 and 100 of 100</source>
+        <translation>100 中的 0、1、50 和 100</translation>
+    </message>
+    <message>
+        <source>A picture that is larger than its window</source>
+        <translation>大于窗口的图片</translation>
+    </message>
+    <message>
+        <source>A single tab without text</source>
+        <translation>单个无文本的标签页</translation>
+    </message>
+    <message>
+        <source>All sources are connected again.</source>
+        <translation>所有信号源已重新连接。</translation>
+    </message>
+    <message>
+        <source>Arrows</source>
+        <translation>箭头</translation>
+    </message>
+    <message>
+        <source>At the maximum</source>
+        <translation>处于最大值</translation>
+    </message>
+    <message>
+        <source>At the minimum, plus and minus</source>
+        <translation>处于最小值，加号和减号</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音频</translation>
+    </message>
+    <message>
+        <source>Auto raise</source>
+        <translation>自动凸起</translation>
+    </message>
+    <message>
+        <source>Back hovered</source>
+        <translation>指针在后退上</translation>
+    </message>
+    <message>
+        <source>Back pressed</source>
+        <translation>按下后退</translation>
+    </message>
+    <message>
+        <source>Beside the contents</source>
+        <translation>在内容旁</translation>
+    </message>
+    <message>
+        <source>Bin %1</source>
+        <translation>素材箱 %1</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>方框</translation>
+    </message>
+    <message>
+        <source>Buffer</source>
+        <translation>缓冲</translation>
+    </message>
+    <message>
+        <source>Bus %1</source>
+        <translation>总线 %1</translation>
+    </message>
+    <message>
+        <source>Bus A</source>
+        <translation>总线 A</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>忙碌</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>按钮</translation>
+    </message>
+    <message>
+        <source>Buttons and labels</source>
+        <translation>按钮和标签</translation>
+    </message>
+    <message>
+        <source>Camera 1</source>
+        <translation>摄像机 1</translation>
+    </message>
+    <message>
+        <source>Camera 2</source>
+        <translation>摄像机 2</translation>
+    </message>
+    <message>
+        <source>Check boxes</source>
+        <translation>复选框</translation>
+    </message>
+    <message>
+        <source>Check boxes and radio buttons</source>
+        <translation>复选框和单选按钮</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>已选中</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>已选择</translation>
+    </message>
+    <message>
+        <source>Click this label</source>
+        <translation>点击此标签</translation>
+    </message>
+    <message>
+        <source>Clickable label</source>
+        <translation>可点击的标签</translation>
+    </message>
+    <message>
+        <source>Clients</source>
+        <translation>客户端</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>片段</translation>
+    </message>
+    <message>
+        <source>Clip %1</source>
+        <translation>片段 %1</translation>
+    </message>
+    <message>
+        <source>Clip name</source>
+        <translation>片段名称</translation>
+    </message>
+    <message>
+        <source>Clip player</source>
+        <translation>片段播放器</translation>
+    </message>
+    <message>
+        <source>Combo boxes</source>
+        <translation>组合框</translation>
+    </message>
+    <message>
+        <source>Command link</source>
+        <translation>命令链接</translation>
+    </message>
+    <message>
+        <source>Containers</source>
+        <translation>容器</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>硬切</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>默认</translation>
+    </message>
+    <message>
+        <source>Delay buttons</source>
+        <translation>延迟按钮</translation>
+    </message>
+    <message>
+        <source>Dials</source>
+        <translation>旋钮</translation>
+    </message>
+    <message>
+        <source>Dissolve</source>
+        <translation>叠化</translation>
+    </message>
+    <message>
+        <source>Down pressed</source>
+        <translation>按下向下</translation>
+    </message>
+    <message>
+        <source>Editable</source>
+        <translation>可编辑</translation>
+    </message>
+    <message>
+        <source>Editable, icons</source>
+        <translation>可编辑，带图标</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>特效</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>扁平</translation>
+    </message>
+    <message>
+        <source>Flat default</source>
+        <translation>扁平，默认</translation>
+    </message>
+    <message>
+        <source>Focused</source>
+        <translation>有焦点</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>字体</translation>
+    </message>
+    <message>
+        <source>Half a second</source>
+        <translation>半秒</translation>
+    </message>
+    <message>
+        <source>Handle hovered</source>
+        <translation>指针在手柄上</translation>
+    </message>
+    <message>
+        <source>Handle pressed</source>
+        <translation>按下手柄</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>Horizontal line</source>
+        <translation>水平线</translation>
+    </message>
+    <message>
+        <source>Horizontal progress bars</source>
+        <translation>水平进度条</translation>
+    </message>
+    <message>
+        <source>Horizontal sliders</source>
+        <translation>水平滑块</translation>
+    </message>
+    <message>
+        <source>Hovered</source>
+        <translation>指针悬停</translation>
+    </message>
+    <message>
+        <source>Icon</source>
+        <translation>图标</translation>
+    </message>
+    <message>
+        <source>Icon only</source>
+        <translation>仅图标</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>使用中</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>反向</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>时长</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>电平</translation>
+    </message>
+    <message>
+        <source>Level, time, date</source>
+        <translation>电平、时间、日期</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>循环</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>媒体</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>Menu at once</source>
+        <translation>立即弹出菜单</translation>
+    </message>
+    <message>
+        <source>Menu on arrow</source>
+        <translation>箭头弹出菜单</translation>
+    </message>
+    <message>
+        <source>Mix</source>
+        <translation>混合</translation>
+    </message>
+    <message>
+        <source>Mixed selection</source>
+        <translation>混合选择</translation>
+    </message>
+    <message>
+        <source>No buttons</source>
+        <translation>无按钮</translation>
+    </message>
+    <message>
+        <source>No number</source>
+        <translation>无编号</translation>
+    </message>
+    <message>
+        <source>No ticks</source>
+        <translation>无刻度</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>Not checkable: no delay</source>
+        <translation>不可切换：无延迟</translation>
+    </message>
+    <message>
+        <source>Not chosen</source>
+        <translation>未选择</translation>
+    </message>
+    <message>
+        <source>Not editable</source>
+        <translation>不可编辑</translation>
+    </message>
+    <message>
+        <source>Not editable, editable</source>
+        <translation>不可编辑、可编辑</translation>
+    </message>
+    <message>
+        <source>Not editable, icons</source>
+        <translation>不可编辑，带图标</translation>
+    </message>
+    <message>
+        <source>On air</source>
+        <translation>播出中</translation>
+    </message>
+    <message>
+        <source>On hovered</source>
+        <translation>开启，指针悬停</translation>
+    </message>
+    <message>
+        <source>On pressed</source>
+        <translation>开启，按下</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>展开</translation>
+    </message>
+    <message>
+        <source>Open lists</source>
+        <translation>展开的列表</translation>
+    </message>
+    <message>
+        <source>Open the last show</source>
+        <translation>打开上次的演出</translation>
+    </message>
+    <message>
+        <source>Others with the same frame</source>
+        <translation>使用相同边框的其他控件</translation>
+    </message>
+    <message>
+        <source>Over %1</source>
+        <translation>在 %1 之上</translation>
+    </message>
+    <message>
+        <source>Over the contents</source>
+        <translation>在内容之上</translation>
+    </message>
+    <message>
+        <source>Partially checked</source>
+        <translation>部分选中</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>普通</translation>
+    </message>
+    <message>
+        <source>Plus and minus</source>
+        <translation>加号和减号</translation>
+    </message>
+    <message>
+        <source>Position X</source>
+        <translation>X 位置</translation>
+    </message>
+    <message>
+        <source>Position Y</source>
+        <translation>Y 位置</translation>
+    </message>
+    <message>
+        <source>Pressed</source>
+        <translation>按下</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>Progress bars</source>
+        <translation>进度条</translation>
+    </message>
+    <message>
+        <source>Proxy style</source>
+        <translation>代理样式</translation>
+    </message>
+    <message>
+        <source>Push buttons</source>
+        <translation>按压按钮</translation>
+    </message>
+    <message>
+        <source>Radio buttons, set by id</source>
+        <translation>按编号设置的单选按钮</translation>
+    </message>
+    <message>
+        <source>Raised</source>
+        <translation>凸起</translation>
+    </message>
+    <message>
+        <source>Read only</source>
+        <translation>只读</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>录制</translation>
+    </message>
+    <message>
+        <source>Render</source>
+        <translation>渲染</translation>
+    </message>
+    <message>
+        <source>Scroll bars</source>
+        <translation>滚动条</translation>
+    </message>
+    <message>
+        <source>Sliders and dials</source>
+        <translation>滑块和旋钮</translation>
+    </message>
+    <message>
+        <source>Spin boxes</source>
+        <translation>数值框</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <translation>推流</translation>
+    </message>
+    <message>
+        <source>Sunken</source>
+        <translation>凹陷</translation>
+    </message>
+    <message>
+        <source>Switches</source>
+        <translation>开关</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>切出</translation>
+    </message>
+    <message>
+        <source>Tall</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Text beside icon</source>
+        <translation>图标旁文本</translation>
+    </message>
+    <message>
+        <source>Text tabs have one width; a tab without text fills the bar.</source>
+        <translation>有文本的标签页宽度相同；无文本的标签页填满整栏。</translation>
+    </message>
+    <message>
+        <source>Text under icon</source>
+        <translation>图标下文本</translation>
+    </message>
+    <message>
+        <source>Ticks above</source>
+        <translation>上方刻度</translation>
+    </message>
+    <message>
+        <source>Ticks below</source>
+        <translation>下方刻度</translation>
+    </message>
+    <message>
+        <source>Ticks on both sides</source>
+        <translation>两侧刻度</translation>
+    </message>
+    <message>
+        <source>Title only</source>
+        <translation>仅标题</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>字幕</translation>
+    </message>
+    <message>
+        <source>Tool button</source>
+        <translation>工具按钮</translation>
+    </message>
+    <message>
+        <source>Tool buttons</source>
+        <translation>工具按钮</translation>
+    </message>
+    <message>
+        <source>Two seconds</source>
+        <translation>两秒</translation>
+    </message>
+    <message>
+        <source>Unchecked</source>
+        <translation>未选中</translation>
+    </message>
+    <message>
+        <source>Up hovered</source>
+        <translation>指针在向上上</translation>
+    </message>
+    <message>
+        <source>Up pressed</source>
+        <translation>按下向上</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>垂直</translation>
+    </message>
+    <message>
+        <source>Vertical progress bars</source>
+        <translation>垂直进度条</translation>
+    </message>
+    <message>
+        <source>Vertical sliders</source>
+        <translation>垂直滑块</translation>
+    </message>
+    <message>
+        <source>Vertical, both sides</source>
+        <translation>垂直，两侧</translation>
+    </message>
+    <message>
+        <source>Vertical, inverted</source>
+        <translation>垂直，反向</translation>
+    </message>
+    <message>
+        <source>Vertical, no ticks</source>
+        <translation>垂直，无刻度</translation>
+    </message>
+    <message>
+        <source>Vertical, ticks left</source>
+        <translation>垂直，左侧刻度</translation>
+    </message>
+    <message>
+        <source>Vertical, ticks right</source>
+        <translation>垂直，右侧刻度</translation>
+    </message>
+    <message>
+        <source>Wipe</source>
+        <translation>划像</translation>
+    </message>
+    <message>
+        <source>With icon</source>
+        <translation>带图标</translation>
+    </message>
+    <message>
+        <source>With menu</source>
+        <translation>带菜单</translation>
+    </message>
+    <message>
+        <source>With notches</source>
+        <translation>带刻槽</translation>
+    </message>
+    <message>
+        <source>Without frame</source>
+        <translation>无边框</translation>
+    </message>
+    <message>
+        <source>Without text</source>
+        <translation>无文本</translation>
+    </message>
+    <message>
+        <source>Wrapping</source>
+        <translation>循环</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>
@@ -90,6 +682,32 @@
     <message>
         <source>Clear</source>
         <translation>清除</translation>
+    </message>
+</context>
+<context>
+    <name>RangeSlider</name>
+    <message>
+        <source>Maximum</source>
+        <translation>最大值</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>最小值</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+</context>
+<context>
+    <name>SpanSlider</name>
+    <message>
+        <source>Lower</source>
+        <translation>下限</translation>
+    </message>
+    <message>
+        <source>Upper</source>
+        <translation>上限</translation>
     </message>
 </context>
 </TS>
