@@ -1,6 +1,6 @@
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QTranslator>
-#include <QtWidgets/QApplication>
 
 #include <cstdio>
 #include <dlfcn.h>
@@ -43,8 +43,7 @@ void checkPresent(int round)
 /// Loads and unloads the library at the path given, and checks that its files come and go.
 int main(int argc, char *argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication app(argc, argv);
+    const QCoreApplication app(argc, argv);
     if (argc != 2) {
         std::fprintf(stderr, "usage: nocturne-loadprobe library\n");
         return 2;
