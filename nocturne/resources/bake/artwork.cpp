@@ -51,6 +51,8 @@ QString Artwork::bake(const QString &imagePath) const
     const Drawing drawing = drawingOf(target.completeBaseName());
     if (drawing.path.isEmpty())
         return QStringLiteral("there is no drawing for it");
+    if (m_style.isEmpty())
+        return QStringLiteral("there is no style sheet");
 
     if (target.suffix() == QLatin1String("svg")) {
         QFile file(imagePath);

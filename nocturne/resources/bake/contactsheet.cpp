@@ -1,4 +1,5 @@
 #include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
