@@ -669,6 +669,348 @@
         <source>Wrapping</source>
         <translation>Umlaufend</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Show</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>A source is missing.</source>
+        <translation>Eine Quelle fehlt.</translation>
+    </message>
+    <message>
+        <source>A title too long for it</source>
+        <translation>Ein Titel, der dafür zu lang ist</translation>
+    </message>
+    <message>
+        <source>A tool tip</source>
+        <translation>Ein Hinweis</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Above, second</source>
+        <translation>Oben, zweite</translation>
+    </message>
+    <message>
+        <source>Above, second line</source>
+        <translation>Oben, zweite Zeile</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>Kamera %1</translation>
+    </message>
+    <message>
+        <source>Cameras, players and titles</source>
+        <translation>Kameras, Spieler und Titel</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Checked, disabled</source>
+        <translation>Angekreuzt, deaktiviert</translation>
+    </message>
+    <message>
+        <source>Checked, with an icon</source>
+        <translation>Angekreuzt, mit Symbol</translation>
+    </message>
+    <message>
+        <source>Closable, movable, with icons</source>
+        <translation>Schließbar, verschiebbar, mit Symbolen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Copy the sources of the last one</source>
+        <translation>Die Quellen der letzten übernehmen</translation>
+    </message>
+    <message>
+        <source>Dialogs and tips</source>
+        <translation>Dialoge und Hinweise</translation>
+    </message>
+    <message>
+        <source>Document mode, one tab disabled</source>
+        <translation>Dokumentmodus, ein Reiter deaktiviert</translation>
+    </message>
+    <message>
+        <source>Evening show</source>
+        <translation>Abendshow</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Erstes</translation>
+    </message>
+    <message>
+        <source>Group boxes and frames</source>
+        <translation>Gruppenfelder und Rahmen</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>Inactive window</source>
+        <translation>Inaktives Fenster</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>Darin</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Key</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Keys</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Line edits</source>
+        <translation>Eingabefelder</translation>
+    </message>
+    <message>
+        <source>Lists, tables and trees</source>
+        <translation>Listen, Tabellen und Bäume</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Main window</source>
+        <translation>Hauptfenster</translation>
+    </message>
+    <message>
+        <source>Maximize hovered</source>
+        <translation>Zeiger auf Maximieren</translation>
+    </message>
+    <message>
+        <source>Maximize pressed</source>
+        <translation>Maximieren gedrückt</translation>
+    </message>
+    <message>
+        <source>Maximized</source>
+        <translation>Maximiert</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>Menüs</translation>
+    </message>
+    <message>
+        <source>Minimized</source>
+        <translation>Minimiert</translation>
+    </message>
+    <message>
+        <source>Minimized window</source>
+        <translation>Minimiertes Fenster</translation>
+    </message>
+    <message>
+        <source>Mixer</source>
+        <translation>Mischer</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>More tabs than there is room</source>
+        <translation>Mehr Reiter als Platz</translation>
+    </message>
+    <message>
+        <source>Name of the show</source>
+        <translation>Name der Show</translation>
+    </message>
+    <message>
+        <source>New show</source>
+        <translation>Neue Show</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Nicht angekreuzt</translation>
+    </message>
+    <message>
+        <source>Not checked, with an icon</source>
+        <translation>Nicht angekreuzt, mit Symbol</translation>
+    </message>
+    <message>
+        <source>Nothing more</source>
+        <translation>Sonst nichts</translation>
+    </message>
+    <message>
+        <source>One of two</source>
+        <translation>Eines von zwei</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Öffnen …</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Ausgänge</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Tafel</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kennwort</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Roll the titles.
+Fade to black.</source>
+        <translation>Titel abfahren.
+Nach Schwarz blenden.</translation>
+    </message>
+    <message>
+        <source>Rubber bands</source>
+        <translation>Auswahlrahmen</translation>
+    </message>
+    <message>
+        <source>Save before closing?</source>
+        <translation>Vor dem Schließen speichern?</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>Zweites</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Abschnitt</translation>
+    </message>
+    <message>
+        <source>Several lines</source>
+        <translation>Mehrere Zeilen</translation>
+    </message>
+    <message>
+        <source>Shaded window</source>
+        <translation>Eingerolltes Fenster</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>Show %1</translation>
+    </message>
+    <message>
+        <source>Source %1</source>
+        <translation>Quelle %1</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Quellen</translation>
+    </message>
+    <message>
+        <source>Styled panel</source>
+        <translation>Gestaltete Tafel</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Reiter</translation>
+    </message>
+    <message>
+        <source>The default item</source>
+        <translation>Der Standardeintrag</translation>
+    </message>
+    <message>
+        <source>The other one</source>
+        <translation>Das andere</translation>
+    </message>
+    <message>
+        <source>The rundown was changed since it was last saved.</source>
+        <translation>Der Ablauf wurde seit dem letzten Speichern geändert.</translation>
+    </message>
+    <message>
+        <source>Title aligned right</source>
+        <translation>Titel rechtsbündig</translation>
+    </message>
+    <message>
+        <source>Triangular, above</source>
+        <translation>Dreieckig, oben</translation>
+    </message>
+    <message>
+        <source>Triangular, below</source>
+        <translation>Dreieckig, unten</translation>
+    </message>
+    <message>
+        <source>Triangular, left</source>
+        <translation>Dreieckig, links</translation>
+    </message>
+    <message>
+        <source>Triangular, right</source>
+        <translation>Dreieckig, rechts</translation>
+    </message>
+    <message>
+        <source>Vertical title</source>
+        <translation>Senkrechter Titel</translation>
+    </message>
+    <message>
+        <source>What is it called?</source>
+        <translation>Wie heißt sie?</translation>
+    </message>
+    <message>
+        <source>Window with help</source>
+        <translation>Fenster mit Hilfe</translation>
+    </message>
+    <message>
+        <source>Windows in a window</source>
+        <translation>Fenster in einem Fenster</translation>
+    </message>
+    <message>
+        <source>With a clear button</source>
+        <translation>Mit Löschknopf</translation>
+    </message>
+    <message>
+        <source>With a hint</source>
+        <translation>Mit Hinweis</translation>
+    </message>
+    <message>
+        <source>With a selection</source>
+        <translation>Mit Auswahl</translation>
+    </message>
+    <message>
+        <source>With an icon</source>
+        <translation>Mit Symbol</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

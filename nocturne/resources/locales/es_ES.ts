@@ -669,6 +669,348 @@
         <source>Wrapping</source>
         <translation>Cíclico</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Abrir…</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>E&amp;spectáculo</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>A source is missing.</source>
+        <translation>Falta una fuente.</translation>
+    </message>
+    <message>
+        <source>A title too long for it</source>
+        <translation>Un título demasiado largo</translation>
+    </message>
+    <message>
+        <source>A tool tip</source>
+        <translation>Una sugerencia</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>Arriba</translation>
+    </message>
+    <message>
+        <source>Above, second</source>
+        <translation>Arriba, segunda</translation>
+    </message>
+    <message>
+        <source>Above, second line</source>
+        <translation>Arriba, segunda línea</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Abajo</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>Cámara %1</translation>
+    </message>
+    <message>
+        <source>Cameras, players and titles</source>
+        <translation>Cámaras, reproductores y títulos</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Checked, disabled</source>
+        <translation>Marcado, desactivado</translation>
+    </message>
+    <message>
+        <source>Checked, with an icon</source>
+        <translation>Marcado, con icono</translation>
+    </message>
+    <message>
+        <source>Closable, movable, with icons</source>
+        <translation>Se cierran y se mueven, con iconos</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Copy the sources of the last one</source>
+        <translation>Copiar las fuentes del último</translation>
+    </message>
+    <message>
+        <source>Dialogs and tips</source>
+        <translation>Diálogos y sugerencias</translation>
+    </message>
+    <message>
+        <source>Document mode, one tab disabled</source>
+        <translation>Modo documento, una pestaña desactivada</translation>
+    </message>
+    <message>
+        <source>Evening show</source>
+        <translation>Espectáculo de la noche</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Primera</translation>
+    </message>
+    <message>
+        <source>Group boxes and frames</source>
+        <translation>Cuadros de grupo y marcos</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Retener</translation>
+    </message>
+    <message>
+        <source>Inactive window</source>
+        <translation>Ventana inactiva</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>Dentro</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Incrustación</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Incrustaciones</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Line edits</source>
+        <translation>Campos de texto</translation>
+    </message>
+    <message>
+        <source>Lists, tables and trees</source>
+        <translation>Listas, tablas y árboles</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Main window</source>
+        <translation>Ventana principal</translation>
+    </message>
+    <message>
+        <source>Maximize hovered</source>
+        <translation>Puntero sobre Maximizar</translation>
+    </message>
+    <message>
+        <source>Maximize pressed</source>
+        <translation>Maximizar pulsado</translation>
+    </message>
+    <message>
+        <source>Maximized</source>
+        <translation>Maximizada</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>Menús</translation>
+    </message>
+    <message>
+        <source>Minimized</source>
+        <translation>Minimizada</translation>
+    </message>
+    <message>
+        <source>Minimized window</source>
+        <translation>Ventana minimizada</translation>
+    </message>
+    <message>
+        <source>Mixer</source>
+        <translation>Mezclador</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>More tabs than there is room</source>
+        <translation>Más pestañas que espacio</translation>
+    </message>
+    <message>
+        <source>Name of the show</source>
+        <translation>Nombre del espectáculo</translation>
+    </message>
+    <message>
+        <source>New show</source>
+        <translation>Nuevo espectáculo</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>No marcado</translation>
+    </message>
+    <message>
+        <source>Not checked, with an icon</source>
+        <translation>No marcado, con icono</translation>
+    </message>
+    <message>
+        <source>Nothing more</source>
+        <translation>Nada más</translation>
+    </message>
+    <message>
+        <source>One of two</source>
+        <translation>Uno de dos</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Abrir…</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Salidas</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Panel</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Previo</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>Roll the titles.
+Fade to black.</source>
+        <translation>Lanzar los títulos.
+Fundido a negro.</translation>
+    </message>
+    <message>
+        <source>Rubber bands</source>
+        <translation>Marcos de selección</translation>
+    </message>
+    <message>
+        <source>Save before closing?</source>
+        <translation>¿Guardar antes de cerrar?</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>Segunda</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sección</translation>
+    </message>
+    <message>
+        <source>Several lines</source>
+        <translation>Varias líneas</translation>
+    </message>
+    <message>
+        <source>Shaded window</source>
+        <translation>Ventana enrollada</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>Espectáculo %1</translation>
+    </message>
+    <message>
+        <source>Source %1</source>
+        <translation>Fuente %1</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Fuentes</translation>
+    </message>
+    <message>
+        <source>Styled panel</source>
+        <translation>Panel con estilo</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Pestañas</translation>
+    </message>
+    <message>
+        <source>The default item</source>
+        <translation>El elemento predeterminado</translation>
+    </message>
+    <message>
+        <source>The other one</source>
+        <translation>El otro</translation>
+    </message>
+    <message>
+        <source>The rundown was changed since it was last saved.</source>
+        <translation>La escaleta ha cambiado desde la última vez que se guardó.</translation>
+    </message>
+    <message>
+        <source>Title aligned right</source>
+        <translation>Título alineado a la derecha</translation>
+    </message>
+    <message>
+        <source>Triangular, above</source>
+        <translation>Triangular, arriba</translation>
+    </message>
+    <message>
+        <source>Triangular, below</source>
+        <translation>Triangular, abajo</translation>
+    </message>
+    <message>
+        <source>Triangular, left</source>
+        <translation>Triangular, izquierda</translation>
+    </message>
+    <message>
+        <source>Triangular, right</source>
+        <translation>Triangular, derecha</translation>
+    </message>
+    <message>
+        <source>Vertical title</source>
+        <translation>Título vertical</translation>
+    </message>
+    <message>
+        <source>What is it called?</source>
+        <translation>¿Cómo se llama?</translation>
+    </message>
+    <message>
+        <source>Window with help</source>
+        <translation>Ventana con ayuda</translation>
+    </message>
+    <message>
+        <source>Windows in a window</source>
+        <translation>Ventanas en una ventana</translation>
+    </message>
+    <message>
+        <source>With a clear button</source>
+        <translation>Con botón de borrado</translation>
+    </message>
+    <message>
+        <source>With a hint</source>
+        <translation>Con indicación</translation>
+    </message>
+    <message>
+        <source>With a selection</source>
+        <translation>Con selección</translation>
+    </message>
+    <message>
+        <source>With an icon</source>
+        <translation>Con icono</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

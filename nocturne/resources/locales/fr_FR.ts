@@ -669,6 +669,348 @@
         <source>Wrapping</source>
         <translation>En boucle</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Spectacle</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>A source is missing.</source>
+        <translation>Il manque une source.</translation>
+    </message>
+    <message>
+        <source>A title too long for it</source>
+        <translation>Un titre trop long</translation>
+    </message>
+    <message>
+        <source>A tool tip</source>
+        <translation>Une infobulle</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>Au-dessus</translation>
+    </message>
+    <message>
+        <source>Above, second</source>
+        <translation>Au-dessus, deuxième</translation>
+    </message>
+    <message>
+        <source>Above, second line</source>
+        <translation>Au-dessus, deuxième ligne</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Au-dessous</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>Caméra %1</translation>
+    </message>
+    <message>
+        <source>Cameras, players and titles</source>
+        <translation>Caméras, lecteurs et titres</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Checked, disabled</source>
+        <translation>Coché, désactivé</translation>
+    </message>
+    <message>
+        <source>Checked, with an icon</source>
+        <translation>Coché, avec une icône</translation>
+    </message>
+    <message>
+        <source>Closable, movable, with icons</source>
+        <translation>Fermables, déplaçables, avec icônes</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Copy the sources of the last one</source>
+        <translation>Copier les sources du dernier</translation>
+    </message>
+    <message>
+        <source>Dialogs and tips</source>
+        <translation>Dialogues et infobulles</translation>
+    </message>
+    <message>
+        <source>Document mode, one tab disabled</source>
+        <translation>Mode document, un onglet désactivé</translation>
+    </message>
+    <message>
+        <source>Evening show</source>
+        <translation>Spectacle du soir</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Première</translation>
+    </message>
+    <message>
+        <source>Group boxes and frames</source>
+        <translation>Zones de groupe et cadres</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Maintien</translation>
+    </message>
+    <message>
+        <source>Inactive window</source>
+        <translation>Fenêtre inactive</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>À l’intérieur</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Incrustation</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Incrustations</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>Line edits</source>
+        <translation>Champs de saisie</translation>
+    </message>
+    <message>
+        <source>Lists, tables and trees</source>
+        <translation>Listes, tableaux et arbres</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Main window</source>
+        <translation>Fenêtre principale</translation>
+    </message>
+    <message>
+        <source>Maximize hovered</source>
+        <translation>Pointeur sur Agrandir</translation>
+    </message>
+    <message>
+        <source>Maximize pressed</source>
+        <translation>Agrandir enfoncé</translation>
+    </message>
+    <message>
+        <source>Maximized</source>
+        <translation>Agrandie</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>Menus</translation>
+    </message>
+    <message>
+        <source>Minimized</source>
+        <translation>Réduite</translation>
+    </message>
+    <message>
+        <source>Minimized window</source>
+        <translation>Fenêtre réduite</translation>
+    </message>
+    <message>
+        <source>Mixer</source>
+        <translation>Mélangeur</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>More tabs than there is room</source>
+        <translation>Plus d’onglets que de place</translation>
+    </message>
+    <message>
+        <source>Name of the show</source>
+        <translation>Nom du spectacle</translation>
+    </message>
+    <message>
+        <source>New show</source>
+        <translation>Nouveau spectacle</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Non coché</translation>
+    </message>
+    <message>
+        <source>Not checked, with an icon</source>
+        <translation>Non coché, avec une icône</translation>
+    </message>
+    <message>
+        <source>Nothing more</source>
+        <translation>Rien de plus</translation>
+    </message>
+    <message>
+        <source>One of two</source>
+        <translation>L’un des deux</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Ouvrir…</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Sorties</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Panneau</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Prévisualisation</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Prêt</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Droite</translation>
+    </message>
+    <message>
+        <source>Roll the titles.
+Fade to black.</source>
+        <translation>Lancer le générique.
+Fondu au noir.</translation>
+    </message>
+    <message>
+        <source>Rubber bands</source>
+        <translation>Rectangles de sélection</translation>
+    </message>
+    <message>
+        <source>Save before closing?</source>
+        <translation>Enregistrer avant de fermer ?</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>Deuxième</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Section</translation>
+    </message>
+    <message>
+        <source>Several lines</source>
+        <translation>Plusieurs lignes</translation>
+    </message>
+    <message>
+        <source>Shaded window</source>
+        <translation>Fenêtre enroulée</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>Spectacle %1</translation>
+    </message>
+    <message>
+        <source>Source %1</source>
+        <translation>Source %1</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Sources</translation>
+    </message>
+    <message>
+        <source>Styled panel</source>
+        <translation>Panneau stylé</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Onglets</translation>
+    </message>
+    <message>
+        <source>The default item</source>
+        <translation>L’élément par défaut</translation>
+    </message>
+    <message>
+        <source>The other one</source>
+        <translation>L’autre</translation>
+    </message>
+    <message>
+        <source>The rundown was changed since it was last saved.</source>
+        <translation>Le conducteur a été modifié depuis le dernier enregistrement.</translation>
+    </message>
+    <message>
+        <source>Title aligned right</source>
+        <translation>Titre aligné à droite</translation>
+    </message>
+    <message>
+        <source>Triangular, above</source>
+        <translation>Triangulaire, au-dessus</translation>
+    </message>
+    <message>
+        <source>Triangular, below</source>
+        <translation>Triangulaire, au-dessous</translation>
+    </message>
+    <message>
+        <source>Triangular, left</source>
+        <translation>Triangulaire, à gauche</translation>
+    </message>
+    <message>
+        <source>Triangular, right</source>
+        <translation>Triangulaire, à droite</translation>
+    </message>
+    <message>
+        <source>Vertical title</source>
+        <translation>Titre vertical</translation>
+    </message>
+    <message>
+        <source>What is it called?</source>
+        <translation>Comment s’appelle-t-il ?</translation>
+    </message>
+    <message>
+        <source>Window with help</source>
+        <translation>Fenêtre avec aide</translation>
+    </message>
+    <message>
+        <source>Windows in a window</source>
+        <translation>Fenêtres dans une fenêtre</translation>
+    </message>
+    <message>
+        <source>With a clear button</source>
+        <translation>Avec un bouton d’effacement</translation>
+    </message>
+    <message>
+        <source>With a hint</source>
+        <translation>Avec une indication</translation>
+    </message>
+    <message>
+        <source>With a selection</source>
+        <translation>Avec une sélection</translation>
+    </message>
+    <message>
+        <source>With an icon</source>
+        <translation>Avec une icône</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

@@ -669,6 +669,348 @@
         <source>Wrapping</source>
         <translation>Ciclico</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Apri…</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Spettacolo</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Visualizza</translation>
+    </message>
+    <message>
+        <source>A source is missing.</source>
+        <translation>Manca una sorgente.</translation>
+    </message>
+    <message>
+        <source>A title too long for it</source>
+        <translation>Un titolo troppo lungo</translation>
+    </message>
+    <message>
+        <source>A tool tip</source>
+        <translation>Un suggerimento</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>Sopra</translation>
+    </message>
+    <message>
+        <source>Above, second</source>
+        <translation>Sopra, seconda</translation>
+    </message>
+    <message>
+        <source>Above, second line</source>
+        <translation>Sopra, seconda riga</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Sotto</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>Telecamera %1</translation>
+    </message>
+    <message>
+        <source>Cameras, players and titles</source>
+        <translation>Telecamere, lettori e titoli</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canale</translation>
+    </message>
+    <message>
+        <source>Checked, disabled</source>
+        <translation>Selezionato, disabilitato</translation>
+    </message>
+    <message>
+        <source>Checked, with an icon</source>
+        <translation>Selezionato, con icona</translation>
+    </message>
+    <message>
+        <source>Closable, movable, with icons</source>
+        <translation>Chiudibili, spostabili, con icone</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Copy the sources of the last one</source>
+        <translation>Copia le sorgenti dell’ultimo</translation>
+    </message>
+    <message>
+        <source>Dialogs and tips</source>
+        <translation>Finestre di dialogo e suggerimenti</translation>
+    </message>
+    <message>
+        <source>Document mode, one tab disabled</source>
+        <translation>Modalità documento, una scheda disabilitata</translation>
+    </message>
+    <message>
+        <source>Evening show</source>
+        <translation>Spettacolo serale</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Prima</translation>
+    </message>
+    <message>
+        <source>Group boxes and frames</source>
+        <translation>Gruppi e cornici</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Mantieni</translation>
+    </message>
+    <message>
+        <source>Inactive window</source>
+        <translation>Finestra inattiva</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>Dentro</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Chiave</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Chiavi</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Sinistra</translation>
+    </message>
+    <message>
+        <source>Line edits</source>
+        <translation>Campi di testo</translation>
+    </message>
+    <message>
+        <source>Lists, tables and trees</source>
+        <translation>Elenchi, tabelle e alberi</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Main window</source>
+        <translation>Finestra principale</translation>
+    </message>
+    <message>
+        <source>Maximize hovered</source>
+        <translation>Puntatore su Ingrandisci</translation>
+    </message>
+    <message>
+        <source>Maximize pressed</source>
+        <translation>Ingrandisci premuto</translation>
+    </message>
+    <message>
+        <source>Maximized</source>
+        <translation>Ingrandita</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Minimized</source>
+        <translation>Ridotta a icona</translation>
+    </message>
+    <message>
+        <source>Minimized window</source>
+        <translation>Finestra ridotta a icona</translation>
+    </message>
+    <message>
+        <source>Mixer</source>
+        <translation>Mixer</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Altro</translation>
+    </message>
+    <message>
+        <source>More tabs than there is room</source>
+        <translation>Più schede dello spazio disponibile</translation>
+    </message>
+    <message>
+        <source>Name of the show</source>
+        <translation>Nome dello spettacolo</translation>
+    </message>
+    <message>
+        <source>New show</source>
+        <translation>Nuovo spettacolo</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Non selezionato</translation>
+    </message>
+    <message>
+        <source>Not checked, with an icon</source>
+        <translation>Non selezionato, con icona</translation>
+    </message>
+    <message>
+        <source>Nothing more</source>
+        <translation>Nient’altro</translation>
+    </message>
+    <message>
+        <source>One of two</source>
+        <translation>Uno di due</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Apri…</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Uscite</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Pannello</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programma</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Pronto</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Destra</translation>
+    </message>
+    <message>
+        <source>Roll the titles.
+Fade to black.</source>
+        <translation>Avvia i titoli.
+Dissolvenza al nero.</translation>
+    </message>
+    <message>
+        <source>Rubber bands</source>
+        <translation>Rettangoli di selezione</translation>
+    </message>
+    <message>
+        <source>Save before closing?</source>
+        <translation>Salvare prima di chiudere?</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>Seconda</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sezione</translation>
+    </message>
+    <message>
+        <source>Several lines</source>
+        <translation>Più righe</translation>
+    </message>
+    <message>
+        <source>Shaded window</source>
+        <translation>Finestra arrotolata</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>Spettacolo %1</translation>
+    </message>
+    <message>
+        <source>Source %1</source>
+        <translation>Sorgente %1</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Sorgenti</translation>
+    </message>
+    <message>
+        <source>Styled panel</source>
+        <translation>Pannello con stile</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Schede</translation>
+    </message>
+    <message>
+        <source>The default item</source>
+        <translation>La voce predefinita</translation>
+    </message>
+    <message>
+        <source>The other one</source>
+        <translation>L’altro</translation>
+    </message>
+    <message>
+        <source>The rundown was changed since it was last saved.</source>
+        <translation>La scaletta è cambiata dall’ultimo salvataggio.</translation>
+    </message>
+    <message>
+        <source>Title aligned right</source>
+        <translation>Titolo allineato a destra</translation>
+    </message>
+    <message>
+        <source>Triangular, above</source>
+        <translation>Triangolare, sopra</translation>
+    </message>
+    <message>
+        <source>Triangular, below</source>
+        <translation>Triangolare, sotto</translation>
+    </message>
+    <message>
+        <source>Triangular, left</source>
+        <translation>Triangolare, a sinistra</translation>
+    </message>
+    <message>
+        <source>Triangular, right</source>
+        <translation>Triangolare, a destra</translation>
+    </message>
+    <message>
+        <source>Vertical title</source>
+        <translation>Titolo verticale</translation>
+    </message>
+    <message>
+        <source>What is it called?</source>
+        <translation>Come si chiama?</translation>
+    </message>
+    <message>
+        <source>Window with help</source>
+        <translation>Finestra con guida</translation>
+    </message>
+    <message>
+        <source>Windows in a window</source>
+        <translation>Finestre in una finestra</translation>
+    </message>
+    <message>
+        <source>With a clear button</source>
+        <translation>Con pulsante di cancellazione</translation>
+    </message>
+    <message>
+        <source>With a hint</source>
+        <translation>Con un suggerimento</translation>
+    </message>
+    <message>
+        <source>With a selection</source>
+        <translation>Con una selezione</translation>
+    </message>
+    <message>
+        <source>With an icon</source>
+        <translation>Con un’icona</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

@@ -669,6 +669,348 @@
         <source>Wrapping</source>
         <translation>循環</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>開く(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>ショー(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>A source is missing.</source>
+        <translation>ソースが見つかりません。</translation>
+    </message>
+    <message>
+        <source>A title too long for it</source>
+        <translation>収まりきらない長いタイトル</translation>
+    </message>
+    <message>
+        <source>A tool tip</source>
+        <translation>ツールヒント</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Above, second</source>
+        <translation>上、2 番目</translation>
+    </message>
+    <message>
+        <source>Above, second line</source>
+        <translation>上、2 行目</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>カメラ %1</translation>
+    </message>
+    <message>
+        <source>Cameras, players and titles</source>
+        <translation>カメラ、プレーヤー、タイトル</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>Checked, disabled</source>
+        <translation>チェックあり、無効</translation>
+    </message>
+    <message>
+        <source>Checked, with an icon</source>
+        <translation>チェックあり、アイコン付き</translation>
+    </message>
+    <message>
+        <source>Closable, movable, with icons</source>
+        <translation>閉じる・移動が可能、アイコン付き</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Copy the sources of the last one</source>
+        <translation>前回のソースをコピー</translation>
+    </message>
+    <message>
+        <source>Dialogs and tips</source>
+        <translation>ダイアログとヒント</translation>
+    </message>
+    <message>
+        <source>Document mode, one tab disabled</source>
+        <translation>ドキュメントモード、タブの 1 つが無効</translation>
+    </message>
+    <message>
+        <source>Evening show</source>
+        <translation>夜のショー</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>1 番目</translation>
+    </message>
+    <message>
+        <source>Group boxes and frames</source>
+        <translation>グループボックスとフレーム</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>ホールド</translation>
+    </message>
+    <message>
+        <source>Inactive window</source>
+        <translation>非アクティブなウィンドウ</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>内側</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Line edits</source>
+        <translation>入力欄</translation>
+    </message>
+    <message>
+        <source>Lists, tables and trees</source>
+        <translation>リスト、表、ツリー</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>ログ</translation>
+    </message>
+    <message>
+        <source>Main window</source>
+        <translation>メインウィンドウ</translation>
+    </message>
+    <message>
+        <source>Maximize hovered</source>
+        <translation>「最大化」にポインター</translation>
+    </message>
+    <message>
+        <source>Maximize pressed</source>
+        <translation>「最大化」を押下</translation>
+    </message>
+    <message>
+        <source>Maximized</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>メニュー</translation>
+    </message>
+    <message>
+        <source>Minimized</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Minimized window</source>
+        <translation>最小化されたウィンドウ</translation>
+    </message>
+    <message>
+        <source>Mixer</source>
+        <translation>ミキサー</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>More tabs than there is room</source>
+        <translation>収まりきらない数のタブ</translation>
+    </message>
+    <message>
+        <source>Name of the show</source>
+        <translation>ショーの名前</translation>
+    </message>
+    <message>
+        <source>New show</source>
+        <translation>新規ショー</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>チェックなし</translation>
+    </message>
+    <message>
+        <source>Not checked, with an icon</source>
+        <translation>チェックなし、アイコン付き</translation>
+    </message>
+    <message>
+        <source>Nothing more</source>
+        <translation>これ以上なし</translation>
+    </message>
+    <message>
+        <source>One of two</source>
+        <translation>2 つのうちの 1 つ</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>開く…</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>出力</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>パネル</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>プログラム</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Roll the titles.
+Fade to black.</source>
+        <translation>タイトルを流す。
+黒へフェード。</translation>
+    </message>
+    <message>
+        <source>Rubber bands</source>
+        <translation>選択枠</translation>
+    </message>
+    <message>
+        <source>Save before closing?</source>
+        <translation>閉じる前に保存しますか?</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>2 番目</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>セクション</translation>
+    </message>
+    <message>
+        <source>Several lines</source>
+        <translation>複数行</translation>
+    </message>
+    <message>
+        <source>Shaded window</source>
+        <translation>巻き上げたウィンドウ</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>ショー %1</translation>
+    </message>
+    <message>
+        <source>Source %1</source>
+        <translation>ソース %1</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>ソース</translation>
+    </message>
+    <message>
+        <source>Styled panel</source>
+        <translation>スタイル付きパネル</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>タブ</translation>
+    </message>
+    <message>
+        <source>The default item</source>
+        <translation>既定の項目</translation>
+    </message>
+    <message>
+        <source>The other one</source>
+        <translation>もう 1 つ</translation>
+    </message>
+    <message>
+        <source>The rundown was changed since it was last saved.</source>
+        <translation>進行表は前回の保存後に変更されています。</translation>
+    </message>
+    <message>
+        <source>Title aligned right</source>
+        <translation>右揃えのタイトル</translation>
+    </message>
+    <message>
+        <source>Triangular, above</source>
+        <translation>三角形、上</translation>
+    </message>
+    <message>
+        <source>Triangular, below</source>
+        <translation>三角形、下</translation>
+    </message>
+    <message>
+        <source>Triangular, left</source>
+        <translation>三角形、左</translation>
+    </message>
+    <message>
+        <source>Triangular, right</source>
+        <translation>三角形、右</translation>
+    </message>
+    <message>
+        <source>Vertical title</source>
+        <translation>縦書きのタイトル</translation>
+    </message>
+    <message>
+        <source>What is it called?</source>
+        <translation>名前は何ですか?</translation>
+    </message>
+    <message>
+        <source>Window with help</source>
+        <translation>ヘルプ付きウィンドウ</translation>
+    </message>
+    <message>
+        <source>Windows in a window</source>
+        <translation>ウィンドウ内のウィンドウ</translation>
+    </message>
+    <message>
+        <source>With a clear button</source>
+        <translation>クリアボタン付き</translation>
+    </message>
+    <message>
+        <source>With a hint</source>
+        <translation>ヒント付き</translation>
+    </message>
+    <message>
+        <source>With a selection</source>
+        <translation>選択あり</translation>
+    </message>
+    <message>
+        <source>With an icon</source>
+        <translation>アイコン付き</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

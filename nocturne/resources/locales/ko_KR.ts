@@ -669,6 +669,348 @@
         <source>Wrapping</source>
         <translation>순환</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>편집(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>열기(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>쇼(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>보기(&amp;V)</translation>
+    </message>
+    <message>
+        <source>A source is missing.</source>
+        <translation>소스가 없습니다.</translation>
+    </message>
+    <message>
+        <source>A title too long for it</source>
+        <translation>들어가기에 너무 긴 제목</translation>
+    </message>
+    <message>
+        <source>A tool tip</source>
+        <translation>도구 설명</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>위</translation>
+    </message>
+    <message>
+        <source>Above, second</source>
+        <translation>위, 두 번째</translation>
+    </message>
+    <message>
+        <source>Above, second line</source>
+        <translation>위, 둘째 줄</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>아래</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>카메라 %1</translation>
+    </message>
+    <message>
+        <source>Cameras, players and titles</source>
+        <translation>카메라, 플레이어, 자막</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>채널</translation>
+    </message>
+    <message>
+        <source>Checked, disabled</source>
+        <translation>선택됨, 사용 안 함</translation>
+    </message>
+    <message>
+        <source>Checked, with an icon</source>
+        <translation>선택됨, 아이콘 있음</translation>
+    </message>
+    <message>
+        <source>Closable, movable, with icons</source>
+        <translation>닫기·이동 가능, 아이콘 있음</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Copy the sources of the last one</source>
+        <translation>마지막 쇼의 소스 복사</translation>
+    </message>
+    <message>
+        <source>Dialogs and tips</source>
+        <translation>대화 상자와 도구 설명</translation>
+    </message>
+    <message>
+        <source>Document mode, one tab disabled</source>
+        <translation>문서 모드, 탭 하나 사용 안 함</translation>
+    </message>
+    <message>
+        <source>Evening show</source>
+        <translation>저녁 쇼</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>첫째</translation>
+    </message>
+    <message>
+        <source>Group boxes and frames</source>
+        <translation>그룹 상자와 프레임</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>유지</translation>
+    </message>
+    <message>
+        <source>Inactive window</source>
+        <translation>비활성 창</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>안쪽</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>키</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>키</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>Line edits</source>
+        <translation>입력란</translation>
+    </message>
+    <message>
+        <source>Lists, tables and trees</source>
+        <translation>목록, 표, 트리</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>로그</translation>
+    </message>
+    <message>
+        <source>Main window</source>
+        <translation>주 창</translation>
+    </message>
+    <message>
+        <source>Maximize hovered</source>
+        <translation>최대화에 포인터</translation>
+    </message>
+    <message>
+        <source>Maximize pressed</source>
+        <translation>최대화 눌림</translation>
+    </message>
+    <message>
+        <source>Maximized</source>
+        <translation>최대화됨</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>메뉴</translation>
+    </message>
+    <message>
+        <source>Minimized</source>
+        <translation>최소화됨</translation>
+    </message>
+    <message>
+        <source>Minimized window</source>
+        <translation>최소화된 창</translation>
+    </message>
+    <message>
+        <source>Mixer</source>
+        <translation>믹서</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>더 보기</translation>
+    </message>
+    <message>
+        <source>More tabs than there is room</source>
+        <translation>공간보다 많은 탭</translation>
+    </message>
+    <message>
+        <source>Name of the show</source>
+        <translation>쇼 이름</translation>
+    </message>
+    <message>
+        <source>New show</source>
+        <translation>새 쇼</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>선택 안 됨</translation>
+    </message>
+    <message>
+        <source>Not checked, with an icon</source>
+        <translation>선택 안 됨, 아이콘 있음</translation>
+    </message>
+    <message>
+        <source>Nothing more</source>
+        <translation>더 없음</translation>
+    </message>
+    <message>
+        <source>One of two</source>
+        <translation>둘 중 하나</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>열기…</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>출력</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>패널</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>암호</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>프리뷰</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>프로그램</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>준비됨</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>Roll the titles.
+Fade to black.</source>
+        <translation>자막을 올립니다.
+검은 화면으로 페이드.</translation>
+    </message>
+    <message>
+        <source>Rubber bands</source>
+        <translation>선택 테두리</translation>
+    </message>
+    <message>
+        <source>Save before closing?</source>
+        <translation>닫기 전에 저장할까요?</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>둘째</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>구역</translation>
+    </message>
+    <message>
+        <source>Several lines</source>
+        <translation>여러 줄</translation>
+    </message>
+    <message>
+        <source>Shaded window</source>
+        <translation>말아 올린 창</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>쇼 %1</translation>
+    </message>
+    <message>
+        <source>Source %1</source>
+        <translation>소스 %1</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>소스</translation>
+    </message>
+    <message>
+        <source>Styled panel</source>
+        <translation>스타일 패널</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>탭</translation>
+    </message>
+    <message>
+        <source>The default item</source>
+        <translation>기본 항목</translation>
+    </message>
+    <message>
+        <source>The other one</source>
+        <translation>다른 하나</translation>
+    </message>
+    <message>
+        <source>The rundown was changed since it was last saved.</source>
+        <translation>큐시트가 마지막 저장 이후 변경되었습니다.</translation>
+    </message>
+    <message>
+        <source>Title aligned right</source>
+        <translation>오른쪽 맞춤 제목</translation>
+    </message>
+    <message>
+        <source>Triangular, above</source>
+        <translation>삼각형, 위</translation>
+    </message>
+    <message>
+        <source>Triangular, below</source>
+        <translation>삼각형, 아래</translation>
+    </message>
+    <message>
+        <source>Triangular, left</source>
+        <translation>삼각형, 왼쪽</translation>
+    </message>
+    <message>
+        <source>Triangular, right</source>
+        <translation>삼각형, 오른쪽</translation>
+    </message>
+    <message>
+        <source>Vertical title</source>
+        <translation>세로 제목</translation>
+    </message>
+    <message>
+        <source>What is it called?</source>
+        <translation>이름이 무엇인가요?</translation>
+    </message>
+    <message>
+        <source>Window with help</source>
+        <translation>도움말이 있는 창</translation>
+    </message>
+    <message>
+        <source>Windows in a window</source>
+        <translation>창 안의 창</translation>
+    </message>
+    <message>
+        <source>With a clear button</source>
+        <translation>지우기 단추 있음</translation>
+    </message>
+    <message>
+        <source>With a hint</source>
+        <translation>힌트 있음</translation>
+    </message>
+    <message>
+        <source>With a selection</source>
+        <translation>선택 영역 있음</translation>
+    </message>
+    <message>
+        <source>With an icon</source>
+        <translation>아이콘 있음</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

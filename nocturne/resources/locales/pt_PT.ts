@@ -669,6 +669,348 @@
         <source>Wrapping</source>
         <translation>Cíclico</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Abrir…</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>E&amp;spetáculo</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>A source is missing.</source>
+        <translation>Falta uma fonte.</translation>
+    </message>
+    <message>
+        <source>A title too long for it</source>
+        <translation>Um título demasiado longo</translation>
+    </message>
+    <message>
+        <source>A tool tip</source>
+        <translation>Uma dica</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>Em cima</translation>
+    </message>
+    <message>
+        <source>Above, second</source>
+        <translation>Em cima, segunda</translation>
+    </message>
+    <message>
+        <source>Above, second line</source>
+        <translation>Em cima, segunda linha</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Em baixo</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>Câmara %1</translation>
+    </message>
+    <message>
+        <source>Cameras, players and titles</source>
+        <translation>Câmaras, leitores e títulos</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Checked, disabled</source>
+        <translation>Marcado, desativado</translation>
+    </message>
+    <message>
+        <source>Checked, with an icon</source>
+        <translation>Marcado, com ícone</translation>
+    </message>
+    <message>
+        <source>Closable, movable, with icons</source>
+        <translation>Fecháveis, móveis, com ícones</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Copy the sources of the last one</source>
+        <translation>Copiar as fontes do último</translation>
+    </message>
+    <message>
+        <source>Dialogs and tips</source>
+        <translation>Diálogos e dicas</translation>
+    </message>
+    <message>
+        <source>Document mode, one tab disabled</source>
+        <translation>Modo documento, um separador desativado</translation>
+    </message>
+    <message>
+        <source>Evening show</source>
+        <translation>Espetáculo da noite</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Primeira</translation>
+    </message>
+    <message>
+        <source>Group boxes and frames</source>
+        <translation>Caixas de grupo e molduras</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Reter</translation>
+    </message>
+    <message>
+        <source>Inactive window</source>
+        <translation>Janela inativa</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>Dentro</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Chave</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Chaves</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Esquerda</translation>
+    </message>
+    <message>
+        <source>Line edits</source>
+        <translation>Campos de texto</translation>
+    </message>
+    <message>
+        <source>Lists, tables and trees</source>
+        <translation>Listas, tabelas e árvores</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Registo</translation>
+    </message>
+    <message>
+        <source>Main window</source>
+        <translation>Janela principal</translation>
+    </message>
+    <message>
+        <source>Maximize hovered</source>
+        <translation>Ponteiro sobre Maximizar</translation>
+    </message>
+    <message>
+        <source>Maximize pressed</source>
+        <translation>Maximizar premido</translation>
+    </message>
+    <message>
+        <source>Maximized</source>
+        <translation>Maximizada</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>Menus</translation>
+    </message>
+    <message>
+        <source>Minimized</source>
+        <translation>Minimizada</translation>
+    </message>
+    <message>
+        <source>Minimized window</source>
+        <translation>Janela minimizada</translation>
+    </message>
+    <message>
+        <source>Mixer</source>
+        <translation>Misturador</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mais</translation>
+    </message>
+    <message>
+        <source>More tabs than there is room</source>
+        <translation>Mais separadores do que espaço</translation>
+    </message>
+    <message>
+        <source>Name of the show</source>
+        <translation>Nome do espetáculo</translation>
+    </message>
+    <message>
+        <source>New show</source>
+        <translation>Novo espetáculo</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Não marcado</translation>
+    </message>
+    <message>
+        <source>Not checked, with an icon</source>
+        <translation>Não marcado, com ícone</translation>
+    </message>
+    <message>
+        <source>Nothing more</source>
+        <translation>Nada mais</translation>
+    </message>
+    <message>
+        <source>One of two</source>
+        <translation>Um de dois</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Abrir…</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Saídas</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Painel</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Palavra-passe</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Pré-visualização</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Pronto</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Direita</translation>
+    </message>
+    <message>
+        <source>Roll the titles.
+Fade to black.</source>
+        <translation>Lançar os títulos.
+Fundir para preto.</translation>
+    </message>
+    <message>
+        <source>Rubber bands</source>
+        <translation>Retângulos de seleção</translation>
+    </message>
+    <message>
+        <source>Save before closing?</source>
+        <translation>Guardar antes de fechar?</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>Segunda</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Secção</translation>
+    </message>
+    <message>
+        <source>Several lines</source>
+        <translation>Várias linhas</translation>
+    </message>
+    <message>
+        <source>Shaded window</source>
+        <translation>Janela enrolada</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>Espetáculo %1</translation>
+    </message>
+    <message>
+        <source>Source %1</source>
+        <translation>Fonte %1</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Fontes</translation>
+    </message>
+    <message>
+        <source>Styled panel</source>
+        <translation>Painel com estilo</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Separadores</translation>
+    </message>
+    <message>
+        <source>The default item</source>
+        <translation>O item predefinido</translation>
+    </message>
+    <message>
+        <source>The other one</source>
+        <translation>O outro</translation>
+    </message>
+    <message>
+        <source>The rundown was changed since it was last saved.</source>
+        <translation>O alinhamento foi alterado desde a última gravação.</translation>
+    </message>
+    <message>
+        <source>Title aligned right</source>
+        <translation>Título alinhado à direita</translation>
+    </message>
+    <message>
+        <source>Triangular, above</source>
+        <translation>Triangular, em cima</translation>
+    </message>
+    <message>
+        <source>Triangular, below</source>
+        <translation>Triangular, em baixo</translation>
+    </message>
+    <message>
+        <source>Triangular, left</source>
+        <translation>Triangular, à esquerda</translation>
+    </message>
+    <message>
+        <source>Triangular, right</source>
+        <translation>Triangular, à direita</translation>
+    </message>
+    <message>
+        <source>Vertical title</source>
+        <translation>Título vertical</translation>
+    </message>
+    <message>
+        <source>What is it called?</source>
+        <translation>Como se chama?</translation>
+    </message>
+    <message>
+        <source>Window with help</source>
+        <translation>Janela com ajuda</translation>
+    </message>
+    <message>
+        <source>Windows in a window</source>
+        <translation>Janelas numa janela</translation>
+    </message>
+    <message>
+        <source>With a clear button</source>
+        <translation>Com botão de limpar</translation>
+    </message>
+    <message>
+        <source>With a hint</source>
+        <translation>Com uma sugestão</translation>
+    </message>
+    <message>
+        <source>With a selection</source>
+        <translation>Com uma seleção</translation>
+    </message>
+    <message>
+        <source>With an icon</source>
+        <translation>Com ícone</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

@@ -669,6 +669,348 @@
         <source>Wrapping</source>
         <translation>По кругу</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Правка</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Открыть…</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Шоу</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Вид</translation>
+    </message>
+    <message>
+        <source>A source is missing.</source>
+        <translation>Отсутствует источник.</translation>
+    </message>
+    <message>
+        <source>A title too long for it</source>
+        <translation>Слишком длинный заголовок</translation>
+    </message>
+    <message>
+        <source>A tool tip</source>
+        <translation>Подсказка</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>Сверху</translation>
+    </message>
+    <message>
+        <source>Above, second</source>
+        <translation>Сверху, вторая</translation>
+    </message>
+    <message>
+        <source>Above, second line</source>
+        <translation>Сверху, вторая строка</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>Снизу</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>Камера %1</translation>
+    </message>
+    <message>
+        <source>Cameras, players and titles</source>
+        <translation>Камеры, проигрыватели и титры</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Канал</translation>
+    </message>
+    <message>
+        <source>Checked, disabled</source>
+        <translation>Отмечено, отключено</translation>
+    </message>
+    <message>
+        <source>Checked, with an icon</source>
+        <translation>Отмечено, со значком</translation>
+    </message>
+    <message>
+        <source>Closable, movable, with icons</source>
+        <translation>Закрываемые, перемещаемые, со значками</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Copy the sources of the last one</source>
+        <translation>Скопировать источники последнего</translation>
+    </message>
+    <message>
+        <source>Dialogs and tips</source>
+        <translation>Диалоги и подсказки</translation>
+    </message>
+    <message>
+        <source>Document mode, one tab disabled</source>
+        <translation>Режим документа, одна вкладка отключена</translation>
+    </message>
+    <message>
+        <source>Evening show</source>
+        <translation>Вечернее шоу</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Первое</translation>
+    </message>
+    <message>
+        <source>Group boxes and frames</source>
+        <translation>Группы и рамки</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Удержать</translation>
+    </message>
+    <message>
+        <source>Inactive window</source>
+        <translation>Неактивное окно</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>Внутри</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Кей</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Кеи</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Слева</translation>
+    </message>
+    <message>
+        <source>Line edits</source>
+        <translation>Поля ввода</translation>
+    </message>
+    <message>
+        <source>Lists, tables and trees</source>
+        <translation>Списки, таблицы и деревья</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Журнал</translation>
+    </message>
+    <message>
+        <source>Main window</source>
+        <translation>Главное окно</translation>
+    </message>
+    <message>
+        <source>Maximize hovered</source>
+        <translation>Указатель на «Развернуть»</translation>
+    </message>
+    <message>
+        <source>Maximize pressed</source>
+        <translation>«Развернуть» нажата</translation>
+    </message>
+    <message>
+        <source>Maximized</source>
+        <translation>Развёрнуто</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>Меню</translation>
+    </message>
+    <message>
+        <source>Minimized</source>
+        <translation>Свёрнуто</translation>
+    </message>
+    <message>
+        <source>Minimized window</source>
+        <translation>Свёрнутое окно</translation>
+    </message>
+    <message>
+        <source>Mixer</source>
+        <translation>Микшер</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Ещё</translation>
+    </message>
+    <message>
+        <source>More tabs than there is room</source>
+        <translation>Вкладок больше, чем места</translation>
+    </message>
+    <message>
+        <source>Name of the show</source>
+        <translation>Название шоу</translation>
+    </message>
+    <message>
+        <source>New show</source>
+        <translation>Новое шоу</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Не отмечено</translation>
+    </message>
+    <message>
+        <source>Not checked, with an icon</source>
+        <translation>Не отмечено, со значком</translation>
+    </message>
+    <message>
+        <source>Nothing more</source>
+        <translation>Больше ничего</translation>
+    </message>
+    <message>
+        <source>One of two</source>
+        <translation>Одно из двух</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Открыть…</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Выходы</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Панель</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Пароль</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Предпросмотр</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Программа</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Готово</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Справа</translation>
+    </message>
+    <message>
+        <source>Roll the titles.
+Fade to black.</source>
+        <translation>Пустить титры.
+Уйти в чёрное.</translation>
+    </message>
+    <message>
+        <source>Rubber bands</source>
+        <translation>Рамки выделения</translation>
+    </message>
+    <message>
+        <source>Save before closing?</source>
+        <translation>Сохранить перед закрытием?</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>Второе</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Раздел</translation>
+    </message>
+    <message>
+        <source>Several lines</source>
+        <translation>Несколько строк</translation>
+    </message>
+    <message>
+        <source>Shaded window</source>
+        <translation>Свёрнутое в заголовок окно</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>Шоу %1</translation>
+    </message>
+    <message>
+        <source>Source %1</source>
+        <translation>Источник %1</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Источники</translation>
+    </message>
+    <message>
+        <source>Styled panel</source>
+        <translation>Стилевая панель</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>Вкладки</translation>
+    </message>
+    <message>
+        <source>The default item</source>
+        <translation>Пункт по умолчанию</translation>
+    </message>
+    <message>
+        <source>The other one</source>
+        <translation>Другой</translation>
+    </message>
+    <message>
+        <source>The rundown was changed since it was last saved.</source>
+        <translation>План эфира изменён после последнего сохранения.</translation>
+    </message>
+    <message>
+        <source>Title aligned right</source>
+        <translation>Заголовок справа</translation>
+    </message>
+    <message>
+        <source>Triangular, above</source>
+        <translation>Треугольные, сверху</translation>
+    </message>
+    <message>
+        <source>Triangular, below</source>
+        <translation>Треугольные, снизу</translation>
+    </message>
+    <message>
+        <source>Triangular, left</source>
+        <translation>Треугольные, слева</translation>
+    </message>
+    <message>
+        <source>Triangular, right</source>
+        <translation>Треугольные, справа</translation>
+    </message>
+    <message>
+        <source>Vertical title</source>
+        <translation>Вертикальный заголовок</translation>
+    </message>
+    <message>
+        <source>What is it called?</source>
+        <translation>Как оно называется?</translation>
+    </message>
+    <message>
+        <source>Window with help</source>
+        <translation>Окно со справкой</translation>
+    </message>
+    <message>
+        <source>Windows in a window</source>
+        <translation>Окна в окне</translation>
+    </message>
+    <message>
+        <source>With a clear button</source>
+        <translation>С кнопкой очистки</translation>
+    </message>
+    <message>
+        <source>With a hint</source>
+        <translation>С подсказкой</translation>
+    </message>
+    <message>
+        <source>With a selection</source>
+        <translation>С выделением</translation>
+    </message>
+    <message>
+        <source>With an icon</source>
+        <translation>Со значком</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

@@ -669,6 +669,348 @@
         <source>Wrapping</source>
         <translation>循环</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>打开(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>演出(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>A source is missing.</source>
+        <translation>缺少一个信号源。</translation>
+    </message>
+    <message>
+        <source>A title too long for it</source>
+        <translation>放不下的长标题</translation>
+    </message>
+    <message>
+        <source>A tool tip</source>
+        <translation>工具提示</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>上方</translation>
+    </message>
+    <message>
+        <source>Above, second</source>
+        <translation>上方，第二个</translation>
+    </message>
+    <message>
+        <source>Above, second line</source>
+        <translation>上方，第二行</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation>下方</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>摄像机 %1</translation>
+    </message>
+    <message>
+        <source>Cameras, players and titles</source>
+        <translation>摄像机、播放器和字幕</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>Checked, disabled</source>
+        <translation>已选中，禁用</translation>
+    </message>
+    <message>
+        <source>Checked, with an icon</source>
+        <translation>已选中，带图标</translation>
+    </message>
+    <message>
+        <source>Closable, movable, with icons</source>
+        <translation>可关闭、可移动，带图标</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Copy the sources of the last one</source>
+        <translation>复制上一场的信号源</translation>
+    </message>
+    <message>
+        <source>Dialogs and tips</source>
+        <translation>对话框和提示</translation>
+    </message>
+    <message>
+        <source>Document mode, one tab disabled</source>
+        <translation>文档模式，一个标签页禁用</translation>
+    </message>
+    <message>
+        <source>Evening show</source>
+        <translation>晚间演出</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>第一个</translation>
+    </message>
+    <message>
+        <source>Group boxes and frames</source>
+        <translation>分组框和边框</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>保持</translation>
+    </message>
+    <message>
+        <source>Inactive window</source>
+        <translation>非活动窗口</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>内部</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>键控</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>键控</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Line edits</source>
+        <translation>单行编辑框</translation>
+    </message>
+    <message>
+        <source>Lists, tables and trees</source>
+        <translation>列表、表格和树</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>Main window</source>
+        <translation>主窗口</translation>
+    </message>
+    <message>
+        <source>Maximize hovered</source>
+        <translation>指针在最大化上</translation>
+    </message>
+    <message>
+        <source>Maximize pressed</source>
+        <translation>按下最大化</translation>
+    </message>
+    <message>
+        <source>Maximized</source>
+        <translation>已最大化</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>Minimized</source>
+        <translation>已最小化</translation>
+    </message>
+    <message>
+        <source>Minimized window</source>
+        <translation>最小化的窗口</translation>
+    </message>
+    <message>
+        <source>Mixer</source>
+        <translation>混音器</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>More tabs than there is room</source>
+        <translation>标签页多于空间</translation>
+    </message>
+    <message>
+        <source>Name of the show</source>
+        <translation>演出名称</translation>
+    </message>
+    <message>
+        <source>New show</source>
+        <translation>新建演出</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>未选中</translation>
+    </message>
+    <message>
+        <source>Not checked, with an icon</source>
+        <translation>未选中，带图标</translation>
+    </message>
+    <message>
+        <source>Nothing more</source>
+        <translation>没有更多</translation>
+    </message>
+    <message>
+        <source>One of two</source>
+        <translation>二选一</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>打开…</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>输出</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>面板</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预监</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>主输出</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Roll the titles.
+Fade to black.</source>
+        <translation>播放字幕。
+淡出到黑场。</translation>
+    </message>
+    <message>
+        <source>Rubber bands</source>
+        <translation>橡皮筋选框</translation>
+    </message>
+    <message>
+        <source>Save before closing?</source>
+        <translation>关闭前保存吗？</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>第二个</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>分节</translation>
+    </message>
+    <message>
+        <source>Several lines</source>
+        <translation>多行</translation>
+    </message>
+    <message>
+        <source>Shaded window</source>
+        <translation>卷起的窗口</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>演出 %1</translation>
+    </message>
+    <message>
+        <source>Source %1</source>
+        <translation>信号源 %1</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>信号源</translation>
+    </message>
+    <message>
+        <source>Styled panel</source>
+        <translation>样式面板</translation>
+    </message>
+    <message>
+        <source>Tabs</source>
+        <translation>标签页</translation>
+    </message>
+    <message>
+        <source>The default item</source>
+        <translation>默认项</translation>
+    </message>
+    <message>
+        <source>The other one</source>
+        <translation>另一个</translation>
+    </message>
+    <message>
+        <source>The rundown was changed since it was last saved.</source>
+        <translation>串联单自上次保存后已更改。</translation>
+    </message>
+    <message>
+        <source>Title aligned right</source>
+        <translation>标题右对齐</translation>
+    </message>
+    <message>
+        <source>Triangular, above</source>
+        <translation>三角形，上方</translation>
+    </message>
+    <message>
+        <source>Triangular, below</source>
+        <translation>三角形，下方</translation>
+    </message>
+    <message>
+        <source>Triangular, left</source>
+        <translation>三角形，左侧</translation>
+    </message>
+    <message>
+        <source>Triangular, right</source>
+        <translation>三角形，右侧</translation>
+    </message>
+    <message>
+        <source>Vertical title</source>
+        <translation>竖排标题</translation>
+    </message>
+    <message>
+        <source>What is it called?</source>
+        <translation>它叫什么？</translation>
+    </message>
+    <message>
+        <source>Window with help</source>
+        <translation>带帮助的窗口</translation>
+    </message>
+    <message>
+        <source>Windows in a window</source>
+        <translation>窗口中的窗口</translation>
+    </message>
+    <message>
+        <source>With a clear button</source>
+        <translation>带清除按钮</translation>
+    </message>
+    <message>
+        <source>With a hint</source>
+        <translation>带提示</translation>
+    </message>
+    <message>
+        <source>With a selection</source>
+        <translation>有选中内容</translation>
+    </message>
+    <message>
+        <source>With an icon</source>
+        <translation>带图标</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>
