@@ -1,0 +1,230 @@
+#include "stylecolors_p.h"
+#include "stylehelpers_p.h"
+#include "stylepainting_p.h"
+
+#include <QtGui/QPainterPath>
+
+namespace StylePaint {
+
+using StyleHelpers::PainterSaver;
+
+namespace {
+
+constexpr int pressedBaseShare = 85; // percent; the rest is WindowText
+
+constexpr qreal checkMarkWidth = 1.8;
+constexpr int checkMarkMargin = 3;
+constexpr int partialTopAlpha = 80;
+constexpr int partialBottomAlpha = 140;
+constexpr int partialOutlineAlpha = 180;
+
+constexpr qreal radioDotShare = 2.32; // the radio button's radius over its dot's
+constexpr int radioDotOutlineAlpha = 200;
+constexpr int radioDotAlpha = 180;
+
+constexpr int toolBarSeparatorMargin = 6;
+
+QColor pressedColor(const PaintCall &call)
+{
+    return StyleColors::mergedColors(call.color(QPalette::Base), call.color(QPalette::WindowText),
+                                     pressedBaseShare);
+}
+
+QColor checkColor(const PaintCall &call)
+{
+    return call.color(QPalette::Text).darker(120);
+}
+
+void paintCheckBoxField(const PaintCall &call, const QRect &r)
+{
+    if (call.has(QStyle::State_Sunken)) {
+        call.painter->setBrush(pressedColor(call));
+    } else {
+        const QColor base = call.color(QPalette::Base);
+        QLinearGradient gradient = verticalGradient(r);
+        gradient.setColorAt(0.0, base.darker(115));
+        gradient.setColorAt(0.15, base);
+        gradient.setColorAt(1.0, base);
+        call.painter->setBrush(gradient);
+    }
+    call.painter->setPen(call.hasKeyboardFocus()
+                             ? StyleColors::highlightedOutlineColor(call.palette())
+                             : StyleColors::outlineColor(call.palette()).lighter(110));
+    call.painter->drawRect(r);
+}
+
+void paintPartialMark(const PaintCall &call, const QRect &r, int margin)
+{
+    const QColor check = checkColor(call);
+    QLinearGradient gradient = verticalGradient(r);
+    gradient.setColorAt(0.0, StyleColors::withAlpha(check, partialTopAlpha));
+    gradient.setColorAt(1.0, StyleColors::withAlpha(check, partialBottomAlpha));
+    call.painter->setPen(StyleColors::withAlpha(check, partialOutlineAlpha));
+    call.painter->setBrush(gradient);
+    call.painter->drawRect(r.adjusted(margin, margin, -margin, -margin));
+}
+
+void paintCheckMark(const PaintCall &call, const QRect &r, int margin)
+{
+    QPainterPath mark;
+    mark.moveTo(margin + 2, r.height() * 0.5);
+    mark.lineTo(r.width() * 0.5, r.height() - margin);
+    mark.lineTo(r.width() - margin - 0.5, margin);
+    mark.translate(r.topLeft());
+
+    call.painter->setPen(QPen(checkColor(call), StyleHelpers::dpiScaled(checkMarkWidth)));
+    call.painter->setBrush(Qt::NoBrush);
+    call.painter->translate(-0.8, 0.5);
+    call.painter->drawPath(mark);
+}
+
+template <std::size_t Columns, std::size_t Rows>
+void paintDots(const PaintCall &call, const int (&columns)[Columns], const int (&rows)[Rows])
+{
+    const QPoint centre = call.rect().center();
+    for (const int x : columns) {
+        for (const int y : rows)
+            paintGripDot(call.painter, centre.x() + x, centre.y() + y);
+    }
+}
+
+} // namespace
+
+void paintGripDot(QPainter *painter, int x, int y)
+{
+    painter->fillRect(x, y, 2, 2, StyleColors::fixed(StyleColors::lightShade));
+    painter->fillRect(x, y, 1, 1, StyleColors::fixed(StyleColors::darkShade));
+}
+
+void paintIndicatorArrowDown(const PaintCall &call)
+{
+    StyleHelpers::drawArrowImage(QStyle::PE_IndicatorArrowDown, call.painter, call.option);
+}
+
+void paintIndicatorArrowLeft(const PaintCall &call)
+{
+    StyleHelpers::drawArrowImage(QStyle::PE_IndicatorArrowLeft, call.painter, call.option);
+}
+
+void paintIndicatorArrowRight(const PaintCall &call)
+{
+    StyleHelpers::drawArrowImage(QStyle::PE_IndicatorArrowRight, call.painter, call.option);
+}
+
+void paintIndicatorArrowUp(const PaintCall &call)
+{
+    StyleHelpers::drawArrowImage(QStyle::PE_IndicatorArrowUp, call.painter, call.option);
+}
+
+void paintIndicatorBranch(const PaintCall &call)
+{
+    if (!call.has(QStyle::State_Children))
+        return;
+    const auto arrow = call.has(QStyle::State_Open) ? QStyle::PE_IndicatorArrowDown
+                                                    : QStyle::PE_IndicatorArrowRight;
+    call.style->drawPrimitive(arrow, call.option, call.painter, call.widget);
+}
+
+void paintIndicatorCheckBox(const PaintCall &call)
+{
+    if (!call.as<QStyleOptionButton>())
+        return;
+    const PainterSaver saver(call.painter);
+    beginSharpAntialiasing(call.painter);
+    const QRect r = call.rect().adjusted(0, 0, -1, -1);
+    const int margin = static_cast<int>(StyleHelpers::dpiScaled(checkMarkMargin));
+    paintCheckBoxField(call, r);
+    if (call.has(QStyle::State_NoChange))
+        paintPartialMark(call, r, margin);
+    else if (call.has(QStyle::State_On))
+        paintCheckMark(call, r, margin);
+}
+
+void paintIndicatorDockWidgetResizeHandle(const PaintCall &call)
+{
+    QStyleOption splitter(*call.option);
+    splitter.state ^= QStyle::State_Horizontal;
+    call.drawControl(QStyle::CE_Splitter, splitter);
+}
+
+void paintIndicatorHeaderArrow(const PaintCall &call)
+{
+    const auto *header = call.as<QStyleOptionHeader>();
+    if (!header || header->sortIndicator == QStyleOptionHeader::None)
+        return;
+    const int rotation = header->sortIndicator == QStyleOptionHeader::SortUp ? 180 : 0;
+    const QPixmap arrow = StyleHelpers::colorizedImage(StyleHelpers::arrowImageFileName(),
+                                                       call.color(QPalette::WindowText), rotation);
+    if (arrow.isNull())
+        return;
+    QRect target(0, 0, arrow.width() / 2, arrow.height() / 2);
+    target.moveCenter(call.rect().center());
+    call.painter->drawPixmap(target.translated(0, -1), arrow);
+}
+
+void paintIndicatorItemViewItemCheck(const PaintCall &call)
+{
+    QStyleOptionButton button;
+    button.state = call.option->state & ~QStyle::State_MouseOver;
+    button.direction = call.option->direction;
+    button.rect = call.option->rect;
+    button.fontMetrics = call.option->fontMetrics;
+    button.palette = call.option->palette;
+    button.styleObject = call.option->styleObject;
+    call.drawPrimitive(QStyle::PE_IndicatorCheckBox, button);
+}
+
+void paintIndicatorRadioButton(const PaintCall &call)
+{
+    const int width = call.rect().width();
+    const QPointF centre = call.rect().center() + QPoint(1, 1);
+    // An even width has no middle pixel: the circle is drawn as for the next odd one.
+    const qreal radius = (width + (width + 1) % 2) * 0.5 - 1.0;
+
+    const PainterSaver saver(call.painter);
+    call.painter->setRenderHint(QPainter::Antialiasing);
+    call.painter->setBrush(call.has(QStyle::State_Sunken) ? pressedColor(call)
+                                                          : call.color(QPalette::Base));
+    call.painter->setPen(call.hasKeyboardFocus()
+                             ? StyleColors::highlightedOutlineColor(call.palette())
+                             : call.color(QPalette::Window).darker(150));
+    call.painter->drawEllipse(centre, radius, radius);
+    if (call.has(QStyle::State_On)) {
+        const QColor check = checkColor(call);
+        call.painter->setPen(StyleColors::withAlpha(check, radioDotOutlineAlpha));
+        call.painter->setBrush(StyleColors::withAlpha(check, radioDotAlpha));
+        call.painter->drawEllipse(centre, radius / radioDotShare, radius / radioDotShare);
+    }
+}
+
+void paintIndicatorToolBarHandle(const PaintCall &call)
+{
+    if (call.has(QStyle::State_Horizontal))
+        paintDots(call, {-3, 0}, {-8, -5, -2, 1, 4, 7});
+    else
+        paintDots(call, {-6, -3, 0, 3, 6, 9}, {-3, 0});
+}
+
+void paintIndicatorToolBarSeparator(const PaintCall &call)
+{
+    const QRect &r = call.rect();
+    const QColor window = call.color(QPalette::Window);
+    const int margin = toolBarSeparatorMargin;
+    QLine dark;
+    QPoint lightOffset;
+    if (call.has(QStyle::State_Horizontal)) {
+        const int x = r.left() + r.width() / 2;
+        dark = QLine(x, r.bottom() - margin, x, r.top() + margin);
+        lightOffset = QPoint(1, 0);
+    } else {
+        const int y = r.top() + r.height() / 2;
+        dark = QLine(r.left() + margin, y, r.right() - margin, y);
+        lightOffset = QPoint(0, 1);
+    }
+    call.painter->setPen(window.darker(110));
+    call.painter->drawLine(dark);
+    call.painter->setPen(window.lighter(110));
+    call.painter->drawLine(dark.translated(lightOffset));
+}
+
+} // namespace StylePaint
