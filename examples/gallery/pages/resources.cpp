@@ -113,7 +113,7 @@ QListWidget *createIconList()
     list->setResizeMode(QListView::Adjust);
     list->setIconSize(QSize(32, 32));
     list->setWordWrap(false);
-    list->setMinimumSize(625, 520);
+    list->setMinimumSize(420, 520);
     QFont small = list->font();
     small.setPointSizeF(small.pointSizeF() * 0.85);
     list->setFont(small);
