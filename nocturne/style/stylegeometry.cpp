@@ -74,6 +74,13 @@ QRect dockTitleTextRect(const QStyleOption *option, const QRect &rect)
                                               : rect.adjusted(0, 0, -4, 0);
 }
 
+/// Whether QCommonStyle reads the widget of \a element without asking whether there is one.
+bool needsWidget(QStyle::SubElement element)
+{
+    return element == QStyle::SE_TabBarScrollLeftButton
+           || element == QStyle::SE_TabBarScrollRightButton;
+}
+
 } // namespace
 
 QSize DarkFusionStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
@@ -118,7 +125,7 @@ QSize DarkFusionStyle::sizeFromContents(ContentsType type, const QStyleOption *o
 QRect DarkFusionStyle::subElementRect(SubElement element, const QStyleOption *option,
                                       const QWidget *widget) const
 {
-    if (!option)
+    if (!option || (!widget && needsWidget(element)))
         return QRect();
     const QRect rect = QCommonStyle::subElementRect(element, option, widget);
     switch (element) {
