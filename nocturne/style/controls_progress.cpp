@@ -189,9 +189,8 @@ void paintProgressGroove(const PaintCall &call)
         paintGroove(painter, call.palette(), QRect(QPoint(0, 1), call.rect().size()));
     };
     if (call.palette().base().style() == Qt::SolidPattern) {
-        const QString key =
-            StyleHelpers::styleCacheKey(QStringLiteral("progressgroove"), call.option, r.size());
-        StyleHelpers::drawCachedUnlessTransformed(call.painter, r.topLeft(), key, r.size(), paint);
+        drawKept(call.painter, r.topLeft(), QStringLiteral("progressgroove"), call.option, r.size(),
+                 paint);
     } else {
         // A pattern goes on from groove to groove.
         const PainterSaver saver(call.painter);
@@ -208,12 +207,11 @@ void paintProgressContents(const PaintCall &call)
     const Bar bar(*option, r);
     if (bar.isBusy && !isVertical(*option)) {
         // The stripes do not move.
-        const QString key =
-            StyleHelpers::styleCacheKey(QStringLiteral("progressbusy"), option, r.size());
-        StyleHelpers::drawCachedUnlessTransformed(
-            call.painter, r.topLeft(), key, r.size(), [&](QPainter *painter) {
-                paintBar(painter, call.palette(), *option, Bar(*option, QRect(QPoint(), r.size())));
-            });
+        drawKept(call.painter, r.topLeft(), QStringLiteral("progressbusy"), option, r.size(),
+                 [&](QPainter *painter) {
+                     paintBar(painter, call.palette(), *option,
+                              Bar(*option, QRect(QPoint(), r.size())));
+                 });
         return;
     }
     const PainterSaver saver(call.painter);

@@ -157,11 +157,8 @@ void paintIndicatorCheckBox(const PaintCall &call)
     if (!call.as<QStyleOptionButton>())
         return;
     const QRect &r = call.rect();
-    const QString key =
-        StyleHelpers::styleCacheKey(QStringLiteral("checkbox"), call.option, r.size());
-    StyleHelpers::drawCachedUnlessTransformed(
-        call.painter, r.topLeft(), key, r.size(),
-        [&call](QPainter *painter) { paintCheckBox(painter, call); });
+    drawKept(call.painter, r.topLeft(), QStringLiteral("checkbox"), call.option, r.size(),
+             [&call](QPainter *painter) { paintCheckBox(painter, call); });
 }
 
 void paintIndicatorDockWidgetResizeHandle(const PaintCall &call)
@@ -207,11 +204,10 @@ void paintIndicatorRadioButton(const PaintCall &call)
     // The square around the circle and its line, which may reach out of the rectangle.
     const int reach = static_cast<int>(std::ceil(radius + 0.5));
     const QSize size(2 * reach, 2 * reach);
-    const QString key =
-        StyleHelpers::styleCacheKey(QStringLiteral("radiobutton"), call.option, size);
-    StyleHelpers::drawCachedUnlessTransformed(
-        call.painter, centre - QPoint(reach, reach), key, size,
-        [&](QPainter *painter) { paintRadioButton(painter, call, QPointF(reach, reach), radius); });
+    drawKept(call.painter, centre - QPoint(reach, reach), QStringLiteral("radiobutton"),
+             call.option, size, [&](QPainter *painter) {
+                 paintRadioButton(painter, call, QPointF(reach, reach), radius);
+             });
 }
 
 void paintIndicatorToolBarHandle(const PaintCall &call)
