@@ -84,6 +84,8 @@ QColor barOutline(const QPalette &palette, const QColor &highlight)
 /// The two lines where an unfinished bar ends.
 void paintBarEdge(QPainter *painter, const Bar &bar, const QColor &highlight)
 {
+    if (bar.done.height() < 2)
+        return;
     const int direction = bar.isReversed ? -1 : 1;
     const int end = bar.isReversed ? bar.done.left() : bar.done.right();
     // The painter stands in the middle of a unit.

@@ -42,8 +42,10 @@ void paintDockFrame(const PaintCall &call, const QColor &outline)
 /// \a fill inside an outline of \a outline.
 void paintPanel(const PaintCall &call, const QColor &outline, const QColor &fill)
 {
+    const QRect inner = call.rect().adjusted(1, 1, -1, -1);
     fillOutline(call.painter, call.rect(), outline);
-    call.painter->fillRect(call.rect().adjusted(1, 1, -1, -1), fill);
+    if (!inner.isEmpty())
+        call.painter->fillRect(inner, fill);
 }
 
 QPixmap groupBoxImage()
