@@ -614,6 +614,19 @@ void TestStylePrimitives::badInput()
         }
     }
 
+    // In a single unit there is no room for what is inside a frame.
+    const auto tiny = makeOption<QStyleOption>(QRect(20, 20, 1, 1));
+    for (const auto element :
+         {QStyle::PE_Frame, QStyle::PE_FrameMenu, QStyle::PE_PanelMenu, QStyle::PE_PanelTipLabel})
+    {
+        const QImage image = paint(element, tiny);
+        QVERIFY(unitColor(image, 20, 20) != background);
+        QVERIFY(isFilled(image, QRect(0, 0, 60, 20), background));
+        QVERIFY(isFilled(image, QRect(0, 21, 60, 39), background));
+        QVERIFY(isFilled(image, QRect(0, 20, 20, 1), background));
+        QVERIFY(isFilled(image, QRect(21, 20, 39, 1), background));
+    }
+
     // An option of the wrong type paints nothing.
     const auto wrong = makeOption<QStyleOption>(QRect(0, 0, 40, 30), enabled | keyboardFocus);
     for (const auto element :

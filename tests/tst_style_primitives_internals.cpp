@@ -19,6 +19,8 @@ private slots:
 
     void buttonPanel();
     void headerSection();
+    void keptDrawing_data();
+    void keptDrawing();
     void largeDrawing();
 
 private:
@@ -97,6 +99,53 @@ void TestStylePrimitivesInternals::headerSection()
     option.position = QStyleOptionHeader::Beginning;
     option.orientation = Qt::Vertical;
     QVERIFY(middle(paint) != QColor(Qt::green));
+}
+
+void TestStylePrimitivesInternals::keptDrawing_data()
+{
+    QTest::addColumn<QString>("prefix");
+    QTest::addColumn<int>("primitive"); // or -1
+    QTest::addColumn<int>("control");
+    QTest::addColumn<QRect>("kept"); // for an option at 2, 2 of 40 x 24
+    QTest::newRow("check box") << "checkbox" << int(QStyle::PE_IndicatorCheckBox) << -1
+                               << QRect(2, 2, 40, 24);
+    // A circle as wide as the rectangle, one unit right of and below its middle.
+    QTest::newRow("radio button") << "radiobutton" << int(QStyle::PE_IndicatorRadioButton) << -1
+                                  << QRect(2, -6, 40, 40);
+    QTest::newRow("groove") << "progressgroove" << -1 << int(QStyle::CE_ProgressBarGroove)
+                            << QRect(2, 1, 40, 25);
+    QTest::newRow("busy bar") << "progressbusy" << -1 << int(QStyle::CE_ProgressBarContents)
+                              << QRect(2, 2, 40, 24);
+}
+
+void TestStylePrimitivesInternals::keptDrawing()
+{
+    QFETCH(QString, prefix);
+    QFETCH(int, primitive);
+    QFETCH(int, control);
+    QFETCH(QRect, kept);
+    auto button = makeOption<QStyleOptionButton>(QRect(2, 2, 40, 24));
+    auto progress = makeOption<QStyleOptionProgressBar>(button.rect);
+    const auto paint = [&](QPainter &painter) {
+        if (control < 0)
+            m_style->drawPrimitive(QStyle::PrimitiveElement(primitive), &button, &painter);
+        else
+            m_style->drawControl(QStyle::ControlElement(control), &progress, &painter);
+    };
+    middle(paint);
+    const QStyleOption *option = &button;
+    if (control >= 0)
+        option = &progress;
+    QVERIFY(replaceCached(StyleHelpers::styleCacheKey(prefix, option, kept.size()), kept.size()));
+    const QImage second = picture(QSize(60, 60), Qt::darkCyan, paint);
+    QVERIFY(isFilled(second, kept & QRect(0, 0, 60, 60), Qt::green));
+    QVERIFY(isFilled(second, QRect(42, 0, 18, 60), Qt::darkCyan));
+
+    // Where it would be blurred, nothing kept is drawn.
+    const qreal other = qApp->devicePixelRatio() * 1.5;
+    const QImage finer = TestSupport::paintOn(QSize(60, 60), Qt::darkCyan, paint, other);
+    for (int x = 0; x < finer.width(); ++x)
+        QVERIFY(finer.pixelColor(x, finer.height() / 4) != QColor(Qt::green));
 }
 
 void TestStylePrimitivesInternals::largeDrawing()

@@ -69,8 +69,8 @@ void paintSeparator(const MenuItem &item)
     }
     const int left = r.left() + separatorMargin + (call.isRightToLeft() ? 0 : textWidth);
     const int right = r.right() - separatorMargin - (call.isRightToLeft() ? textWidth : 0);
-    call.painter->setPen(StyleColors::fixed(StyleColors::darkShade).lighter(106));
-    call.painter->drawLine(left, r.center().y(), right, r.center().y());
+    fillRow(call.painter, left, right, r.center().y(),
+            StyleColors::fixed(StyleColors::darkShade).lighter(106));
 }
 
 void paintRadioDot(const MenuItem &item, const QRect &rect)
@@ -227,8 +227,8 @@ void paintMenuBarLine(const PaintCall &call)
 {
     const QColor window = call.color(QPalette::Window).darker(120);
     const QColor outline = StyleColors::outlineColor(call.palette()).lighter(140);
-    call.painter->setPen(StyleColors::mergedColors(window, outline, 60));
-    call.painter->drawLine(call.rect().bottomLeft(), call.rect().bottomRight());
+    fillRow(call.painter, call.rect().left(), call.rect().right(), call.rect().bottom(),
+            StyleColors::mergedColors(window, outline, 60));
 }
 
 } // namespace
@@ -276,7 +276,6 @@ void paintMenuBarItem(const PaintCall &call)
 
 void paintMenuBarEmptyArea(const PaintCall &call)
 {
-    const PainterSaver saver(call.painter);
     call.painter->fillRect(call.rect(), call.palette().window());
     paintMenuBarLine(call);
 }

@@ -43,7 +43,7 @@ qint64 progressLength(const QStyleOptionProgressBar &option, int progress, int b
 /// A progress bar as if it lay on its side and started at the left, or at the right when reversed.
 struct Bar
 {
-    explicit Bar(const QStyleOptionProgressBar &option);
+    Bar(const QStyleOptionProgressBar &option, const QRect &rect);
 
     /// Between its ends: the bar stops short of one of them.
     bool isPartial() const { return !isBusy && !isComplete; }
@@ -55,12 +55,12 @@ struct Bar
     QRect done;
 };
 
-Bar::Bar(const QStyleOptionProgressBar &option)
+Bar::Bar(const QStyleOptionProgressBar &option, const QRect &rect)
     : isBusy(option.minimum == 0 && option.maximum == 0)
     , isComplete(option.progress == option.maximum)
     , isReversed((isVertical(option) || option.direction == Qt::RightToLeft)
                  != option.invertedAppearance)
-    , whole(isVertical(option) ? lyingDown(option.rect) : option.rect)
+    , whole(isVertical(option) ? lyingDown(rect) : rect)
     , done(whole.adjusted(0, 0, -1, -1))
 {
     if (isBusy)
@@ -74,9 +74,9 @@ Bar::Bar(const QStyleOptionProgressBar &option)
         done.setWidth(width - 1);
 }
 
-QColor barOutline(const PaintCall &call, const QColor &highlight)
+QColor barOutline(const QPalette &palette, const QColor &highlight)
 {
-    const QColor outline = StyleColors::outlineColor(call.palette());
+    const QColor outline = StyleColors::outlineColor(palette);
     const QColor dark = highlight.darker(140);
     return qGray(dark.rgb()) < qGray(outline.rgb()) ? dark : outline;
 }
@@ -84,13 +84,14 @@ QColor barOutline(const PaintCall &call, const QColor &highlight)
 /// The two lines where an unfinished bar ends.
 void paintBarEdge(QPainter *painter, const Bar &bar, const QColor &highlight)
 {
+    if (bar.done.height() < 2)
+        return;
     const int direction = bar.isReversed ? -1 : 1;
-    const QPoint top = bar.isReversed ? bar.done.topLeft() : bar.done.topRight();
-    const QPoint bottom = bar.isReversed ? bar.done.bottomLeft() : bar.done.bottomRight();
-    painter->setPen(StyleColors::fixed(barEdgeShadow));
-    painter->drawLine(top + QPoint(2 * direction, 1), bottom + QPoint(2 * direction, 0));
-    painter->setPen(highlight.darker(140));
-    painter->drawLine(top + QPoint(direction, 1), bottom + QPoint(direction, 0));
+    const int end = bar.isReversed ? bar.done.left() : bar.done.right();
+    // The painter stands in the middle of a unit.
+    const QRectF line(end + direction - 0.5, bar.done.top() + 0.5, 1.0, bar.done.height() - 1.0);
+    painter->fillRect(line.translated(direction, 0), StyleColors::fixed(barEdgeShadow));
+    painter->fillRect(line, highlight.darker(140));
 }
 
 /// Rounded at the end where the bar begins; an unfinished one is cut off straight at the other.
@@ -126,6 +127,37 @@ void paintBusyStripes(QPainter *painter, const Bar &bar, const QColor &highlight
         painter->drawLine(x, bar.done.bottom() + 1, x + height, bar.done.top() - 2);
 }
 
+void paintBar(QPainter *painter, const QPalette &palette, const QStyleOptionProgressBar &option,
+              const Bar &bar)
+{
+    const QColor highlight = palette.color(QPalette::Highlight);
+    beginSharpAntialiasing(painter);
+    if (isVertical(option)) {
+        QTransform turn = QTransform::fromTranslate(bar.whole.height() - 1, -1.0);
+        turn.rotate(90);
+        painter->setTransform(turn, true);
+    }
+    if (bar.isPartial())
+        paintBarEdge(painter, bar, highlight);
+    if (!bar.isBusy && option.progress <= option.minimum)
+        return;
+    paintBarFill(painter, bar, highlight, barOutline(palette, highlight));
+    if (bar.isBusy)
+        paintBusyStripes(painter, bar, highlight);
+}
+
+void paintGroove(QPainter *painter, const QPalette &palette, const QRect &r)
+{
+    beginSharpAntialiasing(painter);
+    painter->setPen(StyleColors::fixed(grooveShadowAbove));
+    painter->drawLine(r.topLeft() + QPoint(0, -1), r.topRight() + QPoint(0, -1));
+    painter->setPen(StyleColors::outlineColor(palette));
+    painter->setBrush(palette.base());
+    painter->drawRoundedRect(r.adjusted(0, 0, -1, -1), 2, 2);
+    painter->setPen(StyleColors::fixed(grooveShadowInside));
+    painter->drawLine(r.left() + 1, r.top() + 1, r.right() - 1, r.top() + 1);
+}
+
 /// The part of \a rect that the bar has passed; null when progress is out of range.
 QRect passedRect(const QStyleOptionProgressBar &option, const QRect &rect)
 {
@@ -153,16 +185,19 @@ void paintClippedLabel(QPainter *painter, const QStyleOptionProgressBar &option,
 
 void paintProgressGroove(const PaintCall &call)
 {
-    const QRect &r = call.rect();
-    const PainterSaver saver(call.painter);
-    beginSharpAntialiasing(call.painter);
-    call.painter->setPen(StyleColors::fixed(grooveShadowAbove));
-    call.painter->drawLine(r.topLeft() + QPoint(0, -1), r.topRight() + QPoint(0, -1));
-    call.painter->setPen(StyleColors::outlineColor(call.palette()));
-    call.painter->setBrush(call.palette().base());
-    call.painter->drawRoundedRect(r.adjusted(0, 0, -1, -1), 2, 2);
-    call.painter->setPen(StyleColors::fixed(grooveShadowInside));
-    call.painter->drawLine(r.left() + 1, r.top() + 1, r.right() - 1, r.top() + 1);
+    // The shadow lies above the rectangle.
+    const QRect r = call.rect().adjusted(0, -1, 0, 0);
+    const auto paint = [&](QPainter *painter) {
+        paintGroove(painter, call.palette(), QRect(QPoint(0, 1), call.rect().size()));
+    };
+    if (call.palette().base().style() == Qt::SolidPattern) {
+        drawKept(call.painter, r.topLeft(), QStringLiteral("progressgroove"), call.option, r.size(),
+                 paint);
+    } else {
+        // A pattern goes on from groove to groove.
+        const PainterSaver saver(call.painter);
+        paintGroove(call.painter, call.palette(), call.rect());
+    }
 }
 
 void paintProgressContents(const PaintCall &call)
@@ -170,23 +205,19 @@ void paintProgressContents(const PaintCall &call)
     const auto *option = call.as<QStyleOptionProgressBar>();
     if (!option)
         return;
-    const Bar bar(*option);
-    const QColor highlight = call.color(QPalette::Highlight);
-
-    const PainterSaver saver(call.painter);
-    beginSharpAntialiasing(call.painter);
-    if (isVertical(*option)) {
-        QTransform turn = QTransform::fromTranslate(bar.whole.height() - 1, -1.0);
-        turn.rotate(90);
-        call.painter->setTransform(turn, true);
-    }
-    if (bar.isPartial())
-        paintBarEdge(call.painter, bar, highlight);
-    if (!bar.isBusy && option->progress <= option->minimum)
+    const QRect &r = call.rect();
+    const Bar bar(*option, r);
+    if (bar.isBusy && !isVertical(*option)) {
+        // The stripes do not move.
+        drawKept(call.painter, r.topLeft(), QStringLiteral("progressbusy"), option, r.size(),
+                 [&](QPainter *painter) {
+                     paintBar(painter, call.palette(), *option,
+                              Bar(*option, QRect(QPoint(), r.size())));
+                 });
         return;
-    paintBarFill(call.painter, bar, highlight, barOutline(call, highlight));
-    if (bar.isBusy)
-        paintBusyStripes(call.painter, bar, highlight);
+    }
+    const PainterSaver saver(call.painter);
+    paintBar(call.painter, call.palette(), *option, bar);
 }
 
 void paintProgressLabel(const PaintCall &call)

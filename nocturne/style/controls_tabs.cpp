@@ -99,8 +99,9 @@ void paintTabBody(const PaintCall &call, const QRect &rect, const QColor &color,
 /// Opens a selected tab to its page: the fill runs on as far down as anything is visible.
 void paintTabFoot(QPainter *painter, const QRect &rect, const QColor &color)
 {
-    painter->fillRect(rect.left() + 1, rect.bottom() - 1, rect.width() - 2, rect.bottom() - 1,
-                      color);
+    const QRect foot(rect.left() + 1, rect.bottom() - 1, rect.width() - 2, rect.bottom() - 1);
+    if (!foot.isEmpty())
+        painter->fillRect(foot, color);
     const QPoint bright[] = {rect.bottomRight() + QPoint(-2, -1), rect.bottomLeft() + QPoint(0, -1),
                              rect.bottomRight() + QPoint(-1, -1)};
     painter->setPen(StyleColors::fixed(StyleColors::innerContrastLine));

@@ -88,28 +88,29 @@ constexpr ToolBarLine toolBarLines[] = {
     {Qt::RightToolBarArea, beginning | middle, light, Left, 0},
 };
 
-QLine edgeLine(const QRect &r, Edge edge, int distance)
+/// The row or column of units \a distance inwards from an edge of \a r.
+QRect edgeUnits(const QRect &r, Edge edge, int distance)
 {
     switch (edge) {
     case Top:
-        return QLine(r.topLeft(), r.topRight()).translated(0, distance);
+        return QRect(r.left(), r.top() + distance, r.width(), 1);
     case Bottom:
-        return QLine(r.bottomLeft(), r.bottomRight()).translated(0, -distance);
+        return QRect(r.left(), r.bottom() - distance, r.width(), 1);
     case Left:
-        return QLine(r.topLeft(), r.bottomLeft()).translated(distance, 0);
+        return QRect(r.left() + distance, r.top(), 1, r.height());
     case Right:
         break;
     }
-    return QLine(r.topRight(), r.bottomRight()).translated(-distance, 0);
+    return QRect(r.right() - distance, r.top(), 1, r.height());
 }
 
 void paintToolBarLines(QPainter *painter, const QStyleOptionToolBar &toolBar)
 {
     for (const ToolBarLine &line : toolBarLines) {
-        if (line.area != toolBar.toolBarArea || !(line.positions & at(toolBar.positionOfLine)))
-            continue;
-        painter->setPen(StyleColors::fixed(line.color));
-        painter->drawLine(edgeLine(toolBar.rect, line.edge, line.distance));
+        if (line.area == toolBar.toolBarArea && (line.positions & at(toolBar.positionOfLine))) {
+            painter->fillRect(edgeUnits(toolBar.rect, line.edge, line.distance),
+                              StyleColors::fixed(line.color));
+        }
     }
 }
 
@@ -192,9 +193,7 @@ void paintToolBar(const PaintCall &call)
     if (!toolBar || (call.widget && !qobject_cast<QMainWindow *>(call.widget->parentWidget())))
         return;
     call.painter->fillRect(toolBar->rect, toolBarFill(call));
-    const QPen pen = call.painter->pen();
     paintToolBarLines(call.painter, *toolBar);
-    call.painter->setPen(pen);
 }
 
 } // namespace StylePaint

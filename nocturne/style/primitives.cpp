@@ -1,6 +1,8 @@
 #include "darkfusionstyle_p.h"
 #include "stylepainting_p.h"
 
+#include <QtWidgets/QApplication>
+
 #include <array>
 
 namespace {
@@ -51,6 +53,14 @@ QIcon &StylePaint::tabCloseIcon(const DarkFusionStyle *style)
 {
     return static_cast<const DarkFusionStylePrivate *>(QObjectPrivate::get(style))
         ->tabBarcloseButtonIcon;
+}
+
+bool StylePaint::showsPixmapsUnchanged(const QPainter *painter)
+{
+    const QTransform transform = painter->deviceTransform();
+    const qreal ratio = qApp->devicePixelRatio();
+    return transform.type() <= QTransform::TxScale && qFuzzyCompare(transform.m11(), ratio)
+           && qFuzzyCompare(transform.m22(), ratio);
 }
 
 void DarkFusionStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,

@@ -28,19 +28,24 @@ constexpr qreal searchFieldRadius = 9.0;
 constexpr int groupBoxTitleMargin = 3;
 constexpr int groupBoxImageMargin = 6;
 
-/// A frame of one unit lit from the upper left, inside an outline of \a outline.
+/// A frame of one unit lit from the left, inside an outline of \a outline.
 void paintDockFrame(const PaintCall &call, const QColor &outline)
 {
-    const PainterSaver saver(call.painter);
     const QRect &r = call.rect();
     const QColor shadow = call.color(QPalette::Window).darker(120);
-    call.painter->setPen(outline);
-    call.painter->drawRect(r.adjusted(0, 0, -1, -1));
-    call.painter->setPen(QPen(call.palette().light(), 1));
-    call.painter->drawLine(r.left() + 1, r.top() + 1, r.left() + 1, r.bottom() - 1);
-    call.painter->setPen(shadow);
-    call.painter->drawLine(r.left() + 1, r.bottom() - 1, r.right() - 2, r.bottom() - 1);
-    call.painter->drawLine(r.right() - 1, r.top() + 1, r.right() - 1, r.bottom() - 1);
+    fillOutline(call.painter, r, outline);
+    fillColumn(call.painter, r.left() + 1, r.top() + 1, r.bottom() - 1, call.palette().light());
+    fillRow(call.painter, r.left() + 1, r.right() - 2, r.bottom() - 1, shadow);
+    fillColumn(call.painter, r.right() - 1, r.top() + 1, r.bottom() - 1, shadow);
+}
+
+/// \a fill inside an outline of \a outline.
+void paintPanel(const PaintCall &call, const QColor &outline, const QColor &fill)
+{
+    const QRect inner = call.rect().adjusted(1, 1, -1, -1);
+    fillOutline(call.painter, call.rect(), outline);
+    if (!inner.isEmpty())
+        call.painter->fillRect(inner, fill);
 }
 
 QPixmap groupBoxImage()
@@ -61,17 +66,27 @@ void paintField(const PaintCall &call, const QRectF &field, int shift, qreal rad
 }
 
 /// The upper edge of the page below a tab bar, open where the selected tab joins it.
-void paintNorthTabBase(const PaintCall &call, const QRect &selectedTab)
+void paintNorthTabBase(const PaintCall &call, const QColor &outline, const QRect &selectedTab)
 {
     const QRect &r = call.rect();
-    const QLine edge(r.topLeft(), r.topRight());
-    call.painter->drawLine(edge);
-    call.painter->setClipRegion(QRegion(r) - selectedTab);
-    call.painter->setPen(call.color(QPalette::Light));
-    call.painter->drawLine(edge.translated(0, 1));
+    fillRow(call.painter, r.left(), r.right(), r.top(), outline);
+    const QRect secondRow = QRect(r.left(), r.top() + 1, r.width(), 1) & r;
+    const QColor light = call.color(QPalette::Light);
+    for (const QRect &part : QRegion(secondRow) - selectedTab)
+        call.painter->fillRect(part, light);
 }
 
 } // namespace
+
+void fillOutline(QPainter *painter, const QRect &rect, const QColor &color)
+{
+    fillRow(painter, rect.left(), rect.right(), rect.top(), color);
+    if (rect.height() > 1)
+        fillRow(painter, rect.left(), rect.right(), rect.bottom(), color);
+    fillColumn(painter, rect.left(), rect.top() + 1, rect.bottom() - 1, color);
+    if (rect.width() > 1)
+        fillColumn(painter, rect.right(), rect.top() + 1, rect.bottom() - 1, color);
+}
 
 void paintFrame(const PaintCall &call)
 {
@@ -81,27 +96,19 @@ void paintFrame(const PaintCall &call)
         call.drawPrimitive(QStyle::PE_PanelMenu, menu);
         return;
     }
-    const PainterSaver saver(call.painter);
-    QPen pen(StyleColors::outlineColor(call.palette()).lighter(108));
-    pen.setCosmetic(false);
-    call.painter->setPen(pen);
-    call.painter->drawRect(call.rect().adjusted(0, 0, -1, -1));
+    fillOutline(call.painter, call.rect(), StyleColors::outlineColor(call.palette()).lighter(108));
 }
 
 void paintFrameMenu(const PaintCall &call)
 {
-    const PainterSaver saver(call.painter);
-    const QColor window = call.color(QPalette::Window);
-    call.painter->setPen(StyleColors::outlineColor(call.palette()));
-    call.painter->drawRect(call.rect().adjusted(0, 0, -1, -1));
-
+    const QColor light = call.color(QPalette::Window).lighter(160);
+    const QColor dark = call.color(QPalette::Window).darker(110);
     const QRect inner = call.rect().adjusted(1, 1, -1, -1);
-    call.painter->setPen(window.lighter(160));
-    call.painter->drawLine(inner.topLeft(), inner.bottomLeft());
-    call.painter->drawLine(inner.topLeft(), inner.topRight());
-    call.painter->setPen(window.darker(110));
-    call.painter->drawLine(inner.topRight(), inner.bottomRight());
-    call.painter->drawLine(inner.bottomLeft(), inner.bottomRight());
+    fillOutline(call.painter, call.rect(), StyleColors::outlineColor(call.palette()));
+    fillColumn(call.painter, inner.left(), inner.top(), inner.bottom(), light);
+    fillRow(call.painter, inner.left(), inner.right(), inner.top(), light);
+    fillColumn(call.painter, inner.right(), inner.top(), inner.bottom(), dark);
+    fillRow(call.painter, inner.left(), inner.right(), inner.bottom(), dark);
 }
 
 void paintFrameDockWidget(const PaintCall &call)
@@ -168,11 +175,8 @@ void paintFrameTabWidget(const PaintCall &call)
     const QRect &r = call.rect();
     call.painter->fillRect(r.adjusted(0, 0, -1, -1), call.color(QPalette::Window));
     const auto *frame = call.as<QStyleOptionTabWidgetFrame>();
-    if (!frame || frame->shape == QTabBar::RoundedSouth)
-        return;
-    const PainterSaver saver(call.painter);
-    call.painter->setPen(StyleColors::fixed(tabPageShadow));
-    call.painter->drawLine(r.bottomLeft(), r.bottomRight());
+    if (frame && frame->shape != QTabBar::RoundedSouth)
+        fillRow(call.painter, r.left(), r.right(), r.bottom(), StyleColors::fixed(tabPageShadow));
 }
 
 void paintFrameTabBarBase(const PaintCall &call)
@@ -181,20 +185,19 @@ void paintFrameTabBarBase(const PaintCall &call)
     if (!base)
         return;
     const QRect &r = call.rect();
-    const PainterSaver saver(call.painter);
-    call.painter->setPen(StyleColors::outlineColor(call.palette()).lighter(110));
+    const QColor outline = StyleColors::outlineColor(call.palette()).lighter(110);
     switch (base->shape) {
     case QTabBar::RoundedNorth:
-        paintNorthTabBase(call, base->selectedTabRect);
+        paintNorthTabBase(call, outline, base->selectedTabRect);
         break;
     case QTabBar::RoundedSouth:
-        call.painter->drawLine(r.bottomLeft(), r.bottomRight());
+        fillRow(call.painter, r.left(), r.right(), r.bottom(), outline);
         break;
     case QTabBar::RoundedWest:
-        call.painter->drawLine(r.topLeft(), r.bottomLeft());
+        fillColumn(call.painter, r.left(), r.top(), r.bottom(), outline);
         break;
     case QTabBar::RoundedEast:
-        call.painter->drawLine(r.topRight(), r.bottomRight());
+        fillColumn(call.painter, r.right(), r.top(), r.bottom(), outline);
         break;
     default:
         call.style->QCommonStyle::drawPrimitive(QStyle::PE_FrameTabBarBase, base, call.painter,
@@ -204,10 +207,8 @@ void paintFrameTabBarBase(const PaintCall &call)
 
 void paintPanelMenu(const PaintCall &call)
 {
-    const PainterSaver saver(call.painter);
-    call.painter->setPen(call.color(QPalette::Window).darker(160));
-    call.painter->setBrush(call.color(QPalette::Base).lighter(108));
-    call.painter->drawRect(call.rect().adjusted(0, 0, -1, -1));
+    paintPanel(call, call.color(QPalette::Window).darker(160),
+               call.color(QPalette::Base).lighter(108));
 }
 
 void paintPanelScrollAreaCorner(const PaintCall &call)
@@ -221,10 +222,7 @@ void paintPanelScrollAreaCorner(const PaintCall &call)
 
 void paintPanelTipLabel(const PaintCall &call)
 {
-    const PainterSaver saver(call.painter);
-    call.painter->setPen(Qt::black);
-    call.painter->setBrush(Qt::gray);
-    call.painter->drawRect(call.rect().adjusted(0, 0, -1, -1));
+    paintPanel(call, Qt::black, Qt::gray);
 }
 
 } // namespace StylePaint

@@ -4,9 +4,9 @@
 
 #include <QtGui/QPainterPath>
 
-namespace StylePaint {
+#include <cmath>
 
-using StyleHelpers::PainterSaver;
+namespace StylePaint {
 
 namespace {
 
@@ -35,36 +35,35 @@ QColor checkColor(const PaintCall &call)
     return call.color(QPalette::Text).darker(120);
 }
 
-void paintCheckBoxField(const PaintCall &call, const QRect &r)
+void paintCheckBoxField(QPainter *painter, const PaintCall &call, const QRect &r)
 {
     if (call.has(QStyle::State_Sunken)) {
-        call.painter->setBrush(pressedColor(call));
+        painter->setBrush(pressedColor(call));
     } else {
         const QColor base = call.color(QPalette::Base);
         QLinearGradient gradient = verticalGradient(r);
         gradient.setColorAt(0.0, base.darker(115));
         gradient.setColorAt(0.15, base);
         gradient.setColorAt(1.0, base);
-        call.painter->setBrush(gradient);
+        painter->setBrush(gradient);
     }
-    call.painter->setPen(call.hasKeyboardFocus()
-                             ? StyleColors::highlightedOutlineColor(call.palette())
-                             : StyleColors::outlineColor(call.palette()).lighter(110));
-    call.painter->drawRect(r);
+    painter->setPen(call.hasKeyboardFocus()
+                        ? StyleColors::highlightedOutlineColor(call.palette())
+                        : StyleColors::outlineColor(call.palette()).lighter(110));
+    painter->drawRect(r);
 }
 
-void paintPartialMark(const PaintCall &call, const QRect &r, int margin)
+void paintPartialMark(QPainter *painter, const QColor &check, const QRect &r, int margin)
 {
-    const QColor check = checkColor(call);
     QLinearGradient gradient = verticalGradient(r);
     gradient.setColorAt(0.0, StyleColors::withAlpha(check, partialTopAlpha));
     gradient.setColorAt(1.0, StyleColors::withAlpha(check, partialBottomAlpha));
-    call.painter->setPen(StyleColors::withAlpha(check, partialOutlineAlpha));
-    call.painter->setBrush(gradient);
-    call.painter->drawRect(r.adjusted(margin, margin, -margin, -margin));
+    painter->setPen(StyleColors::withAlpha(check, partialOutlineAlpha));
+    painter->setBrush(gradient);
+    painter->drawRect(r.adjusted(margin, margin, -margin, -margin));
 }
 
-void paintCheckMark(const PaintCall &call, const QRect &r, int margin)
+void paintCheckMark(QPainter *painter, const QColor &check, const QRect &r, int margin)
 {
     QPainterPath mark;
     mark.moveTo(margin + 2, r.height() * 0.5);
@@ -72,10 +71,38 @@ void paintCheckMark(const PaintCall &call, const QRect &r, int margin)
     mark.lineTo(r.width() - margin - 0.5, margin);
     mark.translate(r.topLeft());
 
-    call.painter->setPen(QPen(checkColor(call), StyleHelpers::dpiScaled(checkMarkWidth)));
-    call.painter->setBrush(Qt::NoBrush);
-    call.painter->translate(-0.8, 0.5);
-    call.painter->drawPath(mark);
+    painter->setPen(QPen(check, StyleHelpers::dpiScaled(checkMarkWidth)));
+    painter->setBrush(Qt::NoBrush);
+    painter->translate(-0.8, 0.5);
+    painter->drawPath(mark);
+}
+
+void paintCheckBox(QPainter *painter, const PaintCall &call)
+{
+    const QRect r(0, 0, call.rect().width() - 1, call.rect().height() - 1);
+    const int margin = static_cast<int>(StyleHelpers::dpiScaled(checkMarkMargin));
+    beginSharpAntialiasing(painter);
+    paintCheckBoxField(painter, call, r);
+    if (call.has(QStyle::State_NoChange))
+        paintPartialMark(painter, checkColor(call), r, margin);
+    else if (call.has(QStyle::State_On))
+        paintCheckMark(painter, checkColor(call), r, margin);
+}
+
+void paintRadioButton(QPainter *painter, const PaintCall &call, const QPointF &centre, qreal radius)
+{
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setBrush(call.has(QStyle::State_Sunken) ? pressedColor(call)
+                                                     : call.color(QPalette::Base));
+    painter->setPen(call.hasKeyboardFocus() ? StyleColors::highlightedOutlineColor(call.palette())
+                                            : call.color(QPalette::Window).darker(150));
+    painter->drawEllipse(centre, radius, radius);
+    if (call.has(QStyle::State_On)) {
+        const QColor check = checkColor(call);
+        painter->setPen(StyleColors::withAlpha(check, radioDotOutlineAlpha));
+        painter->setBrush(StyleColors::withAlpha(check, radioDotAlpha));
+        painter->drawEllipse(centre, radius / radioDotShare, radius / radioDotShare);
+    }
 }
 
 template <std::size_t Columns, std::size_t Rows>
@@ -129,15 +156,9 @@ void paintIndicatorCheckBox(const PaintCall &call)
 {
     if (!call.as<QStyleOptionButton>())
         return;
-    const PainterSaver saver(call.painter);
-    beginSharpAntialiasing(call.painter);
-    const QRect r = call.rect().adjusted(0, 0, -1, -1);
-    const int margin = static_cast<int>(StyleHelpers::dpiScaled(checkMarkMargin));
-    paintCheckBoxField(call, r);
-    if (call.has(QStyle::State_NoChange))
-        paintPartialMark(call, r, margin);
-    else if (call.has(QStyle::State_On))
-        paintCheckMark(call, r, margin);
+    const QRect &r = call.rect();
+    drawKept(call.painter, r.topLeft(), QStringLiteral("checkbox"), call.option, r.size(),
+             [&call](QPainter *painter) { paintCheckBox(painter, call); });
 }
 
 void paintIndicatorDockWidgetResizeHandle(const PaintCall &call)
@@ -177,24 +198,16 @@ void paintIndicatorItemViewItemCheck(const PaintCall &call)
 void paintIndicatorRadioButton(const PaintCall &call)
 {
     const int width = call.rect().width();
-    const QPointF centre = call.rect().center() + QPoint(1, 1);
-    // An even width has no middle pixel: the circle is drawn as for the next odd one.
+    const QPoint centre = call.rect().center() + QPoint(1, 1);
+    // An even width has no middle unit: the circle is that of the next odd one.
     const qreal radius = (width + (width + 1) % 2) * 0.5 - 1.0;
-
-    const PainterSaver saver(call.painter);
-    call.painter->setRenderHint(QPainter::Antialiasing);
-    call.painter->setBrush(call.has(QStyle::State_Sunken) ? pressedColor(call)
-                                                          : call.color(QPalette::Base));
-    call.painter->setPen(call.hasKeyboardFocus()
-                             ? StyleColors::highlightedOutlineColor(call.palette())
-                             : call.color(QPalette::Window).darker(150));
-    call.painter->drawEllipse(centre, radius, radius);
-    if (call.has(QStyle::State_On)) {
-        const QColor check = checkColor(call);
-        call.painter->setPen(StyleColors::withAlpha(check, radioDotOutlineAlpha));
-        call.painter->setBrush(StyleColors::withAlpha(check, radioDotAlpha));
-        call.painter->drawEllipse(centre, radius / radioDotShare, radius / radioDotShare);
-    }
+    // The square around the circle and its line, which may reach out of the rectangle.
+    const int reach = static_cast<int>(std::ceil(radius + 0.5));
+    const QSize size(2 * reach, 2 * reach);
+    drawKept(call.painter, centre - QPoint(reach, reach), QStringLiteral("radiobutton"),
+             call.option, size, [&](QPainter *painter) {
+                 paintRadioButton(painter, call, QPointF(reach, reach), radius);
+             });
 }
 
 void paintIndicatorToolBarHandle(const PaintCall &call)

@@ -2,6 +2,7 @@
 #define NOCTURNE_STYLEPAINTING_P_H
 
 #include "darkfusionstyle.h"
+#include "stylehelpers_p.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
@@ -63,6 +64,9 @@ using Function = void (*)(const PaintCall &call);
 
 inline void paintNothing(const PaintCall &) {}
 
+/// Whether a pixmap at the application's device pixel ratio reaches the device pixel by pixel.
+bool showsPixmapsUnchanged(const QPainter *painter);
+
 /// Turns antialiasing on and moves the painter half a unit down and right, where lines of one
 /// unit cover whole pixels again.
 inline void beginSharpAntialiasing(QPainter *painter)
@@ -76,6 +80,40 @@ inline QLinearGradient verticalGradient(const QRect &rect)
 {
     return QLinearGradient(rect.topLeft(), rect.bottomLeft());
 }
+
+/// Paints as \a paint(QPainter *) does for an origin at \a topLeft, within \a size units, and keeps
+/// the drawing for the next element with the same \a prefix, look and size. Under a painter that
+/// would blur a kept drawing, \a paint draws on the painter itself.
+template <typename Paint>
+void drawKept(QPainter *painter, const QPoint &topLeft, const QString &prefix,
+              const QStyleOption *option, const QSize &size, Paint paint)
+{
+    if (showsPixmapsUnchanged(painter)) {
+        StyleHelpers::drawCached(painter, topLeft,
+                                 StyleHelpers::styleCacheKey(prefix, option, size), size, paint);
+    } else {
+        StyleHelpers::paintAt(painter, topLeft, paint);
+    }
+}
+
+/// Lines of one unit along whole rows and columns of units, both ends included. They are filled,
+/// not drawn: that is many times faster, and stays within the units at every device pixel ratio.
+template <typename Fill>
+void fillRow(QPainter *painter, int left, int right, int y, const Fill &fill)
+{
+    if (left <= right)
+        painter->fillRect(left, y, right - left + 1, 1, fill);
+}
+
+template <typename Fill>
+void fillColumn(QPainter *painter, int x, int top, int bottom, const Fill &fill)
+{
+    if (top <= bottom)
+        painter->fillRect(x, top, 1, bottom - top + 1, fill);
+}
+
+/// The outermost units of \a rect.
+void fillOutline(QPainter *painter, const QRect &rect, const QColor &color);
 
 /// One dot of a grip or handle: two units wide and light, its upper left unit dark.
 void paintGripDot(QPainter *painter, int x, int y);
