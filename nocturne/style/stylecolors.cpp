@@ -80,6 +80,21 @@ QColor mergedColors(const QColor &a, const QColor &b, int factor)
                   merged(a.blue(), b.blue(), factor), a.alpha());
 }
 
+QColor gradientStartColor(const QPalette &palette)
+{
+    return buttonColor(palette).lighter(118);
+}
+
+QColor gradientStopColor(const QPalette &palette)
+{
+    return buttonColor(palette);
+}
+
+QColor arrowColor(const QPalette &palette)
+{
+    return withAlpha(palette.color(QPalette::WindowText), 220);
+}
+
 QColor scrollBarBackgroundColor(const QPalette &palette, const QWidget *widget)
 {
     // The bar stands in a container, the container in the scroll area.

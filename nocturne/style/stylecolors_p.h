@@ -43,6 +43,11 @@ QColor tabFrameColor(const QPalette &palette);
 /// that of \a a.
 QColor mergedColors(const QColor &a, const QColor &b, int factor = 50);
 
+/// The two ends of the gradients on the parts of complex controls, and the arrows on them.
+QColor gradientStartColor(const QPalette &palette);
+QColor gradientStopColor(const QPalette &palette);
+QColor arrowColor(const QPalette &palette);
+
 /// What a scroll bar stands on: the Base colour of the scroll area it belongs to, or else of
 /// \a palette.
 QColor scrollBarBackgroundColor(const QPalette &palette, const QWidget *widget);

@@ -122,7 +122,7 @@ void drawCached(QPainter *painter, const QPoint &topLeft, const QString &key, co
             paintAt(painter, topLeft, paint);
             return;
         }
-        pixmap = styleCachePixmap(size);
+        pixmap = StyleHelpers::styleCachePixmap(size);
         pixmap.fill(Qt::transparent);
         QPainter cachePainter(&pixmap);
         paint(&cachePainter);
