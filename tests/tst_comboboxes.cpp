@@ -153,6 +153,10 @@ private slots:
         addGroups(*grouped);
         grouped->setCurrentIndex(1);
         QTest::newRow("ComboBox") << static_cast<QComboBox *>(grouped);
+        auto *checks = new CheckComboBox;
+        for (const char *text : {"A", "B"})
+            checks->addCheckItem(QLatin1String(text), {}, Qt::Unchecked);
+        QTest::newRow("CheckComboBox") << static_cast<QComboBox *>(checks);
         QTest::newRow("FontComboBox") << static_cast<QComboBox *>(new FontComboBox);
     }
 

@@ -2,6 +2,7 @@
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QStandardItemModel>
+#include <QtGui/QWheelEvent>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QLineEdit>
 
@@ -90,6 +91,11 @@ bool CheckComboBox::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     return QComboBox::eventFilter(watched, event);
+}
+
+void CheckComboBox::wheelEvent(QWheelEvent *event)
+{
+    event->ignore();
 }
 
 void CheckComboBox::modelDataChanged()

@@ -14,7 +14,8 @@ class QStandardItemModel;
 /// A combo box whose popup is a list of check boxes and whose field sums up what is checked.
 ///
 /// A press anywhere on an item toggles it, and the popup stays open; so does the space bar. The
-/// field can't be edited or selected; a press on it opens the popup. The combo box owns its items.
+/// field can't be edited or selected; a press on it opens the popup. The wheel is left to the
+/// parent. The combo box owns its items.
 ///
 /// \code
 /// auto *outputs = new CheckComboBox(panel);
@@ -63,6 +64,9 @@ signals:
     /// An item has changed, for one in its check state; \a state is globalCheckState(). Emitted
     /// once per change, even if the state of all together stays as it was.
     void globalCheckStateChanged(int state);
+
+protected:
+    void wheelEvent(QWheelEvent *event) override;
 
 private slots:
     void modelDataChanged();

@@ -16,7 +16,6 @@ namespace {
 
 constexpr int contentMargin = 5;
 constexpr int backgroundShift = -6;
-constexpr int shadowHeight = 30;
 
 } // namespace
 
@@ -192,8 +191,8 @@ void ListWidget::scrollContentsBy(int dx, int dy)
         return;
 
     // The shadows have moved along with the items and have to be put right at either end.
-    const int upper = shadowHeight + qMax(0, -movedUp);
-    const int lower = shadowHeight + qMax(0, movedUp);
+    const int upper = edgeShadowHeight + qMax(0, -movedUp);
+    const int lower = edgeShadowHeight + qMax(0, movedUp);
     viewport()->update(0, 0, viewport()->width(), upper);
     viewport()->update(0, height() - lower, viewport()->width(), lower);
 }
