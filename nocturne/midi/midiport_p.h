@@ -64,6 +64,9 @@ private:
 /// The message in \a bytes, received \a seconds after the one before. Missing bytes read as 0.
 QMidiMessage decodeMidiMessage(double seconds, const std::vector<unsigned char> &bytes);
 
+/// What RtMidi calls for each message received, with the QMidiIn as \a input.
+void receiveMidiMessage(double seconds, std::vector<unsigned char> *bytes, void *input);
+
 template <typename Device, typename Create>
 std::unique_ptr<Device> MidiPort::createDevice(const char *direction, Create create)
 {

@@ -11,13 +11,13 @@ std::unique_ptr<RtMidiIn> createInput(RtMidi::Api interface)
     return std::make_unique<RtMidiIn>(interface, "RtMidi Input Client", queueLimit);
 }
 
-void receive(double seconds, std::vector<unsigned char> *bytes, void *input)
+} // namespace
+
+void receiveMidiMessage(double seconds, std::vector<unsigned char> *bytes, void *input)
 {
     if (bytes && !bytes->empty())
         emit static_cast<QMidiIn *>(input)->midiMessageReceived(decodeMidiMessage(seconds, *bytes));
 }
-
-} // namespace
 
 QMidiIn::QMidiIn(QObject *parent)
     : QObject(parent)
@@ -26,7 +26,7 @@ QMidiIn::QMidiIn(QObject *parent)
     // Queued delivery by a string-based connection finds the type by its name.
     qRegisterMetaType<QMidiMessage>();
     m_device = m_port->createDevice<RtMidiIn>("input", createInput);
-    m_port->guarded([this] { m_device->setCallback(receive, this); });
+    m_port->guarded([this] { m_device->setCallback(receiveMidiMessage, this); });
 }
 
 QMidiIn::~QMidiIn()
