@@ -9,6 +9,9 @@
 
 #include <rtmidi/RtMidi.h>
 
+#include <csignal>
+#include <sys/prctl.h>
+
 /// A JACK server of the program's own, under a name of its own and without a sound card. This
 /// process uses it as its default server until the object ends.
 class JackServer
@@ -24,9 +27,7 @@ public:
     /// Starts the server; false when it is not installed or does not come up.
     bool start()
     {
-        static int count = 0;
-        const QString name =
-            QStringLiteral("nocturne-%1-%2").arg(QCoreApplication::applicationPid()).arg(++count);
+        const QString name = QStringLiteral("nocturne-%1").arg(QCoreApplication::applicationPid());
         qputenv("JACK_DEFAULT_SERVER", name.toLatin1());
         qputenv("JACK_NO_START_SERVER", "1");
         qputenv("JACK_NO_AUDIO_RESERVATION", "1");
@@ -79,7 +80,14 @@ private:
         return !failed;
     }
 
-    QProcess m_process;
+    /// Ends with this program, even if that crashes.
+    class Process : public QProcess
+    {
+    protected:
+        void setupChildProcess() override { ::prctl(PR_SET_PDEATHSIG, SIGKILL); }
+    };
+
+    Process m_process;
 };
 
 #endif

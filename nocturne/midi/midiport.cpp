@@ -41,8 +41,8 @@ QStringList MidiPort::portNames()
 {
     QStringList names;
     guarded([this, &names] {
-        const unsigned int count = m_device->getPortCount();
-        for (unsigned int i = 0; i < count; ++i)
+        // Counted anew each time: devices come and go, and an index past the last is not safe.
+        for (unsigned int i = 0; i < m_device->getPortCount(); ++i)
             names << QString::fromStdString(m_device->getPortName(i));
     });
     m_names = distinctNames(names);
@@ -77,7 +77,14 @@ bool MidiPort::openPort(const QString &name)
 
 void MidiPort::openPort(unsigned int index)
 {
-    guarded([this, index] { m_device->openPort(index, m_portName); });
+    guarded([this, index] {
+        // RtMidi reads past its list for an index that JACK does not have.
+        if (index < m_device->getPortCount())
+            m_device->openPort(index, m_portName);
+        else
+            report(RtMidiError::INVALID_PARAMETER,
+                   "There is no MIDI port with the index " + std::to_string(index));
+    });
 }
 
 void MidiPort::openVirtualPort(const QString &name)
