@@ -1,5 +1,6 @@
 #include "testsupport.h"
 
+#include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
 #include <nocturne/RangeSlider>
 
@@ -626,6 +627,32 @@ private slots:
         }
     }
 
+    void grooveIsNotFilled_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("horizontal") << Qt::Horizontal << Qt::LeftToRight;
+        QTest::newRow("right to left") << Qt::Horizontal << Qt::RightToLeft;
+        QTest::newRow("vertical") << Qt::Vertical << Qt::LeftToRight;
+    }
+
+    void grooveIsNotFilled()
+    {
+        QFETCH(Qt::Orientation, orientation);
+        QFETCH(Qt::LayoutDirection, direction);
+        TestRange slider(orientation);
+        slider.setLayoutDirection(direction);
+        slider.setStyle(m_theme.style());
+        slider.setValues(40, 60, 50);
+        const QImage image = TestSupport::render(slider);
+        const QPoint inside = slider.place(45);
+        QVERIFY(image.pixelColor(inside + QPoint(0, orientation == Qt::Horizontal)).blue() > 100);
+        for (int position : {10, 30, 70, 90}) {
+            const QColor color = image.pixelColor(slider.place(position));
+            QVERIFY2(color.blue() < 50, qPrintable(color.name(QColor::HexArgb)));
+        }
+    }
+
     void barIsOpaqueUnderTheMouse()
     {
         TestRange slider;
@@ -675,7 +702,9 @@ private:
         const bool horizontal = slider.orientation() == Qt::Horizontal;
         QStyleOptionSlider option = slider.option(-100);
         option.subControls = QStyle::SC_SliderGroove;
+        const bool upsideDown = std::exchange(option.upsideDown, false);
         style->drawComplexControl(QStyle::CC_Slider, &option, painter, &slider);
+        option.upsideDown = upsideDown;
         const QRect groove =
             style->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, &slider);
         const QPoint a = slider.place(values[0]);
@@ -703,6 +732,7 @@ private:
     }
 
     DarkUX m_theme;
+    const std::unique_ptr<QStyle> m_darkStyle{m_theme.style()};
 };
 
 NOCTURNE_TEST_MAIN(TestRangeSlider)

@@ -14,6 +14,7 @@
 #include <QtWidgets/QToolTip>
 
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -408,7 +409,11 @@ void RangeSlider::paintEvent(QPaintEvent *)
     initStyleOption(&option);
     option.subControls = QStyle::SC_SliderGroove;
     option.sliderValue = option.sliderPosition = outsideRange(minimum(), maximum());
+    // Styles put what is outside the range where the pixels start. Upside down that would be the
+    // far end, with the whole groove filled.
+    const bool upsideDown = std::exchange(option.upsideDown, false);
     painter.drawComplexControl(QStyle::CC_Slider, option);
+    option.upsideDown = upsideDown;
     d->drawBar(&painter, &option);
 
     using Private = RangeSliderPrivate;
