@@ -167,15 +167,17 @@ void paintSlider(const QStyle *style, const QStyleOptionSlider *option, QPainter
                  const QWidget *widget)
 {
     const QStyle *proxy = style->proxy();
-    const QRect groove =
-        proxy->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderGroove, widget);
     const QRect handle =
         proxy->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderHandle, widget);
-    if (option->subControls & QStyle::SC_SliderGroove && groove.isValid()) {
-        const QString key =
-            StyleHelpers::styleCacheKey(QStringLiteral("slider_groove"), option, groove.size());
-        paintSliderGroove(option, painter, groove, key);
-        paintSliderFill(option, painter, groove, handle, key + QLatin1String("_blue"));
+    if (option->subControls & QStyle::SC_SliderGroove) {
+        const QRect groove =
+            proxy->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderGroove, widget);
+        if (groove.isValid()) {
+            const QString key =
+                StyleHelpers::styleCacheKey(QStringLiteral("slider_groove"), option, groove.size());
+            paintSliderGroove(option, painter, groove, key);
+            paintSliderFill(option, painter, groove, handle, key + QLatin1String("_blue"));
+        }
     }
     if (option->subControls & QStyle::SC_SliderTickmarks
         && option->tickPosition != QSlider::NoTicks) {
