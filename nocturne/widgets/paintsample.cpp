@@ -22,7 +22,7 @@ int wholeRatio(const QPainter &painter)
                             && transform.m11() == ratio && transform.m22() == ratio;
     const bool wholeOffset =
         transform.dx() == qRound(transform.dx()) && transform.dy() == qRound(transform.dy());
-    return wholeScale && wholeOffset && painter.device()->devicePixelRatioF() == ratio ? ratio : 0;
+    return wholeScale && wholeOffset ? ratio : 0;
 }
 
 /// A rectangle given along and across a shape of that orientation.
