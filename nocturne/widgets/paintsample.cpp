@@ -16,7 +16,7 @@ int wholeRatio(const QPainter &painter)
     if (!painter.paintEngine() || painter.paintEngine()->type() != QPaintEngine::Raster
         || painter.testRenderHint(QPainter::Antialiasing))
         return 0;
-    const QTransform transform = painter.deviceTransform();
+    const QTransform &transform = painter.deviceTransform();
     const int ratio = qRound(transform.m11());
     const bool wholeScale = transform.type() <= QTransform::TxScale && ratio >= 1
                             && transform.m11() == ratio && transform.m22() == ratio;
