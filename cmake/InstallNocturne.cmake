@@ -23,6 +23,9 @@ install(FILES
   "${PROJECT_BINARY_DIR}/nocturneConfigVersion.cmake"
   DESTINATION "${package_dir}")
 
+# Relative to the file itself, so that an installed tree can be moved.
+file(RELATIVE_PATH pkgconfig_prefix "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+string(REGEX REPLACE "/$" "" pkgconfig_prefix "${pkgconfig_prefix}")
 configure_file("${PROJECT_SOURCE_DIR}/cmake/nocturne.pc.in"
   "${PROJECT_BINARY_DIR}/nocturne.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/nocturne.pc"

@@ -1,9 +1,83 @@
-#include "darkfusionstyle.h"
+#include "complexcontrols_p.h"
 
-void DarkFusionStyle::drawComplexControl(ComplexControl element, const QStyleOptionComplex *option,
+#include "darkfusionstyle.h"
+#include "stylehelpers_p.h"
+
+#include <QtWidgets/QStyleOption>
+
+namespace {
+
+template <typename Option>
+using Paint = void (*)(const QStyle *, const Option *, QPainter *, const QWidget *);
+
+template <typename Option>
+using Place = QRect (*)(const QStyle *, const Option *, QStyle::SubControl, const QRect &,
+                        const QWidget *);
+
+/// Calls \a paint with the option as what it really is. Paints nothing for an option of another
+/// type, or one without an area.
+template <typename Option>
+void paintAs(Paint<Option> paint, const QStyle *style, const QStyleOptionComplex *option,
+             QPainter *painter, const QWidget *widget)
+{
+    const auto *typed = qstyleoption_cast<const Option *>(option);
+    if (typed && !typed->rect.isEmpty())
+        paint(style, typed, painter, widget);
+}
+
+/// \a place's answer, or \a base for an option of another type.
+template <typename Option>
+QRect placedAs(Place<Option> place, const QStyle *style, const QStyleOptionComplex *option,
+               QStyle::SubControl part, const QRect &base, const QWidget *widget)
+{
+    const auto *typed = qstyleoption_cast<const Option *>(option);
+    return typed ? place(style, typed, part, base, widget) : base;
+}
+
+} // namespace
+
+QPixmap ComplexControls::arrowPixmap(const QColor &color, int rotation)
+{
+    return StyleHelpers::colorizedImage(StyleHelpers::arrowImageFileName(), color, rotation);
+}
+
+void ComplexControls::drawArrow(QPainter *painter, const QPointF &centre, const QColor &color,
+                                int rotation)
+{
+    const QPixmap arrow = arrowPixmap(color, rotation);
+    const QSizeF size = QSizeF(arrow.size()) / 2.0;
+    const QRectF target(centre - QPointF(size.width(), size.height()) / 2.0, size);
+    painter->drawPixmap(target, arrow, arrow.rect());
+}
+
+void ComplexControls::paintDial(const QStyle *, const QStyleOptionSlider *option, QPainter *painter,
+                                const QWidget *)
+{
+    StyleHelpers::drawDial(option, painter);
+}
+
+void DarkFusionStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                                          QPainter *painter, const QWidget *widget) const
 {
-    QCommonStyle::drawComplexControl(element, option, painter, widget);
+    switch (control) {
+    case CC_SpinBox:
+        return paintAs(ComplexControls::paintSpinBox, this, option, painter, widget);
+    case CC_ComboBox:
+        return paintAs(ComplexControls::paintComboBox, this, option, painter, widget);
+    case CC_ScrollBar:
+        return paintAs(ComplexControls::paintScrollBar, this, option, painter, widget);
+    case CC_Slider:
+        return paintAs(ComplexControls::paintSlider, this, option, painter, widget);
+    case CC_GroupBox:
+        return paintAs(ComplexControls::paintGroupBox, this, option, painter, widget);
+    case CC_TitleBar:
+        return paintAs(ComplexControls::paintTitleBar, this, option, painter, widget);
+    case CC_Dial:
+        return paintAs(ComplexControls::paintDial, this, option, painter, widget);
+    default:
+        if (option)
+            QCommonStyle::drawComplexControl(control, option, painter, widget);
+    }
 }
 
 QStyle::SubControl DarkFusionStyle::hitTestComplexControl(ComplexControl control,
@@ -11,11 +85,30 @@ QStyle::SubControl DarkFusionStyle::hitTestComplexControl(ComplexControl control
                                                           const QPoint &position,
                                                           const QWidget *widget) const
 {
+    if (!option)
+        return SC_None;
     return QCommonStyle::hitTestComplexControl(control, option, position, widget);
 }
 
 QRect DarkFusionStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
-                                      SubControl subControl, const QWidget *widget) const
+                                      SubControl part, const QWidget *widget) const
 {
-    return QCommonStyle::subControlRect(control, option, subControl, widget);
+    // The common style reads some options without looking whether there is one.
+    if (!option)
+        return QRect();
+    const QRect base = QCommonStyle::subControlRect(control, option, part, widget);
+    switch (control) {
+    case CC_SpinBox:
+        return placedAs(ComplexControls::spinBoxRect, this, option, part, base, widget);
+    case CC_ComboBox:
+        return placedAs(ComplexControls::comboBoxRect, this, option, part, base, widget);
+    case CC_Slider:
+        return placedAs(ComplexControls::sliderRect, this, option, part, base, widget);
+    case CC_GroupBox:
+        return placedAs(ComplexControls::groupBoxRect, this, option, part, base, widget);
+    case CC_TitleBar:
+        return placedAs(ComplexControls::titleBarRect, this, option, part, base, widget);
+    default:
+        return base;
+    }
 }

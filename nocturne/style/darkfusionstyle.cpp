@@ -1,9 +1,37 @@
 #include "darkfusionstyle.h"
+
 #include "darkfusionstyle_p.h"
+
+#include <nocturne/theme/toolkitexports_p.h>
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAbstractSlider>
+#include <QtWidgets/QAbstractSpinBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QSplitterHandle>
+
+namespace {
+
+constexpr int framesPerSecond = 60;
+
+/// The controls that look different under the pointer. Dock separators are known by name only.
+bool showsHover(const QWidget *widget)
+{
+    return qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QComboBox *>(widget)
+           || qobject_cast<const QProgressBar *>(widget)
+           || qobject_cast<const QAbstractSlider *>(widget) // scroll bars among them
+           || qobject_cast<const QSplitterHandle *>(widget)
+           || qobject_cast<const QAbstractSpinBox *>(widget) || widget->inherits("QDockSeparator")
+           || widget->inherits("QDockWidgetSeparator");
+}
+
+} // namespace
 
 DarkFusionStylePrivate::DarkFusionStylePrivate()
 {
-    animationFps = 60;
+    animationFps = framesPerSecond;
 }
 
 DarkFusionStyle::DarkFusionStyle()
@@ -22,73 +50,63 @@ void DarkFusionStyle::polish(QPalette &palette)
 {
     QCommonStyle::polish(palette);
 }
+
 void DarkFusionStyle::polish(QApplication *application)
 {
     QCommonStyle::polish(application);
 }
+
 void DarkFusionStyle::polish(QWidget *widget)
 {
+    if (!widget)
+        return;
     QCommonStyle::polish(widget);
+    if (showsHover(widget)) {
+        widget->setAttribute(Qt::WA_Hover, true);
+        widget->setAttribute(Qt::WA_OpaquePaintEvent, false);
+    }
 }
+
 void DarkFusionStyle::unpolish(QApplication *application)
 {
     QCommonStyle::unpolish(application);
 }
+
 void DarkFusionStyle::unpolish(QWidget *widget)
 {
+    if (!widget)
+        return;
     QCommonStyle::unpolish(widget);
+    if (showsHover(widget))
+        widget->setAttribute(Qt::WA_Hover, false);
 }
+
 QRect DarkFusionStyle::itemPixmapRect(const QRect &rect, int flags, const QPixmap &pixmap) const
 {
     return QCommonStyle::itemPixmapRect(rect, flags, pixmap);
 }
+
 void DarkFusionStyle::drawItemText(QPainter *painter, const QRect &rect, int alignment,
                                    const QPalette &palette, bool enabled, const QString &text,
                                    QPalette::ColorRole textRole) const
 {
-    QCommonStyle::drawItemText(painter, rect, alignment, palette, enabled, text, textRole);
+    Q_UNUSED(enabled)
+    if (text.isEmpty())
+        return;
+    const QPen savedPen = painter->pen();
+    if (textRole != QPalette::NoRole)
+        painter->setPen(QPen(palette.brush(textRole), savedPen.widthF()));
+    painter->drawText(rect, alignment, text);
+    painter->setPen(savedPen);
 }
+
 void DarkFusionStyle::drawItemPixmap(QPainter *painter, const QRect &rect, int alignment,
                                      const QPixmap &pixmap) const
 {
     QCommonStyle::drawItemPixmap(painter, rect, alignment, pixmap);
 }
+
 QPalette DarkFusionStyle::standardPalette() const
 {
-    return QCommonStyle::standardPalette();
-}
-QRect DarkFusionStyle::subElementRect(SubElement element, const QStyleOption *option,
-                                      const QWidget *widget) const
-{
-    return QCommonStyle::subElementRect(element, option, widget);
-}
-int DarkFusionStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
-                                 const QWidget *widget) const
-{
-    return QCommonStyle::pixelMetric(metric, option, widget);
-}
-QSize DarkFusionStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
-                                        const QSize &contents, const QWidget *widget) const
-{
-    return QCommonStyle::sizeFromContents(type, option, contents, widget);
-}
-int DarkFusionStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-                               QStyleHintReturn *returnData) const
-{
-    return QCommonStyle::styleHint(hint, option, widget, returnData);
-}
-QPixmap DarkFusionStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption *option,
-                                        const QWidget *widget) const
-{
-    return QCommonStyle::standardPixmap(pixmap, option, widget);
-}
-QIcon DarkFusionStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
-                                    const QWidget *widget) const
-{
-    return QCommonStyle::standardIcon(icon, option, widget);
-}
-QPixmap DarkFusionStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
-                                             const QStyleOption *option) const
-{
-    return QCommonStyle::generatedIconPixmap(mode, pixmap, option);
+    return qt_fusionPalette();
 }

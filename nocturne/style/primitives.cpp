@@ -1,7 +1,77 @@
-#include "darkfusionstyle.h"
+#include "darkfusionstyle_p.h"
+#include "stylepainting_p.h"
+
+#include <QtWidgets/QApplication>
+
+#include <array>
+
+namespace {
+
+constexpr int elementCount = QStyle::PE_PanelMenu + 1;
+
+/// What paints each element; null where the common style does.
+constexpr auto primitiveFunctions = [] {
+    using namespace StylePaint;
+    std::array<Function, elementCount> functions{};
+    functions[QStyle::PE_FrameDefaultButton] = paintNothing;
+    functions[QStyle::PE_FrameStatusBarItem] = paintNothing;
+    functions[QStyle::PE_Frame] = paintFrame;
+    functions[QStyle::PE_FrameMenu] = paintFrameMenu;
+    functions[QStyle::PE_FrameDockWidget] = paintFrameDockWidget;
+    functions[QStyle::PE_FrameWindow] = paintFrameWindow;
+    functions[QStyle::PE_FrameFocusRect] = paintFrameFocusRect;
+    functions[QStyle::PE_FrameGroupBox] = paintFrameGroupBox;
+    functions[QStyle::PE_FrameLineEdit] = paintFrameLineEdit;
+    functions[QStyle::PE_FrameTabWidget] = paintFrameTabWidget;
+    functions[QStyle::PE_FrameTabBarBase] = paintFrameTabBarBase;
+    functions[QStyle::PE_PanelLineEdit] = paintPanelLineEdit;
+    functions[QStyle::PE_PanelMenu] = paintPanelMenu;
+    functions[QStyle::PE_PanelScrollAreaCorner] = paintPanelScrollAreaCorner;
+    functions[QStyle::PE_PanelTipLabel] = paintPanelTipLabel;
+    functions[QStyle::PE_PanelButtonCommand] = paintPanelButtonCommand;
+    functions[QStyle::PE_PanelButtonTool] = paintPanelButtonTool;
+    functions[QStyle::PE_IndicatorButtonDropDown] = paintIndicatorButtonDropDown;
+    functions[QStyle::PE_IndicatorTabClose] = paintIndicatorTabClose;
+    functions[QStyle::PE_IndicatorArrowDown] = paintIndicatorArrowDown;
+    functions[QStyle::PE_IndicatorArrowLeft] = paintIndicatorArrowLeft;
+    functions[QStyle::PE_IndicatorArrowRight] = paintIndicatorArrowRight;
+    functions[QStyle::PE_IndicatorArrowUp] = paintIndicatorArrowUp;
+    functions[QStyle::PE_IndicatorBranch] = paintIndicatorBranch;
+    functions[QStyle::PE_IndicatorCheckBox] = paintIndicatorCheckBox;
+    functions[QStyle::PE_IndicatorDockWidgetResizeHandle] = paintIndicatorDockWidgetResizeHandle;
+    functions[QStyle::PE_IndicatorHeaderArrow] = paintIndicatorHeaderArrow;
+    functions[QStyle::PE_IndicatorItemViewItemCheck] = paintIndicatorItemViewItemCheck;
+    functions[QStyle::PE_IndicatorRadioButton] = paintIndicatorRadioButton;
+    functions[QStyle::PE_IndicatorToolBarHandle] = paintIndicatorToolBarHandle;
+    functions[QStyle::PE_IndicatorToolBarSeparator] = paintIndicatorToolBarSeparator;
+    return functions;
+}();
+
+} // namespace
+
+QIcon &StylePaint::tabCloseIcon(const DarkFusionStyle *style)
+{
+    return static_cast<const DarkFusionStylePrivate *>(QObjectPrivate::get(style))
+        ->tabBarcloseButtonIcon;
+}
+
+bool StylePaint::showsPixmapsUnchanged(const QPainter *painter)
+{
+    const QTransform transform = painter->deviceTransform();
+    const qreal ratio = qApp->devicePixelRatio();
+    return transform.type() <= QTransform::TxScale && qFuzzyCompare(transform.m11(), ratio)
+           && qFuzzyCompare(transform.m22(), ratio);
+}
 
 void DarkFusionStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                     QPainter *painter, const QWidget *widget) const
 {
-    QCommonStyle::drawPrimitive(element, option, painter, widget);
+    if (!option || !painter)
+        return;
+    const uint index = static_cast<uint>(element);
+    const auto function = index < primitiveFunctions.size() ? primitiveFunctions[index] : nullptr;
+    if (!function)
+        QCommonStyle::drawPrimitive(element, option, painter, widget);
+    else if (!option->rect.isEmpty())
+        function({this, option, painter, widget});
 }

@@ -37,7 +37,7 @@ qreal dpiScaled(qreal value);
 
 /// Names what \a prefix and every field of \a option that a drawing may depend on look like:
 /// state, direction, active sub-controls, palette, \a size, and for spin boxes the button symbols,
-/// enabled steps and frame.
+/// enabled steps and frame. A null option leaves the prefix and the size.
 QString styleCacheKey(const QString &prefix, const QStyleOption *option, const QSize &size);
 
 /// An uninitialised pixmap of \a size units at the application's device pixel ratio.
@@ -45,10 +45,24 @@ QPixmap styleCachePixmap(const QSize &size);
 
 /// Draws at \a topLeft the cached drawing of \a key; paints it first when it is not in the cache.
 /// \a paint is called as paint(QPainter *) on a transparent pixmap of \a size units whose origin
-/// is its top left corner.
+/// is its top left corner. A drawing too large for the cache is painted on \a painter instead,
+/// with the origin moved to \a topLeft. An empty size paints nothing.
 template <typename Paint>
 void drawCached(QPainter *painter, const QPoint &topLeft, const QString &key, const QSize &size,
                 Paint paint);
+
+/// The same for drawings that would suffer as a pixmap: under a rotated or sheared painter \a paint
+/// draws on \a painter itself.
+template <typename Paint>
+void drawCachedUnlessTransformed(QPainter *painter, const QPoint &topLeft, const QString &key,
+                                 const QSize &size, Paint paint);
+
+/// The name of the toolkit's upward arrow, for colorizedImage(). Where the toolkit was built
+/// without it, the style's own arrow answers to the name.
+QString arrowImageFileName();
+
+/// The name of the toolkit's group-box frame.
+QString groupBoxImageFileName();
 
 /// The image \a fileName with its green channel as grey and its blue less red as the share of
 /// \a color, turned by \a rotation degrees. Null when there is no such image.
@@ -67,14 +81,34 @@ void drawToolButtonArrow(const QStyle *style, const QStyleOptionToolButton *opti
 void drawTitleBarButton(QPainter *painter, const QStyleOptionTitleBar *option, const QRect &rect,
                         bool hover, bool sunken);
 
+/// Draws a dial: tick marks, disc and knob.
 void drawDial(const QStyleOptionSlider *option, QPainter *painter);
+
+/// How long the long tick marks of a dial of \a radius are.
 int dialBigLineSize(int radius);
+
+/// The tick marks of a dial, each from its inner to its outer end.
 QVector<QLineF> dialTickLines(const QStyleOptionSlider *option);
+
 /// A point on the line from the dial's centre to its value, \a offset of the way out.
 QPointF dialRadialPos(const QStyleOptionSlider *option, qreal offset);
 
 bool findCached(const QString &key, QPixmap *pixmap);
 void insertCached(const QString &key, const QPixmap &pixmap);
+
+/// Whether the pixmap cache can hold a drawing of \a size units.
+bool fitsCache(const QSize &size);
+
+/// Whether \a painter moves or, for its device, scales its input and does nothing else to it.
+bool hasPlainTransform(const QPainter *painter);
+
+template <typename Paint>
+void paintAt(QPainter *painter, const QPoint &topLeft, Paint paint)
+{
+    const PainterSaver saver(painter);
+    painter->translate(topLeft);
+    paint(painter);
+}
 
 template <typename Paint>
 void drawCached(QPainter *painter, const QPoint &topLeft, const QString &key, const QSize &size,
@@ -84,7 +118,11 @@ void drawCached(QPainter *painter, const QPoint &topLeft, const QString &key, co
         return;
     QPixmap pixmap;
     if (!findCached(key, &pixmap)) {
-        pixmap = styleCachePixmap(size);
+        if (!fitsCache(size)) {
+            paintAt(painter, topLeft, paint);
+            return;
+        }
+        pixmap = StyleHelpers::styleCachePixmap(size);
         pixmap.fill(Qt::transparent);
         QPainter cachePainter(&pixmap);
         paint(&cachePainter);
@@ -92,6 +130,18 @@ void drawCached(QPainter *painter, const QPoint &topLeft, const QString &key, co
         insertCached(key, pixmap);
     }
     painter->drawPixmap(topLeft, pixmap);
+}
+
+template <typename Paint>
+void drawCachedUnlessTransformed(QPainter *painter, const QPoint &topLeft, const QString &key,
+                                 const QSize &size, Paint paint)
+{
+    if (size.isEmpty())
+        return;
+    if (hasPlainTransform(painter))
+        drawCached(painter, topLeft, key, size, paint);
+    else
+        paintAt(painter, topLeft, paint);
 }
 
 } // namespace StyleHelpers

@@ -11,6 +11,12 @@ QColor color(QPalette::ColorRole role)
     return Singleton<DarkUX>::getInstance().palette().color(QPalette::Current, role);
 }
 
+QColor buttonText(bool enabled)
+{
+    return Singleton<DarkUX>::getInstance().palette().color(
+        enabled ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText);
+}
+
 QColor shifted(const QColor &color, int shift, int alpha)
 {
     return QColor(qBound(0, color.red() + shift, 255), qBound(0, color.green() + shift, 255),

@@ -16,6 +16,10 @@ constexpr QRgb accentBlue = 0xff419bf9; // rgb(65, 155, 249)
 /// A colour of the theme palette's current group.
 QColor color(QPalette::ColorRole role);
 
+/// The theme's ButtonText colour of the active or the disabled group: captions that a widget draws
+/// itself.
+QColor buttonText(bool enabled);
+
 /// \a color with \a shift added to red, green and blue, clamped to 0 to 255, at \a alpha.
 QColor shifted(const QColor &color, int shift, int alpha = 255);
 

@@ -4,6 +4,9 @@
 class QPainter;
 class QSize;
 
+/// The height of a shadow, in units.
+constexpr int edgeShadowHeight = 30;
+
 /// Draws the soft shadow that tells of more content above (\a top) or below (\a bottom) the edges
 /// of an area of \a size. The shadow is 30 units high and stretched to the width; it is blurred
 /// once and kept.

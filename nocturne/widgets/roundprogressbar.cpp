@@ -210,7 +210,7 @@ QString RoundProgressBar::humanReadableSize(qint64 bytes)
     if (bytes < 1024)
         size /= 1024.0;
 
-    const QString number = QStringLiteral("%1").arg(size, 0, 'f', 1, QLatin1Char(' '));
+    QString number = QStringLiteral("%1").arg(size, 0, 'f', 1, QLatin1Char(' '));
     if (!m_unitMode)
         return QStringLiteral("%1 %2").arg(number, unit);
     m_unitText = unit;

@@ -1,0 +1,122 @@
+#include "complexcontrols_p.h"
+
+#include "stylecolors_p.h"
+#include "stylehelpers_p.h"
+
+#include <QtWidgets/QStyleOption>
+
+namespace ComplexControls {
+
+using StyleHelpers::PainterSaver;
+
+namespace {
+
+QString comboBoxKey(const QStyleOptionComboBox *option)
+{
+    QString key =
+        StyleHelpers::styleCacheKey(QStringLiteral("combobox"), option, option->rect.size());
+    if (option->state & QStyle::State_On)
+        key += QLatin1String("-sunken");
+    if (option->editable)
+        key += QLatin1String("-editable");
+    if (option->state & QStyle::State_Enabled)
+        key += QLatin1String("-enabled");
+    if (!(option->subControls & QStyle::SC_ComboBoxArrow))
+        key += QLatin1String("-noarrow");
+    return key;
+}
+
+/// The states that show on the frame of a combo box; an open one looks pressed.
+QStyle::State frameState(const QStyleOptionComboBox &option, QStyle::State shown)
+{
+    QStyle::State state = option.state & shown;
+    if (option.state & QStyle::State_On) {
+        state &= ~QStyle::State_MouseOver;
+        state |= QStyle::State_Sunken;
+    }
+    return state;
+}
+
+void paintComboBoxButton(const QStyle *style, const QStyleOptionComboBox &option, QPainter *painter,
+                         const QWidget *widget)
+{
+    QStyleOptionButton button;
+    button.QStyleOption::operator=(option);
+    button.state =
+        frameState(option, QStyle::State_Enabled | QStyle::State_HasFocus | QStyle::State_MouseOver
+                               | QStyle::State_KeyboardFocusChange);
+    style->proxy()->drawPrimitive(QStyle::PE_PanelButtonCommand, &button, painter, widget);
+}
+
+void paintComboBoxSeparator(const QStyleOptionComboBox &option, QPainter *painter,
+                            const QRect &arrow)
+{
+    const bool sunken = option.state & QStyle::State_On;
+    const bool hasFocus =
+        option.state & QStyle::State_HasFocus && option.state & QStyle::State_KeyboardFocusChange;
+    const bool rightToLeft = option.direction == Qt::RightToLeft;
+    int x = arrow.left();
+    if (rightToLeft)
+        x = sunken ? arrow.right() : arrow.right() - 1;
+    const int inset = sunken ? 2 : 1;
+
+    painter->setPen(hasFocus ? QPen(option.palette.highlight(), 1)
+                             : QPen(StyleColors::outlineColor(option.palette).lighter(110), 1));
+    painter->drawLine(x, arrow.top() + inset, x, arrow.bottom() - inset);
+}
+
+void paintComboBoxField(const QStyle *style, const QStyleOptionComboBox &option, QPainter *painter,
+                        const QRect &arrow, const QWidget *widget)
+{
+    QStyleOptionFrame field;
+    field.QStyleOption::operator=(option);
+    field.state =
+        frameState(option, QStyle::State_Enabled | QStyle::State_HasFocus | QStyle::State_MouseOver)
+        | QStyle::State_KeyboardFocusChange;
+    style->proxy()->drawPrimitive(QStyle::PE_FrameLineEdit, &field, painter, widget);
+    {
+        const PainterSaver saver(painter);
+        painter->setClipRect(arrow.adjusted(0, 0, 1, 0), Qt::IntersectClip);
+        // Right to left this starts beyond the clip: the arrow then stands on the bare field.
+        field.rect.setLeft(option.direction == Qt::LeftToRight ? arrow.left() - 6
+                                                               : arrow.right() + 6);
+        style->proxy()->drawPrimitive(QStyle::PE_PanelButtonCommand, &field, painter, widget);
+    }
+    paintComboBoxSeparator(option, painter, arrow);
+}
+
+void paintComboBoxArrow(const QStyleOptionComboBox &option, QPainter *painter, const QRect &arrow)
+{
+    const PainterSaver saver(painter);
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(StyleColors::withAlpha(option.palette.color(QPalette::ButtonText), 255));
+    const int top = arrow.height() / 2 - 2;
+    const QRectF box(arrow.right() - 12, top, 8, 8);
+    const QPointF triangle[] = {box.topLeft(), box.topRight(),
+                                QPointF(box.left() + 4, box.bottom() - 2)};
+    painter->drawPolygon(triangle, 3);
+}
+
+} // namespace
+
+void paintComboBox(const QStyle *style, const QStyleOptionComboBox *option, QPainter *painter,
+                   const QWidget *widget)
+{
+    const QSize size = option->rect.size();
+    const QString key = comboBoxKey(option);
+    StyleHelpers::drawCached(painter, option->rect.topLeft(), key, size, [&](QPainter *cached) {
+        QStyleOptionComboBox local(*option);
+        local.rect = QRect(QPoint(), size);
+        const QRect arrow = style->proxy()->subControlRect(QStyle::CC_ComboBox, &local,
+                                                           QStyle::SC_ComboBoxArrow, widget);
+        if (local.editable)
+            paintComboBoxField(style, local, cached, arrow, widget);
+        else
+            paintComboBoxButton(style, local, cached, widget);
+        if (local.subControls & QStyle::SC_ComboBoxArrow)
+            paintComboBoxArrow(local, cached, arrow);
+    });
+}
+
+} // namespace ComplexControls

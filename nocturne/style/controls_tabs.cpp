@@ -1,0 +1,136 @@
+#include "stylecolors_p.h"
+#include "stylehelpers_p.h"
+#include "stylepainting_p.h"
+
+#include <QtWidgets/QTabBar>
+
+namespace StylePaint {
+
+using StyleHelpers::PainterSaver;
+
+namespace {
+
+constexpr qreal tabRadius = 2.0;
+constexpr int unselectedTabOffset = 2;
+
+bool isLastTab(const QStyleOptionTab &tab)
+{
+    const bool runsLeft =
+        tab.direction == Qt::RightToLeft
+        && (tab.shape == QTabBar::RoundedNorth || tab.shape == QTabBar::RoundedSouth);
+    return tab.position == (runsLeft ? QStyleOptionTab::Beginning : QStyleOptionTab::End);
+}
+
+/// The tab's rectangle reaching over the next tab's edge.
+QRect overlappingRect(const PaintCall &call, const QStyleOptionTab &tab)
+{
+    if (tab.position == QStyleOptionTab::OnlyOneTab || isLastTab(tab))
+        return tab.rect;
+    const int overlap = call.style->pixelMetric(QStyle::PM_TabBarTabOverlap, &tab, call.widget);
+    return tab.rect.adjusted(0, 0, overlap, 0);
+}
+
+QRect transposed(const QRect &rect)
+{
+    return QRect(rect.y(), rect.x(), rect.height(), rect.width());
+}
+
+bool isRounded(QTabBar::Shape shape)
+{
+    return shape >= QTabBar::RoundedNorth && shape <= QTabBar::RoundedEast;
+}
+
+/// Turns the painter so that a tab at any side is painted as one above its page. Returns the tab's
+/// rectangle as the turned painter sees it.
+QRect turnUpright(QPainter *painter, QTabBar::Shape shape, const QRect &rect)
+{
+    QTransform turn;
+    switch (shape) {
+    case QTabBar::RoundedSouth:
+        turn.rotate(180);
+        turn.translate(0, -rect.height() + 1);
+        turn.scale(-1, 1);
+        painter->setTransform(turn, true);
+        return rect;
+    case QTabBar::RoundedWest:
+        turn.rotate(270);
+        turn.scale(-1, 1);
+        painter->setTransform(turn, true);
+        return transposed(rect);
+    case QTabBar::RoundedEast:
+        turn.rotate(90);
+        turn.translate(0, -rect.width() + 1);
+        painter->setTransform(turn, true);
+        return transposed(rect);
+    default:
+        return rect;
+    }
+}
+
+QBrush tabFill(const QRect &rect, const QColor &color, bool selected)
+{
+    QLinearGradient gradient = verticalGradient(rect);
+    if (selected) {
+        gradient.setColorAt(0.0, color.lighter(104));
+        gradient.setColorAt(1.0, color);
+    } else {
+        gradient.setColorAt(0.0, color.darker(108));
+        gradient.setColorAt(0.85, color.darker(108));
+        gradient.setColorAt(1.0, color.darker(116));
+    }
+    return gradient;
+}
+
+/// Outline, fill and the bright line inside, all cut off where the page begins.
+void paintTabBody(const PaintCall &call, const QRect &rect, const QColor &color, bool selected)
+{
+    const PainterSaver saver(call.painter);
+    const QColor outline = StyleColors::outlineColor(call.palette());
+    const QRect body = rect.adjusted(0, selected ? 0 : unselectedTabOffset, 0, 3);
+    call.painter->setClipRect(rect.adjusted(-1, -1, 1, selected ? -2 : -3));
+    call.painter->setPen(selected ? outline : outline.lighter(110));
+    call.painter->setBrush(tabFill(rect, color, selected));
+    call.painter->drawRoundedRect(body.adjusted(0, 0, -1, -1), tabRadius, tabRadius);
+    call.painter->setBrush(Qt::NoBrush);
+    call.painter->setPen(StyleColors::fixed(StyleColors::innerContrastLine));
+    call.painter->drawRoundedRect(body.adjusted(1, 1, -2, -1), tabRadius, tabRadius);
+}
+
+/// Opens a selected tab to its page: the fill runs on as far down as anything is visible.
+void paintTabFoot(QPainter *painter, const QRect &rect, const QColor &color)
+{
+    const QRect foot(rect.left() + 1, rect.bottom() - 1, rect.width() - 2, rect.bottom() - 1);
+    if (!foot.isEmpty())
+        painter->fillRect(foot, color);
+    const QPoint bright[] = {rect.bottomRight() + QPoint(-2, -1), rect.bottomLeft() + QPoint(0, -1),
+                             rect.bottomRight() + QPoint(-1, -1)};
+    painter->setPen(StyleColors::fixed(StyleColors::innerContrastLine));
+    painter->drawPoints(bright, 3);
+}
+
+} // namespace
+
+void paintTabShape(const PaintCall &call)
+{
+    const auto *tab = call.as<QStyleOptionTab>();
+    if (!tab)
+        return;
+    if (!isRounded(tab->shape)) {
+        call.style->QCommonStyle::drawControl(QStyle::CE_TabBarTabShape, tab, call.painter,
+                                              call.widget);
+        return;
+    }
+    const bool selected = call.has(QStyle::State_Selected);
+    const QColor color = tab->features & QStyleOptionTab::HasFrame
+                             ? StyleColors::tabFrameColor(call.palette())
+                             : call.color(QPalette::Window);
+
+    const PainterSaver saver(call.painter);
+    const QRect rect = turnUpright(call.painter, tab->shape, overlappingRect(call, *tab));
+    beginSharpAntialiasing(call.painter);
+    paintTabBody(call, rect, color, selected);
+    if (selected)
+        paintTabFoot(call.painter, rect, color);
+}
+
+} // namespace StylePaint

@@ -1,0 +1,199 @@
+#include "stylecolors_p.h"
+#include "stylehelpers_p.h"
+#include "stylepainting_p.h"
+
+#include <QtWidgets/QMainWindow>
+
+#include <algorithm>
+
+namespace StylePaint {
+
+using StyleHelpers::PainterSaver;
+
+namespace {
+
+// Dots of a grip lie three units apart, from six left of and above its middle.
+constexpr int firstDot = -6;
+constexpr int dotsEnd = 12;
+constexpr int dotStep = 3;
+
+constexpr int rubberBandOutlineAlpha = 180;
+constexpr int rubberBandFillAlpha = 80;
+constexpr QRgb rubberBandContrast = 0x28ffffff; // white, alpha 40
+
+QColor rubberBandFill(const QColor &highlight, bool isOpaque)
+{
+    const auto channel = [](int value) { return std::min(value / 2 + 110, 255); };
+    return QColor(channel(highlight.red()), channel(highlight.green()), channel(highlight.blue()),
+                  isOpaque ? 255 : rubberBandFillAlpha);
+}
+
+/// Turns the painter by a quarter to the left within the option's rectangle; what is painted then
+/// has the width and height of the rectangle exchanged. Returns \a title as the painter sees it.
+QRect turnTitle(const PaintCall &call, const QRect &title)
+{
+    const QRect &r = call.rect();
+    call.painter->translate(r.left(), r.top() + r.height());
+    call.painter->rotate(-90);
+    call.painter->translate(-r.left(), -r.top());
+    return QRect(r.left() + r.bottom() - title.bottom(), r.top() + title.left() - r.left(),
+                 title.height(), title.width());
+}
+
+enum Edge { Top, Bottom, Left, Right };
+
+using ToolBarOption = QStyleOptionToolBar;
+
+/// A set of positions of a line of tool bars.
+constexpr uint at(ToolBarOption::ToolBarPosition position)
+{
+    return 1U << position;
+}
+constexpr uint beginning = at(ToolBarOption::Beginning);
+constexpr uint middle = at(ToolBarOption::Middle);
+constexpr uint end = at(ToolBarOption::End);
+constexpr uint onlyOne = at(ToolBarOption::OnlyOne);
+
+/// A line along an edge of a tool bar, drawn when the bar lies in the area at one of the positions.
+struct ToolBarLine
+{
+    Qt::ToolBarArea area;
+    uint positions;
+    QRgb color;
+    Edge edge;
+    int distance; ///< from the edge inwards
+};
+
+constexpr QRgb light = StyleColors::lightShade;
+constexpr QRgb shadow = StyleColors::darkShade;
+
+constexpr ToolBarLine toolBarLines[] = {
+    {Qt::TopToolBarArea, end | onlyOne, light, Bottom, 0},
+    {Qt::TopToolBarArea, end | onlyOne, shadow, Bottom, 1},
+    {Qt::TopToolBarArea, beginning | middle, shadow, Bottom, 0},
+    {Qt::TopToolBarArea, beginning | middle | end | onlyOne, light, Top, 0},
+    {Qt::BottomToolBarArea, end | middle, shadow, Bottom, 0},
+    {Qt::BottomToolBarArea, beginning | onlyOne, shadow, Bottom, 1},
+    {Qt::BottomToolBarArea, beginning | onlyOne, light, Bottom, 0},
+    {Qt::BottomToolBarArea, end, shadow, Top, 0},
+    {Qt::BottomToolBarArea, end, light, Top, 1},
+    {Qt::BottomToolBarArea, beginning | middle | onlyOne, light, Top, 0},
+    {Qt::LeftToolBarArea, middle | end, light, Left, 0},
+    {Qt::LeftToolBarArea, end, shadow, Right, 1},
+    {Qt::LeftToolBarArea, end, light, Right, 0},
+    {Qt::LeftToolBarArea, beginning | middle | onlyOne, shadow, Right, 0},
+    {Qt::RightToolBarArea, middle | end, shadow, Right, 0},
+    {Qt::RightToolBarArea, end | onlyOne, shadow, Left, 0},
+    {Qt::RightToolBarArea, end | onlyOne, light, Left, 1},
+    {Qt::RightToolBarArea, beginning | middle, light, Left, 0},
+};
+
+/// The row or column of units \a distance inwards from an edge of \a r.
+QRect edgeUnits(const QRect &r, Edge edge, int distance)
+{
+    switch (edge) {
+    case Top:
+        return QRect(r.left(), r.top() + distance, r.width(), 1);
+    case Bottom:
+        return QRect(r.left(), r.bottom() - distance, r.width(), 1);
+    case Left:
+        return QRect(r.left() + distance, r.top(), 1, r.height());
+    case Right:
+        break;
+    }
+    return QRect(r.right() - distance, r.top(), 1, r.height());
+}
+
+void paintToolBarLines(QPainter *painter, const QStyleOptionToolBar &toolBar)
+{
+    for (const ToolBarLine &line : toolBarLines) {
+        if (line.area == toolBar.toolBarArea && (line.positions & at(toolBar.positionOfLine))) {
+            painter->fillRect(edgeUnits(toolBar.rect, line.edge, line.distance),
+                              StyleColors::fixed(line.color));
+        }
+    }
+}
+
+QBrush toolBarFill(const PaintCall &call)
+{
+    const QRect &r = call.rect();
+    const QColor window = call.color(QPalette::Window);
+    QLinearGradient gradient = verticalGradient(r);
+    if (!call.has(QStyle::State_Horizontal)) {
+        gradient.setStart(r.left(), r.center().y());
+        gradient.setFinalStop(r.right(), r.center().y());
+    }
+    gradient.setColorAt(0.0, window.lighter(104));
+    gradient.setColorAt(1.0, window);
+    return gradient;
+}
+
+} // namespace
+
+void paintSizeGrip(const PaintCall &call)
+{
+    const QPoint centre = call.rect().center();
+    for (int x = firstDot; x < dotsEnd; x += dotStep) {
+        for (int y = firstDot; y < dotsEnd; y += dotStep) {
+            if (call.isRightToLeft() ? y > x : x > -y)
+                paintGripDot(call.painter, centre.x() + x, centre.y() + y);
+        }
+    }
+}
+
+void paintSplitter(const PaintCall &call)
+{
+    const QRect &r = call.rect();
+    if (r.width() <= 1 || r.height() <= 1)
+        return;
+    const QPoint centre = r.center();
+    for (int i = firstDot; i < dotsEnd; i += dotStep) {
+        if (call.has(QStyle::State_Horizontal))
+            paintGripDot(call.painter, centre.x() + 1, centre.y() + i);
+        else
+            paintGripDot(call.painter, centre.x() + i, centre.y());
+    }
+}
+
+void paintRubberBand(const PaintCall &call)
+{
+    if (!call.as<QStyleOptionRubberBand>())
+        return;
+    const QRect &r = call.rect();
+    const QColor highlight = call.palette().color(QPalette::Active, QPalette::Highlight);
+    const bool isTopLevel = call.widget && call.widget->isWindow();
+    const PainterSaver saver(call.painter);
+    beginSharpAntialiasing(call.painter);
+    call.painter->setPen(StyleColors::withAlpha(highlight.darker(120), rubberBandOutlineAlpha));
+    call.painter->setBrush(rubberBandFill(highlight, isTopLevel));
+    call.painter->drawRoundedRect(r.adjusted(0, 0, -1, -1), 1, 1);
+    call.painter->setPen(StyleColors::fixed(rubberBandContrast));
+    call.painter->drawRoundedRect(r.adjusted(1, 1, -2, -2), 1, 1);
+}
+
+void paintDockWidgetTitle(const PaintCall &call)
+{
+    const auto *dockWidget = call.as<QStyleOptionDockWidget>();
+    if (!dockWidget || dockWidget->title.isEmpty())
+        return;
+    const PainterSaver saver(call.painter);
+    QRect title =
+        call.style->subElementRect(QStyle::SE_DockWidgetTitleBarText, dockWidget, call.widget);
+    if (dockWidget->verticalTitleBar)
+        title = turnTitle(call, title);
+    const QString text =
+        call.painter->fontMetrics().elidedText(dockWidget->title, Qt::ElideRight, title.width());
+    call.drawText(title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text,
+                  QPalette::WindowText);
+}
+
+void paintToolBar(const PaintCall &call)
+{
+    const auto *toolBar = call.as<QStyleOptionToolBar>();
+    if (!toolBar || (call.widget && !qobject_cast<QMainWindow *>(call.widget->parentWidget())))
+        return;
+    call.painter->fillRect(toolBar->rect, toolBarFill(call));
+    paintToolBarLines(call.painter, *toolBar);
+}
+
+} // namespace StylePaint

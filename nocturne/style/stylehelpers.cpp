@@ -1,0 +1,369 @@
+#include "stylehelpers_p.h"
+
+#include "stylecolors_p.h"
+
+#include <nocturne/theme/toolkitexports_p.h>
+
+#include <QtGui/QPixmapCache>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyleOption>
+
+#include <algorithm>
+
+namespace StyleHelpers {
+
+namespace {
+
+/// Appends numbers to a key as raw code units: a key is read by nobody, but it is built and hashed
+/// each time a control paints.
+class KeyWriter
+{
+public:
+    explicit KeyWriter(QChar *position)
+        : m_position(position)
+    {}
+
+    void put16(uint value) { *m_position++ = QChar(static_cast<ushort>(value)); }
+    void put32(uint value)
+    {
+        put16(value);
+        put16(value >> 16);
+    }
+    void put64(quint64 value)
+    {
+        put32(static_cast<uint>(value));
+        put32(static_cast<uint>(value >> 32));
+    }
+
+private:
+    QChar *m_position;
+};
+
+constexpr int sizeUnits = 4;
+constexpr int optionUnits = 9;
+constexpr int spinBoxUnits = 3;
+
+void writeOption(KeyWriter &writer, const QStyleOption *option)
+{
+    const auto *complex = qstyleoption_cast<const QStyleOptionComplex *>(option);
+    writer.put32(static_cast<uint>(option->state));
+    // The palette's key does not tell its current group.
+    writer.put16(static_cast<uint>(option->direction)
+                 | static_cast<uint>(option->palette.currentColorGroup()) << 8);
+    writer.put32(complex ? static_cast<uint>(complex->activeSubControls) : 0);
+    writer.put64(static_cast<quint64>(option->palette.cacheKey()));
+}
+
+void writeSpinBox(KeyWriter &writer, const QStyleOptionSpinBox *spinBox)
+{
+    writer.put16(static_cast<uint>(spinBox->buttonSymbols));
+    writer.put16(static_cast<uint>(spinBox->stepEnabled));
+    writer.put16(spinBox->frame ? 1 : 0);
+}
+
+// An arrow is drawn at half its pixel size, so that it is sharp on a screen of twice the density:
+// these pixels show as 8 x 4 units.
+constexpr int arrowWidth = 16;
+constexpr int arrowHeight = 8;
+
+/// An upward arrow whose whole surface takes the colour that colorizedImage() is given.
+QImage ownArrowImage()
+{
+    QImage image(arrowWidth, arrowHeight, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::blue);
+    const QPointF corners[] = {
+        {0.0, arrowHeight}, {arrowWidth / 2.0, 0.0}, {arrowWidth, arrowHeight}};
+    painter.drawConvexPolygon(corners, 3);
+    painter.end();
+    return image;
+}
+
+QImage sourceImage(const QString &fileName)
+{
+    QImage image(fileName);
+    if (image.isNull() && fileName == arrowImageFileName())
+        image = ownArrowImage();
+    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+uint div255(uint value)
+{
+    return (value + (value >> 8) + 128) >> 8;
+}
+
+/// A source pixel in the colour given, neither of them undone from its alpha.
+QRgb colorizedPixel(QRgb pixel, QRgb color)
+{
+    const uint share = static_cast<uint>(qBlue(pixel) - qRed(pixel));
+    const uint gray = static_cast<uint>(qGreen(pixel));
+    const uint alpha = div255(static_cast<uint>(qAlpha(pixel)) * static_cast<uint>(qAlpha(color)));
+    const auto channel = [&](int value) {
+        const uint sum = (gray + div255(static_cast<uint>(value) * share)) & 0xff;
+        return static_cast<int>(std::min(alpha, sum));
+    };
+    return qRgba(channel(qRed(color)), channel(qGreen(color)), channel(qBlue(color)),
+                 static_cast<int>(alpha));
+}
+
+void colorize(QImage *image, QRgb color)
+{
+    for (int y = 0; y < image->height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(image->scanLine(y));
+        std::transform(line, line + image->width(), line,
+                       [color](QRgb pixel) { return colorizedPixel(pixel, color); });
+    }
+}
+
+QImage turned(const QImage &image, int rotation)
+{
+    if (rotation == 0)
+        return image;
+    QTransform transform;
+    transform.translate(-image.width() / 2, -image.height() / 2);
+    transform.rotate(rotation);
+    transform.translate(image.width() / 2, image.height() / 2);
+    return image.transformed(transform);
+}
+
+/// "$qt_ia-", the name, the colour as eight digits, low digit of each byte first, the rotation.
+QString colorizedImageKey(const QString &fileName, QRgb color, int rotation)
+{
+    static constexpr char digits[] = "0123456789abcdef";
+    const QString prefix = QStringLiteral("$qt_ia-");
+    QString key;
+    key.reserve(prefix.size() + fileName.size() + 12);
+    key += prefix;
+    key += fileName;
+    for (int nibble = 0; nibble < 8; ++nibble)
+        key += QLatin1Char(digits[(color >> (4 * nibble)) & 0xf]);
+    key += QString::number(rotation);
+    return key;
+}
+
+/// Degrees that turn an upward arrow to where \a element points.
+int arrowRotation(QStyle::PrimitiveElement element)
+{
+    switch (element) {
+    case QStyle::PE_IndicatorArrowDown:
+        return 180;
+    case QStyle::PE_IndicatorArrowLeft:
+        return -90;
+    case QStyle::PE_IndicatorArrowRight:
+        return 90;
+    default:
+        return 0;
+    }
+}
+
+/// The largest rectangle in the proportions of \a pixmap inside the square of the shortest side
+/// of both, centred in \a rect.
+QRect arrowRect(const QRect &rect, const QSize &pixmap)
+{
+    const int side = std::min({pixmap.width(), pixmap.height(), rect.width(), rect.height()});
+    QRect arrow(0, 0, side, side);
+    if (pixmap.width() > pixmap.height())
+        arrow.setHeight(pixmap.height() * side / pixmap.width());
+    else
+        arrow.setWidth(pixmap.width() * side / pixmap.height());
+    arrow.moveCenter(rect.center());
+    return arrow;
+}
+
+// The sunken look inside a title-bar button, and the light it catches from outside.
+constexpr QRgb titleButtonHover = 0x14ffffff;
+constexpr QRgb titleButtonHighlight = 0x3cffffff;
+constexpr QRgb titleButtonEdgeTop = 0x28000000;
+constexpr QRgb titleButtonEdgeBottom = 0x3cffffff;
+
+QColor titleButtonBorder(const QStyleOptionTitleBar *option, const QColor &highlight)
+{
+    if (option->titleBarState & QStyle::State_Active)
+        return highlight.darker(180);
+    const QColor button = option->palette.color(QPalette::Button);
+    QColor dark;
+    dark.setHsv(button.hue(), button.saturation(), static_cast<int>(button.value() * 0.7));
+    return dark.darker(110);
+}
+
+void drawTitleButtonBorder(QPainter *painter, const QRect &r, const QColor &color)
+{
+    painter->setPen(color);
+    const QLine lines[] = {{r.left() + 2, r.top(), r.right() - 2, r.top()},
+                           {r.left() + 2, r.bottom(), r.right() - 2, r.bottom()},
+                           {r.left(), r.top() + 2, r.left(), r.bottom() - 2},
+                           {r.right(), r.top() + 2, r.right(), r.bottom() - 2}};
+    painter->drawLines(lines, 4);
+    const QPoint corners[] = {{r.left() + 1, r.top() + 1},
+                              {r.right() - 1, r.top() + 1},
+                              {r.left() + 1, r.bottom() - 1},
+                              {r.right() - 1, r.bottom() - 1}};
+    painter->drawPoints(corners, 4);
+}
+
+void drawTitleButtonHighlight(QPainter *painter, const QRect &r, const QColor &color)
+{
+    painter->setPen(color);
+    painter->drawLine(r.left() + 2, r.top() + 1, r.right() - 2, r.top() + 1);
+    painter->drawLine(r.left() + 1, r.top() + 2, r.left() + 1, r.bottom() - 2);
+}
+
+/// The light on the right and the lower edge, one unit outside the border.
+void drawTitleButtonEdge(QPainter *painter, const QRect &r)
+{
+    QLinearGradient gradient(r.center().x(), r.top(), r.center().x(), r.bottom());
+    gradient.setColorAt(0.0, StyleColors::fixed(titleButtonEdgeTop));
+    gradient.setColorAt(1.0, StyleColors::fixed(titleButtonEdgeBottom));
+    painter->setPen(QPen(gradient, 1));
+    painter->drawLine(r.right() + 1, r.top() + 2, r.right() + 1, r.bottom() - 2);
+    painter->drawPoint(r.right(), r.top() + 1);
+    painter->drawLine(r.left() + 2, r.bottom() + 1, r.right() - 2, r.bottom() + 1);
+    const QPoint corners[] = {
+        {r.left() + 1, r.bottom()}, {r.right() - 1, r.bottom()}, {r.right(), r.bottom() - 1}};
+    painter->drawPoints(corners, 3);
+}
+
+} // namespace
+
+qreal dpiScaled(qreal value)
+{
+    static const qreal factor = qt_defaultDpiX() / 96.0;
+    return value * factor;
+}
+
+QString styleCacheKey(const QString &prefix, const QStyleOption *option, const QSize &size)
+{
+    const auto *spinBox = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
+    const int units = sizeUnits + (option ? optionUnits : 0) + (spinBox ? spinBoxUnits : 0);
+
+    QString key(prefix.size() + units, Qt::Uninitialized);
+    KeyWriter writer(std::copy(prefix.cbegin(), prefix.cend(), key.data()));
+    writer.put32(static_cast<uint>(size.width()));
+    writer.put32(static_cast<uint>(size.height()));
+    if (option)
+        writeOption(writer, option);
+    if (spinBox)
+        writeSpinBox(writer, spinBox);
+    return key;
+}
+
+QPixmap styleCachePixmap(const QSize &size)
+{
+    const qreal ratio = qApp->devicePixelRatio();
+    QPixmap pixmap(qRound(size.width() * ratio), qRound(size.height() * ratio));
+    pixmap.setDevicePixelRatio(ratio);
+    return pixmap;
+}
+
+bool findCached(const QString &key, QPixmap *pixmap)
+{
+    return QPixmapCache::find(key, pixmap);
+}
+
+void insertCached(const QString &key, const QPixmap &pixmap)
+{
+    QPixmapCache::insert(key, pixmap);
+}
+
+bool fitsCache(const QSize &size)
+{
+    const qreal ratio = qApp->devicePixelRatio();
+    const qreal bytes = 4.0 * size.width() * ratio * size.height() * ratio;
+    return bytes <= 1024.0 * QPixmapCache::cacheLimit();
+}
+
+bool hasPlainTransform(const QPainter *painter)
+{
+    const QTransform::TransformationType device = painter->deviceTransform().type();
+    return device == QTransform::TxScale
+           || (device <= QTransform::TxTranslate
+               && painter->worldTransform().type() <= QTransform::TxTranslate);
+}
+
+QString arrowImageFileName()
+{
+    return QStringLiteral(":/qt-project.org/styles/commonstyle/images/fusion_arrow.png");
+}
+
+QString groupBoxImageFileName()
+{
+    return QStringLiteral(":/qt-project.org/styles/commonstyle/images/fusion_groupbox.png");
+}
+
+QPixmap colorizedImage(const QString &fileName, const QColor &color, int rotation)
+{
+    const QString key = colorizedImageKey(fileName, color.rgba(), rotation);
+    QPixmap pixmap;
+    if (findCached(key, &pixmap))
+        return pixmap;
+
+    QImage image = sourceImage(fileName);
+    if (image.isNull())
+        return QPixmap();
+    colorize(&image, color.rgba());
+    pixmap = QPixmap::fromImage(turned(image, rotation));
+    insertCached(key, pixmap);
+    return pixmap;
+}
+
+void drawArrowImage(QStyle::PrimitiveElement element, QPainter *painter, const QStyleOption *option)
+{
+    if (!option || option->rect.width() <= 1 || option->rect.height() <= 1)
+        return;
+    const QPixmap pixmap = colorizedImage(
+        arrowImageFileName(), option->palette.color(QPalette::WindowText), arrowRotation(element));
+    if (pixmap.isNull())
+        return;
+    const PainterSaver saver(painter);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
+    painter->drawPixmap(arrowRect(option->rect, pixmap.size()), pixmap);
+}
+
+void drawToolButtonArrow(const QStyle *style, const QStyleOptionToolButton *option,
+                         const QRect &rect, QPainter *painter, const QWidget *widget)
+{
+    QStyle::PrimitiveElement element;
+    switch (option->arrowType) {
+    case Qt::UpArrow:
+        element = QStyle::PE_IndicatorArrowUp;
+        break;
+    case Qt::DownArrow:
+        element = QStyle::PE_IndicatorArrowDown;
+        break;
+    case Qt::LeftArrow:
+        element = QStyle::PE_IndicatorArrowLeft;
+        break;
+    case Qt::RightArrow:
+        element = QStyle::PE_IndicatorArrowRight;
+        break;
+    default:
+        return;
+    }
+    QStyleOption arrow;
+    arrow.state = option->state;
+    arrow.palette = option->palette;
+    arrow.rect = rect;
+    style->drawPrimitive(element, &arrow, painter, widget);
+}
+
+void drawTitleBarButton(QPainter *painter, const QStyleOptionTitleBar *option, const QRect &rect,
+                        bool hover, bool sunken)
+{
+    const PainterSaver saver(painter);
+    const QColor highlight = option->palette.color(QPalette::Highlight);
+    const QRect inner = rect.adjusted(1, 1, -1, -1);
+    if (sunken)
+        painter->fillRect(inner, highlight.darker(120));
+    else if (hover)
+        painter->fillRect(inner, StyleColors::fixed(titleButtonHover));
+
+    drawTitleButtonBorder(painter, rect, titleButtonBorder(option, highlight));
+    drawTitleButtonHighlight(
+        painter, rect, sunken ? highlight.darker(130) : StyleColors::fixed(titleButtonHighlight));
+    drawTitleButtonEdge(painter, rect);
+}
+
+} // namespace StyleHelpers

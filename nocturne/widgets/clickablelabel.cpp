@@ -1,0 +1,10 @@
+#include "clickablelabel.h"
+
+ClickableLabel::ClickableLabel(QWidget *parent, Qt::WindowFlags)
+    : QLabel(parent)
+{}
+
+void ClickableLabel::mousePressEvent(QMouseEvent *)
+{
+    emit clicked();
+}

@@ -1,0 +1,25 @@
+#include "delaytoolbutton.h"
+
+#include "delaylock_p.h"
+
+DelayToolButton::DelayToolButton(QWidget *parent)
+    : QToolButton(parent)
+    , m_delay(DelayLock::defaultDelay)
+{
+    connect(this, &QToolButton::toggled, this, &DelayToolButton::disableButton);
+}
+
+void DelayToolButton::setDelay(int delay)
+{
+    m_delay = qMax(0, delay);
+}
+
+void DelayToolButton::disableButton()
+{
+    DelayLock::lock(this, m_delay, &DelayToolButton::enableButton);
+}
+
+void DelayToolButton::enableButton()
+{
+    setEnabled(true);
+}

@@ -1,0 +1,499 @@
+#include "gradienttool.h"
+
+#include "gradienttoolslider_p.h"
+
+#include <QtCore/QEvent>
+#include <QtGui/QLinearGradient>
+#include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QColorDialog>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int contentsMargin = 5;
+constexpr int markerHeight = 16;
+constexpr int markerWidth = 9;
+constexpr int markerTip = 4;
+constexpr int markerGap = 2;
+constexpr int grabMargin = 2;
+constexpr int fewestStops = 2;
+constexpr double removalFraction = 1.5;
+constexpr double alphaPerPercent = 2.55;
+constexpr double opaque = 255.0;
+constexpr int tableSize = 256;
+
+constexpr int checkSize = 10;
+constexpr QRgb checkColor = 0xffd2d2d2;
+
+double boundedPosition(double position)
+{
+    return qIsNaN(position) ? 0.0 : qBound(0.0, position, 1.0);
+}
+
+/// \a from and \a to mixed, \a offset of the \a length between them. Single precision where
+/// marked, so that a table is the same on every machine.
+double mixed(double from, double to, float offset, double length)
+{
+    const float difference = static_cast<float>(to - from);
+    const float sum = static_cast<float>(from + double(difference * offset) / length);
+    return qBound(0.0, double(sum), 1.0);
+}
+
+} // namespace
+
+GradientTool::GradientTool(QWidget *parent)
+    : QWidget(parent)
+    , m_colorDialog(new QColorDialog)
+{
+    setMinimumSize(30, 44);
+    addStop(0.0, Qt::white);
+    addStop(1.0, Qt::black);
+    setActiveSlider(0);
+    setContentsMargins(contentsMargin, contentsMargin, contentsMargin, contentsMargin);
+    connect(m_colorDialog, &QColorDialog::currentColorChanged, this, &GradientTool::colorChange);
+    drawBackground();
+}
+
+GradientTool::~GradientTool()
+{
+    delete m_colorDialog;
+}
+
+QVector<QPair<double, QColor>> GradientTool::getRamp() const
+{
+    QVector<QPair<double, QColor>> ramp;
+    ramp.reserve(m_stops.size());
+    for (const Stop &stop : m_stops)
+        ramp.append({stop.first, stop.second->color()});
+    return ramp;
+}
+
+void GradientTool::setRamp(const QVector<QPair<double, QColor>> &ramp)
+{
+    if (ramp.size() < fewestStops)
+        return;
+    // Later, since this may be called while a marker's own event is on its way.
+    for (const Stop &stop : qAsConst(m_stops)) {
+        stop.second->hide();
+        stop.second->deleteLater();
+    }
+    m_stops.clear();
+    m_dragIndex = -1;
+    for (const auto &entry : ramp)
+        addStop(boundedPosition(entry.first), entry.second);
+    update();
+}
+
+QVector<unsigned int> GradientTool::getColorTable() const
+{
+    QList<Stop> stops = m_stops;
+    std::stable_sort(stops.begin(), stops.end(), colorRampSort);
+
+    QVector<unsigned int> table(tableSize);
+    int left = 0;
+    for (int i = 0; i < tableSize; ++i) {
+        const double t = double(i / 255.0f);
+        while (left + 2 < stops.size() && t > stops.at(left + 1).first)
+            ++left;
+        const Stop &from = stops.at(left);
+        const Stop &to = stops.at(left + 1);
+        const QColor &fromColor = from.second->color();
+        const QColor &toColor = to.second->color();
+        if (t <= from.first || t >= to.first) {
+            table[i] = (t <= from.first ? fromColor : toColor).rgb();
+            continue;
+        }
+        const float offset = static_cast<float>(t - from.first);
+        const double length = to.first - from.first;
+        QColor color;
+        color.setRedF(mixed(fromColor.redF(), toColor.redF(), offset, length));
+        color.setGreenF(mixed(fromColor.greenF(), toColor.greenF(), offset, length));
+        color.setBlueF(mixed(fromColor.blueF(), toColor.blueF(), offset, length));
+        table[i] = color.rgb();
+    }
+    return table;
+}
+
+void GradientTool::setActiveSlider(int index)
+{
+    const int active = qBound(0, index, m_stops.size() - 1);
+    for (int i = 0; i < m_stops.size(); ++i)
+        m_stops.at(i).second->setActive(i == active);
+    m_activeIndex = active;
+    emit opacityValueChange(m_stops.at(active).second->color().alpha() / alphaPerPercent);
+}
+
+int GradientTool::getSliderAlpha(int index) const
+{
+    return m_stops.at(qBound(0, index, m_stops.size() - 1)).second->color().alpha();
+}
+
+QColor GradientTool::getCurrentColor() const
+{
+    const GradientToolSlider *marker = activeMarker();
+    return marker ? marker->color() : QColor();
+}
+
+void GradientTool::setCurrentColor(const QColor &color)
+{
+    if (GradientToolSlider *marker = activeMarker()) {
+        marker->setColor(color);
+        updateBar();
+    }
+}
+
+void GradientTool::setColorChoose(QColorDialog *dialog)
+{
+    if (dialog == m_colorDialog)
+        return;
+    if (m_colorDialog) {
+        disconnect(m_colorDialog, &QColorDialog::currentColorChanged, this,
+                   &GradientTool::colorChange);
+        if (m_ownDialog)
+            m_colorDialog->deleteLater();
+    }
+    m_colorDialog = dialog;
+    m_ownDialog = false;
+    if (m_colorDialog)
+        connect(m_colorDialog, &QColorDialog::currentColorChanged, this,
+                &GradientTool::colorChange);
+}
+
+void GradientTool::setInitColor(const QColor &color)
+{
+    m_initColor = color;
+}
+
+void GradientTool::setSlideUpdate(bool update)
+{
+    m_slideUpdate = update;
+}
+
+void GradientTool::setSliderColor(int index, QColor col)
+{
+    if (index < 0 || index >= m_stops.size())
+        return;
+    m_stops.at(index).second->setColor(col);
+    updateBar();
+    emit rampChanged(0.0, true);
+}
+
+void GradientTool::setAlphaValue(double value)
+{
+    GradientToolSlider *marker = activeMarker();
+    if (!marker || !qIsFinite(value))
+        return;
+    QColor color = marker->color();
+    color.setAlpha(int(qBound(0.0, value, opaque)));
+    setCurrentColor(color);
+}
+
+void GradientTool::setOpacity(double value)
+{
+    if (qIsFinite(value))
+        setAlphaValue(qRound(qBound(0.0, value, 100.0) * opaque / 100.0));
+}
+
+void GradientTool::colorChange(QColor c)
+{
+    GradientToolSlider *marker = activeMarker();
+    if (!marker)
+        return;
+    c.setAlpha(marker->color().alpha());
+    marker->setColor(c);
+    updateBar();
+    emit rampChanged(0.0, false);
+}
+
+bool GradientTool::colorRampSort(const QPair<double, GradientToolSlider *> &a,
+                                 const QPair<double, GradientToolSlider *> &b)
+{
+    return a.first < b.first;
+}
+
+void GradientTool::drawBackground()
+{
+    QPixmap tile(2 * checkSize, 2 * checkSize);
+    tile.fill(Qt::white);
+    QPainter tilePainter(&tile);
+    tilePainter.fillRect(0, 0, checkSize, checkSize, QColor(checkColor));
+    tilePainter.fillRect(checkSize, checkSize, checkSize, checkSize, QColor(checkColor));
+    tilePainter.end();
+
+    m_checkerboard = QPixmap(4 * checkSize, 4 * checkSize);
+    QPainter painter(&m_checkerboard);
+    painter.fillRect(m_checkerboard.rect(), QBrush(tile));
+}
+
+QRect GradientTool::bar() const
+{
+    return contentsRect().adjusted(0, 0, 0, -markerHeight);
+}
+
+double GradientTool::positionAt(int x) const
+{
+    const QRect area = bar();
+    return double(x - area.left()) / area.width();
+}
+
+QRect GradientTool::markerGeometry(double position) const
+{
+    const QRect area = bar();
+    return QRect(int((area.left() - markerTip) + area.width() * position),
+                 area.bottom() + markerGap, markerWidth, markerHeight);
+}
+
+/// The colour between the nearest stops on either side of \a position; a stop that lies exactly
+/// there takes no part.
+QColor GradientTool::colorAt(double position) const
+{
+    if (m_stops.isEmpty())
+        return QColor();
+    if (m_stops.size() == 1)
+        return m_stops.first().second->color();
+
+    double lower = -1.0;
+    double upper = 2.0;
+    QColor lowerColor;
+    QColor upperColor;
+    for (const Stop &stop : m_stops) {
+        if (stop.first > lower && position > stop.first) {
+            lower = stop.first;
+            lowerColor = stop.second->color();
+        }
+        if (upper > stop.first && stop.first > position) {
+            upper = stop.first;
+            upperColor = stop.second->color();
+        }
+    }
+    if (lower < 0.0)
+        return upperColor;
+    if (upper > 1.0)
+        return lowerColor;
+
+    const double share = (position - lower) / (upper - lower);
+    const auto mix = [share](double from, double to) { return from + (to - from) * share; };
+    return QColor::fromRgbF(
+        mix(lowerColor.redF(), upperColor.redF()), mix(lowerColor.greenF(), upperColor.greenF()),
+        mix(lowerColor.blueF(), upperColor.blueF()), mix(lowerColor.alphaF(), upperColor.alphaF()));
+}
+
+GradientToolSlider *GradientTool::activeMarker() const
+{
+    if (m_activeIndex < 0 || m_activeIndex >= m_stops.size())
+        return nullptr;
+    return m_stops.at(m_activeIndex).second;
+}
+
+GradientToolSlider *GradientTool::addStop(double position, const QColor &color)
+{
+    auto *marker = new GradientToolSlider(this, color);
+    m_stops.append({position, marker});
+    marker->setGeometry(markerGeometry(position));
+    marker->show();
+    return marker;
+}
+
+/// Repaints the bar, but none of the markers below it.
+void GradientTool::updateBar()
+{
+    update(bar().adjusted(0, 0, 1, 1));
+}
+
+void GradientTool::paintEvent(QPaintEvent *event)
+{
+    const QRect area = bar();
+    QPainter painter(this);
+    painter.drawTiledPixmap(contentsMargin, contentsMargin, area.width(), area.height(),
+                            m_checkerboard);
+    painter.setPen(Qt::black);
+
+    QLinearGradient gradient(area.left(), 0.0, area.left() + area.width() - 1, 0.0);
+    for (const Stop &stop : qAsConst(m_stops))
+        gradient.setColorAt(stop.first, stop.second->color());
+    painter.fillRect(area, gradient);
+    painter.drawRect(area);
+    painter.end();
+
+    QWidget::paintEvent(event);
+}
+
+void GradientTool::resizeEvent(QResizeEvent *)
+{
+    for (const Stop &stop : qAsConst(m_stops))
+        stop.second->setGeometry(markerGeometry(stop.first));
+}
+
+void GradientTool::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_firstChange = true;
+    m_pressed = true;
+    if (bar().contains(event->pos(), true))
+        pressBar(event->pos());
+    else
+        pressMarker(event->pos());
+}
+
+void GradientTool::pressMarker(const QPoint &point)
+{
+    m_dragIndex = -1;
+    for (int i = 0; i < m_stops.size(); ++i) {
+        const QRect grabArea = m_stops.at(i).second->geometry().adjusted(-grabMargin, -grabMargin,
+                                                                         grabMargin, grabMargin);
+        if (!grabArea.contains(point))
+            continue;
+        m_dragIndex = i;
+        setActiveSlider(i);
+        emit sliderChanged(0.0, false);
+        return;
+    }
+}
+
+void GradientTool::pressBar(const QPoint &point)
+{
+    const double position = positionAt(point.x());
+    addStop(position, colorAt(position));
+    m_dragIndex = m_stops.size() - 1;
+    setActiveSlider(m_dragIndex);
+    updateBar();
+    emit rampChanged(0.0, true);
+}
+
+void GradientTool::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_dragIndex == -1 || !(event->buttons() & Qt::LeftButton))
+        return;
+    GradientToolSlider *marker = activeMarker();
+    const QRect area = contentsRect();
+    if (!marker || bar().width() <= 0 || area.height() <= 0)
+        return;
+
+    m_verticalFraction = double(event->y() - area.top()) / area.height();
+    if (m_stops.size() > fewestStops)
+        marker->setPainted(m_verticalFraction <= removalFraction);
+
+    const QPointer<GradientTool> self(this);
+    const double position = positionAt(event->x());
+    if (position >= 0.0 && position <= 1.0) {
+        marker->setGeometry(markerGeometry(position));
+        m_stops[m_activeIndex].first = position;
+        if (m_slideUpdate)
+            emit rampChanged(0.0, true);
+    }
+    if (self)
+        notifyDragStep();
+    if (self)
+        updateBar();
+}
+
+void GradientTool::notifyDragStep()
+{
+    if (!m_pressed)
+        return;
+    const bool first = m_firstChange;
+    m_firstChange = false;
+    emit rampChanged(0.0, first);
+}
+
+void GradientTool::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    const QPointer<GradientTool> self(this);
+    if (m_stops.size() > fewestStops && m_verticalFraction > removalFraction)
+        removeActiveStop();
+    if (!self)
+        return;
+    m_verticalFraction = 0.0;
+    m_firstChange = false;
+    m_pressed = false;
+    update();
+}
+
+/// The release comes through the marker that is removed, so it goes only after the event.
+void GradientTool::removeActiveStop()
+{
+    if (!activeMarker())
+        return;
+    const Stop stop = m_stops.takeAt(m_activeIndex);
+    stop.second->hide();
+    stop.second->deleteLater();
+    m_dragIndex = -1;
+
+    const QPointer<GradientTool> self(this);
+    setActiveSlider(0);
+    if (self && m_pressed)
+        emit rampChanged(0.0, m_firstChange);
+}
+
+void GradientTool::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    for (int i = 0; i < m_stops.size(); ++i) {
+        const QPointer<GradientToolSlider> marker(m_stops.at(i).second);
+        if (!marker->geometry().contains(event->pos(), true))
+            continue;
+        const QPointer<GradientTool> self(this);
+        emit updateSliderColorRequest(i);
+        if (self)
+            setActiveSlider(i);
+        if (self && marker && m_colorDialog)
+            chooseColor(marker);
+        return;
+    }
+}
+
+/// The dialog may stay open for long: the editor, the stop or the dialog may be gone afterwards.
+void GradientTool::chooseColor(GradientToolSlider *target)
+{
+    const QPointer<GradientTool> self(this);
+    const QPointer<GradientToolSlider> marker(target);
+    const QPointer<QColorDialog> dialog(m_colorDialog);
+    const QColor before = marker->color();
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (!self || !marker)
+        return;
+
+    marker->setColor(before);
+    updateBar();
+    emit rampChanged(0.0, false);
+    if (!accepted || !self || !marker || !dialog)
+        return;
+
+    QColor chosen = dialog->selectedColor();
+    chosen.setAlpha(before.alpha());
+    marker->setColor(chosen);
+    updateBar();
+    emit rampChanged(0.0, true);
+}
+
+void GradientTool::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        abandonDrag();
+}
+
+void GradientTool::hideEvent(QHideEvent *event)
+{
+    abandonDrag();
+    QWidget::hideEvent(event);
+}
+
+/// A drag that no release will end keeps its stop.
+void GradientTool::abandonDrag()
+{
+    if (!m_pressed)
+        return;
+    m_pressed = false;
+    m_firstChange = false;
+    m_dragIndex = -1;
+    m_verticalFraction = 0.0;
+    if (GradientToolSlider *marker = activeMarker())
+        marker->setPainted(true);
+}

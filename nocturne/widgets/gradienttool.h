@@ -1,0 +1,162 @@
+#ifndef NOCTURNE_GRADIENTTOOL_H
+#define NOCTURNE_GRADIENTTOOL_H
+
+#include <nocturne/nocturneglobal.h>
+
+#include <QtCore/QList>
+#include <QtCore/QPair>
+#include <QtCore/QPointer>
+#include <QtCore/QVector>
+#include <QtGui/QColor>
+#include <QtGui/QPixmap>
+#include <QtWidgets/QWidget>
+
+class QColorDialog;
+class GradientToolSlider;
+
+/// Edits a colour ramp: a bar that shows the gradient, and a marker below it for each colour stop.
+///
+/// A press in the bar adds a stop, which follows the pointer until the release. Dragging a marker
+/// moves its stop; dragging it well below the widget removes it, as long as two stops remain. A
+/// double-click on a marker opens a colour dialog. One stop is always the active one.
+///
+/// Stops are numbered in the order in which they were added, from 0. A position is 0.0 at the left
+/// end of the bar and 1.0 at the right one.
+///
+/// \code
+/// auto *ramp = new GradientTool(panel);
+/// ramp->setRamp({ { 0.0, Qt::black }, { 0.6, Qt::red }, { 1.0, Qt::white } });
+/// connect(ramp, &GradientTool::rampChanged, look, [=](double, bool isNewEdit) {
+///     look->setLookupTable(ramp->getColorTable(), isNewEdit);
+/// });
+/// \endcode
+class NOCTURNE_EXPORT GradientTool : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Starts out with white at 0.0, which is active, and black at 1.0.
+    explicit GradientTool(QWidget *parent = nullptr);
+    /// Deletes the colour dialog along with the markers.
+    ~GradientTool() override;
+
+    /// Position and colour of every stop, by number.
+    QVector<QPair<double, QColor>> getRamp() const;
+
+    /// Replaces all stops. Positions are clamped to 0.0 to 1.0. Fewer than two stops are ignored.
+    /// Emits nothing, and marks no stop as active; the active number stays.
+    void setRamp(const QVector<QPair<double, QColor>> &ramp);
+
+    /// The ramp as 256 opaque colours 0xffRRGGBB, evenly spaced from position 0.0 to 1.0. Beyond
+    /// the outermost stops their colours continue.
+    QVector<unsigned int> getColorTable() const;
+
+    /// The number of stops; at least 2.
+    int getSliderNum() const { return m_stops.size(); }
+
+    /// The number of the active stop.
+    int getActiveSlider() const { return m_activeIndex; }
+
+    /// Makes a stop the active one and emits opacityValueChange(). Numbers beyond the stops are
+    /// clamped.
+    void setActiveSlider(int index);
+
+    /// The alpha, 0 to 255, of a stop. Numbers beyond the stops are clamped.
+    int getSliderAlpha(int index) const;
+
+    /// The colour of the active stop; invalid when the active number is beyond the stops.
+    QColor getCurrentColor() const;
+    /// Changes the colour of the active stop, alpha included. Emits nothing.
+    void setCurrentColor(const QColor &color);
+
+    /// The dialog that a double-click opens from now on; with null a double-click opens none. The
+    /// editor shows the dialog's colours as they change, and deletes it in its destructor unless
+    /// it was replaced before. A dialog that the editor had made itself is deleted now.
+    void setColorChoose(QColorDialog *dialog);
+
+    /// Kept for the host.
+    void setInitColor(const QColor &color);
+
+    /// Whether every step of a drag counts as a change of its own (true in rampChanged()). Off at
+    /// first.
+    void setSlideUpdate(bool update);
+
+public slots:
+    /// Changes the colour of a stop and emits rampChanged(0.0, true). Numbers beyond the stops are
+    /// ignored.
+    void setSliderColor(int index, QColor col);
+
+    /// Sets the alpha of the active stop, 0 to 255; fractions are cut off. Emits nothing.
+    void setAlphaValue(double value);
+
+    /// Sets the opacity of the active stop in percent, 0 to 100. Emits nothing.
+    void setOpacity(double value);
+
+    /// Changes the colour of the active stop as a preview, keeps its alpha and emits
+    /// rampChanged(0.0, false).
+    void colorChange(QColor c);
+
+signals:
+    /// The ramp has changed; the number is always 0.0. The bool is true for a complete step: a
+    /// stop was added, a colour assigned or accepted, the first step of a drag, or any step of a
+    /// drag while setSlideUpdate() is on. It is false for previews, for what they are undone with,
+    /// and for the further steps of a drag. With setSlideUpdate() on, a step is reported both ways.
+    void rampChanged(double value, bool complete);
+
+    /// A marker was double-clicked; no dialog is open yet.
+    void updateSliderColorRequest(int index);
+
+    /// A stop has become the active one; its opacity in percent.
+    void opacityValueChange(double value);
+
+    /// A press has grabbed a marker. Always (0.0, false).
+    void sliderChanged(double value, bool complete);
+
+protected:
+    /// Whether \a a is left of \a b.
+    static bool colorRampSort(const QPair<double, GradientToolSlider *> &a,
+                              const QPair<double, GradientToolSlider *> &b);
+
+    void changeEvent(QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+protected slots:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+
+private:
+    using Stop = QPair<double, GradientToolSlider *>;
+
+    void drawBackground();
+    QRect bar() const;
+    double positionAt(int x) const;
+    QRect markerGeometry(double position) const;
+    QColor colorAt(double position) const;
+    GradientToolSlider *activeMarker() const;
+    GradientToolSlider *addStop(double position, const QColor &color);
+    void pressMarker(const QPoint &point);
+    void pressBar(const QPoint &point);
+    void notifyDragStep();
+    void removeActiveStop();
+    void abandonDrag();
+    void chooseColor(GradientToolSlider *marker);
+    void updateBar();
+
+    QList<Stop> m_stops;
+    int m_activeIndex = 0;
+    QPointer<QColorDialog> m_colorDialog;
+    bool m_ownDialog = true;
+    QColor m_initColor = Qt::white;
+    bool m_slideUpdate = false;
+    QPixmap m_checkerboard;
+    bool m_firstChange = true;
+    bool m_pressed = false;
+    double m_verticalFraction = 0.0;
+    int m_dragIndex = -1;
+};
+
+#endif

@@ -1,0 +1,16 @@
+#include "radiobutton.h"
+
+#include "checkindicator_p.h"
+
+#include <QtWidgets/QStyleOptionButton>
+
+RadioButton::RadioButton(QWidget *parent)
+    : QRadioButton(parent)
+{}
+
+void RadioButton::paintEvent(QPaintEvent *)
+{
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    paintCheckIndicator(this, option);
+}

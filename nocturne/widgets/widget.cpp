@@ -1,0 +1,15 @@
+#include "widget.h"
+
+#include <nocturne/theme/themepaint_p.h>
+
+#include <QtGui/QPainter>
+
+Widget::Widget(QWidget *parent)
+    : QWidget(parent)
+{}
+
+void Widget::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), ThemePaint::window());
+}

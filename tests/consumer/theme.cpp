@@ -1,0 +1,6 @@
+#include <nocturne/theme/darkux.h>
+
+const DarkUX *currentTheme()
+{
+    return DarkUX::getInstancePtr();
+}

@@ -1,0 +1,897 @@
+#include "testsupport.h"
+
+#include <nocturne/DarkFusionStyle>
+#include <nocturne/DarkUX>
+
+#include <QtCore/QElapsedTimer>
+#include <QtGui/QPixmapCache>
+#include <QtWidgets/QProxyStyle>
+#include <QtWidgets/QStyleOption>
+
+#include <limits>
+#include <memory>
+
+Q_DECLARE_METATYPE(QStyle::State)
+
+namespace {
+
+/// Stands on top of the style, notes which pieces it is asked to paint and paints none of them.
+class Recorder : public QProxyStyle
+{
+public:
+    struct Piece
+    {
+        PrimitiveElement element;
+        QRect rect;
+        State state;
+    };
+
+    explicit Recorder(QStyle *style)
+        : QProxyStyle(style)
+    {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *,
+                       const QWidget *) const override
+    {
+        m_pieces << Piece{element, option->rect, option->state};
+    }
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returnData) const override
+    {
+        if (hint == SH_ScrollBar_Transient)
+            return m_transient;
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+
+    void setTransient(bool transient) { m_transient = transient; }
+    QVector<Piece> takePieces()
+    {
+        QVector<Piece> pieces;
+        pieces.swap(m_pieces);
+        return pieces;
+    }
+
+private:
+    mutable QVector<Piece> m_pieces;
+    int m_transient = 1;
+};
+
+QColor shifted(const QColor &color, int shift)
+{
+    return QColor(color.red() + shift, color.green() + shift, color.blue() + shift);
+}
+
+QColor withAlpha(QColor color, int alpha)
+{
+    color.setAlpha(alpha);
+    return color;
+}
+
+/// What of a painter's state a caller can notice.
+struct PainterState
+{
+    explicit PainterState(const QPainter &painter)
+        : pen(painter.pen())
+        , brush(painter.brush())
+        , hints(painter.renderHints())
+        , transform(painter.transform())
+        , hasClipping(painter.hasClipping())
+        , clip(painter.clipRegion())
+        , font(painter.font())
+        , opacity(painter.opacity())
+    {}
+    bool operator==(const PainterState &other) const
+    {
+        return pen == other.pen && brush == other.brush && hints == other.hints
+               && transform == other.transform && hasClipping == other.hasClipping
+               && clip == other.clip && font == other.font && opacity == other.opacity;
+    }
+
+    QPen pen;
+    QBrush brush;
+    QPainter::RenderHints hints;
+    QTransform transform;
+    bool hasClipping;
+    QRegion clip;
+    QFont font;
+    qreal opacity;
+};
+
+const QColor accentBlue(65, 155, 249);
+const QColor ink(11, 11, 11);
+
+} // namespace
+
+class TestStyleComplexPainting : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { m_theme = std::make_unique<DarkUX>(); }
+    void cleanupTestCase()
+    {
+        delete m_theme->style();
+        m_theme.reset();
+    }
+    void init() { QPixmapCache::clear(); }
+
+    void spinBoxWell()
+    {
+        auto option = themed<QStyleOptionSpinBox>(QRect(0, 0, 100, 30));
+        option.frame = true;
+        const QImage framed = paint(QStyle::CC_SpinBox, option);
+        compare(framed, 50, 15, shifted(windowColor(), -11));
+        compare(framed, 3, 15, shifted(windowColor(), -11));
+        compare(framed, 1, 15, m_background);
+        compare(framed, 50, 1, m_background);
+        compare(framed, 2, 2, m_background); // the corner is round
+
+        option.frame = false;
+        compare(paint(QStyle::CC_SpinBox, option), 50, 15, m_background);
+    }
+
+    void spinBoxSeparatorIsMirrored()
+    {
+        auto option = themed<QStyleOptionSpinBox>(QRect(0, 0, 100, 30));
+        option.frame = true;
+        const QColor outline = windowColor().darker(140);
+        QImage image = paint(QStyle::CC_SpinBox, option);
+        compare(image, 85, 8, outline);
+        compare(image, 85, 27, outline);
+        option.direction = Qt::RightToLeft;
+        image = paint(QStyle::CC_SpinBox, option);
+        compare(image, 14, 8, outline);
+        compare(image, 85, 8, shifted(windowColor(), -11));
+    }
+
+    void spinBoxPressedEdges()
+    {
+        auto option = themed<QStyleOptionSpinBox>(QRect(0, 0, 100, 30));
+        option.frame = true;
+        option.state |= QStyle::State_Sunken;
+        const QColor well = shifted(windowColor(), -11);
+        compare(paint(QStyle::CC_SpinBox, option), 88, 15, well);
+
+        option.activeSubControls = QStyle::SC_SpinBoxUp;
+        QImage image = paint(QStyle::CC_SpinBox, option);
+        compare(image, 88, 15, buttonColor().darker(130)); // top of the lower button
+        compare(image, 86, 10, buttonColor().darker(130));
+        compare(image, 86, 20, well);
+        option.activeSubControls = QStyle::SC_SpinBoxDown;
+        image = paint(QStyle::CC_SpinBox, option);
+        compare(image, 88, 15, buttonColor().darker(130));
+        compare(image, 86, 10, well);
+        compare(image, 86, 20, buttonColor().darker(130));
+        compare(image, 90, 27, buttonColor().darker(110));
+    }
+
+    void spinBoxPlusMinus()
+    {
+        auto option = themed<QStyleOptionSpinBox>(QRect(0, 0, 100, 30));
+        option.buttonSymbols = QAbstractSpinBox::PlusMinus;
+        option.stepEnabled = QAbstractSpinBox::StepUpEnabled;
+        const QColor arrow = withAlpha(color(QPalette::WindowText), 220);
+        const QColor disabled(merged(arrow, color(QPalette::Button), 50));
+        const QColor plus = TestSupport::blended(arrow, m_background);
+        const QColor minus = TestSupport::blended(withAlpha(disabled, 220), m_background);
+
+        // The frameless buttons are (88, 0, 14, 15) and (88, 15, 14, 15).
+        const QImage image = paint(QStyle::CC_SpinBox, option);
+        compare(image, 93, 7, plus);
+        compare(image, 97, 7, plus);
+        compare(image, 98, 7, m_background);
+        compare(image, 95, 5, plus);
+        compare(image, 95, 9, plus);
+        compare(image, 93, 22, minus);
+        compare(image, 97, 22, minus);
+        compare(image, 95, 20, m_background);
+    }
+
+    void spinBoxArrowsPointAway()
+    {
+        auto option = themed<QStyleOptionSpinBox>(QRect(0, 0, 100, 30));
+        option.stepEnabled = QAbstractSpinBox::StepUpEnabled | QAbstractSpinBox::StepDownEnabled;
+        option.frame = true;
+        const QImage image = paint(QStyle::CC_SpinBox, option);
+        const QColor well = shifted(windowColor(), -11);
+        const QRect up = changedIn(image, QRect(87, 6, 9, 7), well);
+        const QRect down = changedIn(image, QRect(87, 17, 9, 7), well);
+        QVERIFY(up.isValid());
+        QVERIFY(down.isValid());
+        QVERIFY(changed(image, up.top(), up, well) < changed(image, up.bottom(), up, well));
+        QVERIFY(changed(image, down.top(), down, well) > changed(image, down.bottom(), down, well));
+    }
+
+    void spinBoxWithoutButtonsIsBare()
+    {
+        auto option = themed<QStyleOptionSpinBox>(QRect(0, 0, 100, 30));
+        option.buttonSymbols = QAbstractSpinBox::NoButtons;
+        for (Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            option.direction = direction;
+            QVERIFY(
+                changedIn(paint(QStyle::CC_SpinBox, option), option.rect, m_background).isNull());
+        }
+    }
+
+    void comboBoxPieces()
+    {
+        auto option = themed<QStyleOptionComboBox>(QRect(10, 20, 120, 26));
+        option.state |= QStyle::State_MouseOver | QStyle::State_HasFocus | QStyle::State_Selected;
+        option.editable = false;
+        const QRect local(0, 0, 120, 26);
+        const QStyle::State enabled = QStyle::State_Enabled | QStyle::State_HasFocus;
+
+        QVector<Recorder::Piece> pieces = recordedPieces(QStyle::CC_ComboBox, option);
+        QCOMPARE(pieces.size(), 1);
+        QCOMPARE(pieces.at(0).element, QStyle::PE_PanelButtonCommand);
+        QCOMPARE(pieces.at(0).rect, local);
+        QCOMPARE(pieces.at(0).state, enabled | QStyle::State_MouseOver);
+
+        option.state |= QStyle::State_On;
+        pieces = recordedPieces(QStyle::CC_ComboBox, option);
+        QCOMPARE(pieces.size(), 1);
+        QCOMPARE(pieces.at(0).state, enabled | QStyle::State_Sunken);
+    }
+
+    void editableComboBoxPieces()
+    {
+        auto option = themed<QStyleOptionComboBox>(QRect(10, 20, 120, 26));
+        option.editable = true;
+        const QRect local(0, 0, 120, 26);
+        for (Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            option.direction = direction;
+            const QVector<Recorder::Piece> pieces = recordedPieces(QStyle::CC_ComboBox, option);
+            const QRect arrow =
+                m_recorder
+                    .subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, nullptr)
+                    .translated(-10, -20);
+            QCOMPARE(pieces.size(), 2);
+            QCOMPARE(pieces.at(0).element, QStyle::PE_FrameLineEdit);
+            QCOMPARE(pieces.at(0).rect, local);
+            QCOMPARE(pieces.at(0).state, QStyle::State_Enabled | QStyle::State_KeyboardFocusChange);
+            QCOMPARE(pieces.at(1).element, QStyle::PE_PanelButtonCommand);
+            const int left = direction == Qt::LeftToRight ? arrow.left() - 6 : arrow.right() + 6;
+            QCOMPARE(pieces.at(1).rect, QRect(QPoint(left, 0), local.bottomRight()));
+        }
+    }
+
+    void editableComboBoxSeparator_data()
+    {
+        QTest::addColumn<QStyle::State>("state");
+        QTest::addColumn<QColor>("line");
+        QTest::addColumn<int>("inset");
+
+        const QColor outline = windowColor().darker(140).lighter(110);
+        const QStyle::State focus = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+        QTest::newRow("resting") << QStyle::State(QStyle::State_Enabled) << outline << 1;
+        QTest::newRow("clicked focus")
+            << QStyle::State(QStyle::State_Enabled | QStyle::State_HasFocus) << outline << 1;
+        QTest::newRow("focus") << QStyle::State(QStyle::State_Enabled | focus)
+                               << color(QPalette::Highlight) << 1;
+        QTest::newRow("open") << QStyle::State(QStyle::State_Enabled | QStyle::State_On) << outline
+                              << 2;
+    }
+
+    void editableComboBoxSeparator()
+    {
+        QFETCH(QStyle::State, state);
+        QFETCH(QColor, line);
+        QFETCH(int, inset);
+        auto option = themed<QStyleOptionComboBox>(QRect(0, 0, 120, 26));
+        option.editable = true;
+        option.state = state;
+        option.subControls = QStyle::SC_ComboBoxFrame;
+        for (Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            option.direction = direction;
+            const QRect arrow = m_recorder.subControlRect(QStyle::CC_ComboBox, &option,
+                                                          QStyle::SC_ComboBoxArrow, nullptr);
+            int x = arrow.left();
+            if (direction == Qt::RightToLeft)
+                x = state & QStyle::State_On ? arrow.right() : arrow.right() - 1;
+            const QImage image = paint(QStyle::CC_ComboBox, option, &m_recorder);
+            compare(image, x, arrow.top() + inset, line);
+            compare(image, x, arrow.bottom() - inset, line);
+            QCOMPARE(changedIn(image, option.rect, m_background),
+                     QRect(x, arrow.top() + inset, 1, arrow.height() - 2 * inset));
+        }
+    }
+
+    void comboBoxArrow()
+    {
+        auto option = themed<QStyleOptionComboBox>(QRect(0, 0, 120, 26));
+        option.editable = false;
+        const QRect arrow = m_recorder.subControlRect(QStyle::CC_ComboBox, &option,
+                                                      QStyle::SC_ComboBoxArrow, nullptr);
+        QImage image = paint(QStyle::CC_ComboBox, option, &m_recorder);
+        const int left = arrow.right() - 12;
+        const int top = arrow.height() / 2 - 2;
+        compare(image, left + 3, top + 1, color(QPalette::ButtonText));
+        compare(image, left + 4, top + 3, color(QPalette::ButtonText));
+        QCOMPARE(changedIn(image, option.rect, m_background), QRect(left, top, 8, 6));
+
+        // The drawing without an arrow is not taken for the one with it.
+        option.subControls = QStyle::SC_ComboBoxFrame;
+        image = paint(QStyle::CC_ComboBox, option, &m_recorder);
+        QVERIFY(changedIn(image, option.rect, m_background).isNull());
+    }
+
+    void transientScrollBar_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::newRow("horizontal") << Qt::Horizontal;
+        QTest::newRow("vertical") << Qt::Vertical;
+    }
+
+    void transientScrollBar()
+    {
+        QFETCH(Qt::Orientation, orientation);
+        const bool horizontal = orientation == Qt::Horizontal;
+        auto option =
+            themed<QStyleOptionSlider>(horizontal ? QRect(0, 0, 200, 14) : QRect(0, 0, 14, 200));
+        option.orientation = orientation;
+        option.maximum = 10;
+        option.pageStep = 10;
+        const auto comparePart = [&](const QImage &image, int along, int across,
+                                     const QColor &expected) {
+            compare(image, horizontal ? along : across, horizontal ? across : along, expected);
+        };
+
+        QImage image = paint(QStyle::CC_ScrollBar, option);
+        comparePart(image, 150, 4, m_background);
+        comparePart(image, 150, 5, shifted(windowColor(), -12));
+        comparePart(image, 150, 13, shifted(windowColor(), -12));
+        // The handle is a unit wider to the left, whichever way the bar runs.
+        const int handleEdge = horizontal ? 7 : 6;
+        comparePart(image, 50, handleEdge - 1, shifted(windowColor(), -12));
+        comparePart(image, 50, handleEdge, shifted(windowColor(), 20));
+        comparePart(image, 50, 12, shifted(windowColor(), 20));
+        comparePart(image, 50, 13, shifted(windowColor(), -12));
+        comparePart(image, 101, 9, shifted(windowColor(), -12));
+
+        option.state |= QStyle::State_MouseOver;
+        image = paint(QStyle::CC_ScrollBar, option);
+        comparePart(image, 50, 9, shifted(windowColor(), 40));
+        option.subControls = QStyle::SC_ScrollBarGroove;
+        comparePart(paint(QStyle::CC_ScrollBar, option), 50, 9, shifted(windowColor(), -12));
+    }
+
+    void transientScrollBarRemembersWhatItShowed()
+    {
+        QObject object;
+        auto option = themed<QStyleOptionSlider>(QRect(0, 0, 200, 14));
+        option.maximum = 100;
+        option.sliderPosition = 40;
+        option.styleObject = &object;
+        option.activeSubControls = QStyle::SC_ScrollBarSlider;
+        paint(QStyle::CC_ScrollBar, option);
+        QCOMPARE(object.property("_q_stylepos").toInt(), 40);
+        QCOMPARE(object.property("_q_stylemin").toInt(), 0);
+        QCOMPARE(object.property("_q_stylemax").toInt(), 100);
+        QCOMPARE(object.property("_q_stylerect").toRect(), option.rect);
+        QCOMPARE(object.property("_q_stylestate").toInt(), int(option.state));
+        QCOMPARE(object.property("_q_stylecontrols").toUInt(), uint(QStyle::SC_ScrollBarSlider));
+
+        option.activeSubControls = QStyle::SC_None;
+        paint(QStyle::CC_ScrollBar, option);
+        QCOMPARE(object.property("_q_stylecontrols").toUInt(), 0u);
+    }
+
+    void solidScrollBarLeavesNoTrace()
+    {
+        QObject object;
+        auto option = themed<QStyleOptionSlider>(QRect(0, 0, 200, 14));
+        option.styleObject = &object;
+        m_recorder.setTransient(false);
+        paint(QStyle::CC_ScrollBar, option, &m_recorder);
+        m_recorder.setTransient(true);
+        QVERIFY(object.dynamicPropertyNames().isEmpty());
+    }
+
+    void solidScrollBar()
+    {
+        auto option = themed<QStyleOptionSlider>(QRect(0, 0, 200, 14));
+        option.maximum = 10;
+        option.pageStep = 10;
+        option.state |= QStyle::State_Sunken;
+        option.activeSubControls = QStyle::SC_ScrollBarSlider;
+        m_recorder.setTransient(false);
+        const QColor start = buttonColor().lighter(118);
+        const QColor middle = merged(start, buttonColor(), 40);
+
+        const QRect slider = part(option, QStyle::SC_ScrollBarSlider);
+        QImage image = paint(QStyle::CC_ScrollBar, option, &m_recorder);
+        compare(image, slider.center().x(), 7, middle);
+        compare(image, slider.right() + 5, 7, shifted(windowColor(), -12));
+
+        const QRect addLine = part(option, QStyle::SC_ScrollBarAddLine);
+        option.activeSubControls = QStyle::SC_ScrollBarAddLine;
+        image = paint(QStyle::CC_ScrollBar, option, &m_recorder);
+        compare(image, addLine.left() + 2, 11, buttonColor());
+        option.state &= ~QStyle::State_Sunken;
+        image = paint(QStyle::CC_ScrollBar, option, &m_recorder);
+        compare(image, addLine.left() + 2, 11, middle);
+        m_recorder.setTransient(true);
+    }
+
+    void sliderFill()
+    {
+        auto option = themedSlider(Qt::Horizontal, QRect(0, 0, 200, 40));
+        option.subControls = QStyle::SC_SliderGroove;
+        const QColor groove = TestSupport::blended(withAlpha(ink, 128), m_background);
+
+        // At the minimum there is nothing to fill.
+        QImage image = paint(QStyle::CC_Slider, option);
+        for (int x = 0; x < 200; ++x)
+            QVERIFY(at(image, x, 19).blue() <= m_background.blue());
+        compare(image, 100, 19, groove);
+        compare(image, 100, 16, m_background);
+
+        option.sliderPosition = 50;
+        image = paint(QStyle::CC_Slider, option);
+        const QColor resting = TestSupport::blended(withAlpha(accentBlue, 200), groove);
+        compareNear(image, 50, 19, resting);
+        compare(image, 150, 19, groove);
+        option.state |= QStyle::State_MouseOver;
+        compare(paint(QStyle::CC_Slider, option), 50, 19, accentBlue);
+
+        option.upsideDown = true;
+        image = paint(QStyle::CC_Slider, option);
+        compare(image, 50, 19, groove);
+        compare(image, 150, 19, accentBlue);
+    }
+
+    void verticalSliderFillsFromTheMinimum()
+    {
+        auto option = themedSlider(Qt::Vertical, QRect(0, 0, 40, 200));
+        option.state |= QStyle::State_MouseOver;
+        option.sliderPosition = 50;
+        const QColor groove = TestSupport::blended(withAlpha(ink, 128), m_background);
+        QImage image = paint(QStyle::CC_Slider, option);
+        compare(image, 18, 40, accentBlue);
+        compare(image, 18, 160, groove);
+        option.upsideDown = true;
+        image = paint(QStyle::CC_Slider, option);
+        compare(image, 18, 40, groove);
+        compare(image, 18, 160, accentBlue);
+    }
+
+    void sliderFillKeepsTheCallersClip()
+    {
+        auto option = themedSlider(Qt::Horizontal, QRect(0, 0, 200, 40));
+        option.sliderPosition = 100;
+        const QImage image = paintWith(option.rect.size(), [&](QPainter &painter) {
+            painter.setClipRect(0, 0, 60, 40);
+            m_style.drawComplexControl(QStyle::CC_Slider, &option, &painter);
+        });
+        QVERIFY(at(image, 50, 19) != m_background);
+        QVERIFY(changedIn(image, QRect(60, 0, 140, 40), m_background).isNull());
+    }
+
+    void sliderHandle()
+    {
+        auto option = themedSlider(Qt::Horizontal, QRect(0, 0, 200, 40));
+        option.subControls = QStyle::SC_SliderHandle;
+        const QImage image = paint(QStyle::CC_Slider, option);
+        // The handle is (0, 12, 15, 15); its disc of radius 6 stands around the corner (7, 20).
+        QCOMPARE(changedIn(image, option.rect, m_background), QRect(1, 14, 12, 12));
+        compare(image, 3, 20, Qt::gray);
+        compare(image, 6, 19, ink);
+        compare(image, 7, 20, ink);
+        compare(image, 10, 20, Qt::gray);
+    }
+
+    void sliderTicks_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<bool>("upsideDown");
+        QTest::newRow("horizontal") << Qt::Horizontal << false;
+        QTest::newRow("mirrored") << Qt::Horizontal << true;
+        QTest::newRow("vertical") << Qt::Vertical << false;
+    }
+
+    void sliderTicks()
+    {
+        QFETCH(Qt::Orientation, orientation);
+        QFETCH(bool, upsideDown);
+        const bool horizontal = orientation == Qt::Horizontal;
+        auto option =
+            themedSlider(orientation, horizontal ? QRect(0, 0, 200, 40) : QRect(0, 0, 40, 200));
+        option.subControls = QStyle::SC_SliderTickmarks;
+        option.tickPosition = QSlider::TicksBothSides;
+        option.tickInterval = 40;
+        option.upsideDown = upsideDown;
+        QVector<int> expected = {7, 81, 155}; // 0, 40 and 80 of 100 on 185 pixels
+        if (upsideDown)
+            expected = {44, 118, 192};
+
+        const QColor outline = windowColor().darker(140);
+        const QImage image = paint(QStyle::CC_Slider, option);
+        QCOMPARE(tickPositions(image, orientation), expected);
+        for (int across : {2, 3, 4, 37, 36, 35})
+            compare(image, horizontal ? expected.at(1) : across,
+                    horizontal ? across : expected.at(1), outline);
+        const int minimum = upsideDown ? expected.last() : expected.first();
+        compare(image, horizontal ? minimum : 1, horizontal ? 1 : minimum, outline);
+        compare(image, horizontal ? expected.at(1) : 1, horizontal ? 1 : expected.at(1),
+                m_background);
+
+        option.state |= QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+        option.tickPosition = QSlider::TicksAbove;
+        const QImage focused = paint(QStyle::CC_Slider, option);
+        QVERIFY(at(focused, horizontal ? expected.at(1) : 3, horizontal ? 3 : expected.at(1))
+                != outline);
+        compare(focused, horizontal ? expected.at(1) : 36, horizontal ? 36 : expected.at(1),
+                m_background);
+    }
+
+    void sliderTickInterval_data()
+    {
+        QTest::addColumn<int>("interval");
+        QTest::addColumn<int>("maximum");
+        QTest::addColumn<int>("singleStep");
+        QTest::addColumn<int>("count");
+
+        QTest::newRow("given") << 25 << 100 << 1 << 5;
+        QTest::newRow("single step wide enough") << 0 << 20 << 1 << 21;
+        QTest::newRow("single step too narrow") << 0 << 100 << 1 << 11; // the page step is ten
+        QTest::newRow("last one clamped") << 3 << 11 << 1 << 5;         // 0 3 6 9 11
+        QTest::newRow("not reached") << 40 << 100 << 1 << 3;
+    }
+
+    void sliderTickInterval()
+    {
+        QFETCH(int, interval);
+        QFETCH(int, maximum);
+        QFETCH(int, singleStep);
+        QFETCH(int, count);
+        auto option = themedSlider(Qt::Horizontal, QRect(0, 0, 200, 40));
+        option.subControls = QStyle::SC_SliderTickmarks;
+        option.tickPosition = QSlider::TicksBelow;
+        option.maximum = maximum;
+        option.tickInterval = interval;
+        option.singleStep = singleStep;
+        option.pageStep = 10;
+        QCOMPARE(tickPositions(paint(QStyle::CC_Slider, option), Qt::Horizontal).size(), count);
+    }
+
+    void ticksOfAHugeRangeTakeNoTime()
+    {
+        auto option = themedSlider(Qt::Horizontal, QRect(0, 0, 200, 40));
+        option.subControls = QStyle::SC_SliderTickmarks;
+        option.tickPosition = QSlider::TicksAbove;
+        option.minimum = std::numeric_limits<int>::min() / 2;
+        option.maximum = std::numeric_limits<int>::max() / 2;
+        option.tickInterval = 1;
+        QElapsedTimer timer;
+        timer.start();
+        const QImage image = paint(QStyle::CC_Slider, option);
+        QVERIFY(timer.elapsed() < 2000);
+        // Every pixel from one end of the travel to the other.
+        QCOMPARE(tickPositions(image, Qt::Horizontal).size(), 186);
+    }
+
+    void groupBoxPieces()
+    {
+        auto option = themed<QStyleOptionGroupBox>(QRect(0, 0, 200, 100));
+        option.text = QStringLiteral("Key");
+        option.state |= QStyle::State_On | QStyle::State_HasFocus;
+        option.subControls =
+            QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel | QStyle::SC_GroupBoxCheckBox;
+        const QRect label =
+            m_style.subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel);
+        const QVector<Recorder::Piece> pieces = recordedPieces(QStyle::CC_GroupBox, option);
+        QCOMPARE(pieces.size(), 3);
+        QCOMPARE(pieces.at(0).element, QStyle::PE_FrameGroupBox);
+        QCOMPARE(pieces.at(0).rect, option.rect);
+        QCOMPARE(pieces.at(1).element, QStyle::PE_FrameFocusRect);
+        QCOMPARE(pieces.at(1).rect, label.adjusted(-2, -1, 2, 1));
+        QCOMPARE(pieces.at(2).element, QStyle::PE_IndicatorCheckBox);
+        QCOMPARE(pieces.at(2).rect.size(), QSize(14, 14));
+        QCOMPARE(pieces.at(2).state, option.state);
+
+        const QImage image = paint(QStyle::CC_GroupBox, option, &m_recorder);
+        QVERIFY(changedIn(image, label, m_background).isValid());
+        option.text.clear();
+        QVERIFY(
+            changedIn(paint(QStyle::CC_GroupBox, option, &m_recorder), option.rect, m_background)
+                .isNull());
+    }
+
+    void titleBarColours_data()
+    {
+        QTest::addColumn<bool>("active");
+        QTest::newRow("active") << true;
+        QTest::newRow("inactive") << false;
+    }
+
+    void titleBarColours()
+    {
+        QFETCH(bool, active);
+        // The two differ in more than the state, which the cache goes by.
+        paint(QStyle::CC_TitleBar, themedTitleBar(active ? 0 : int(QStyle::State_Active)));
+        const auto option = themedTitleBar(active ? int(QStyle::State_Active) : 0);
+        const QColor base = active ? color(QPalette::Highlight) : windowColor();
+        const QColor border = active ? base.darker(180) : windowColor().darker(140).darker(110);
+        const QColor glyph = active ? Qt::white : Qt::black;
+        const QImage image = paint(QStyle::CC_TitleBar, option);
+
+        compare(image, 150, 0, border);
+        compare(image, 0, 12, border);
+        compare(image, 299, 12, border);
+        compare(image, 150, 23, border);
+        compare(image, 3, 1, border);
+        compare(image, 296, 1, border);
+        compare(image, 4, 0, m_background);
+        compare(image, 295, 0, m_background);
+        compare(image, 0, 3, m_background);
+        compare(image, 150, 1, base.lighter(120));
+
+        // The close button is (276, 3, 18, 18), its cross (281, 8, 8, 8).
+        compare(image, 282, 9, glyph);
+        compare(image, 287, 14, glyph);
+        compare(image, 287, 9, glyph);
+        QVERIFY(at(image, 284, 9) != glyph);
+    }
+
+    void titleBarShowsOnlyItsButtons()
+    {
+        auto option = themedTitleBar(int(QStyle::State_Active));
+        option.text.clear();
+        option.titleBarFlags =
+            Qt::WindowTitleHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
+        const QImage both = paint(QStyle::CC_TitleBar, option);
+        // (281, 8, 8, 8) is the outline of a window with a thick upper edge.
+        compare(both, 281, 8, Qt::white);
+        compare(both, 284, 9, Qt::white);
+        compare(both, 281, 15, Qt::white);
+        QVERIFY(at(both, 284, 12) != QColor(Qt::white));
+        // Two rows of the minimize symbol, around (264, 11).
+        compare(both, 264, 14, Qt::white);
+        compare(both, 264, 15, Qt::white);
+        QVERIFY(at(both, 264, 13) != QColor(Qt::white));
+
+        option.subControls &= ~QStyle::SC_TitleBarMaxButton;
+        QVERIFY(at(paint(QStyle::CC_TitleBar, option), 284, 9) != QColor(Qt::white));
+    }
+
+    void titleBarRestoreSymbolIsTwoWindows()
+    {
+        auto option = themedTitleBar(int(QStyle::State_Active) | int(Qt::WindowMaximized));
+        option.rect.setHeight(34);
+        option.titleBarFlags = Qt::WindowTitleHint | Qt::WindowMaximizeButtonHint;
+        option.text.clear();
+        const QImage image = paint(QStyle::CC_TitleBar, option);
+        // Within (271, 8, 18, 18): front (271, 11, 15, 15), back (274, 8, 15, 15).
+        compare(image, 271, 25, Qt::white);
+        compare(image, 285, 12, Qt::white);
+        compare(image, 274, 8, Qt::white);
+        compare(image, 288, 8, Qt::white);
+        compare(image, 288, 22, Qt::white);
+        // The front window hides the left and the lower edge of the back one.
+        QVERIFY(at(image, 274, 17) != QColor(Qt::white));
+        QVERIFY(at(image, 278, 22) != QColor(Qt::white));
+    }
+
+    void wrongOptionsPaintNothing()
+    {
+        QStyleOptionComplex plain;
+        plain.rect = QRect(0, 0, 100, 30);
+        plain.subControls = QStyle::SC_All;
+        plain.palette = m_theme->palette();
+        for (QStyle::ComplexControl control : everyControl()) {
+            QVERIFY(changedIn(paint(control, plain), plain.rect, m_background).isNull());
+            paintWith(QSize(10, 10), [&](QPainter &painter) {
+                m_style.drawComplexControl(control, nullptr, &painter);
+            });
+        }
+        QVERIFY(m_style.hitTestComplexControl(QStyle::CC_MdiControls, nullptr, QPoint())
+                == QStyle::SC_None);
+    }
+
+    void anySizeAndPalette_data()
+    {
+        QTest::addColumn<QRect>("rect");
+        QTest::newRow("null") << QRect();
+        QTest::newRow("negative") << QRect(0, 0, -20, -20);
+        QTest::newRow("one pixel") << QRect(0, 0, 1, 1);
+        QTest::newRow("flat") << QRect(5, 5, 90, 2);
+        QTest::newRow("thin") << QRect(5, 5, 2, 90);
+        QTest::newRow("moved") << QRect(20, 20, 60, 30);
+        QTest::newRow("huge") << QRect(-20000, -20000, 60000, 60000);
+    }
+
+    void anySizeAndPalette()
+    {
+        QFETCH(QRect, rect);
+        const QPalette palettes[] = {m_theme->palette(), QPalette(Qt::black), QPalette(Qt::white),
+                                     QPalette(QColor(0, 0, 0, 0))};
+        for (const QPalette &palette : palettes) {
+            for (QStyle::ComplexControl control : everyControl()) {
+                for (Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+                    const QImage image = paintWith(QSize(100, 100), [&](QPainter &painter) {
+                        painter.setPen(QPen(Qt::green, 3));
+                        painter.setBrush(Qt::yellow);
+                        painter.translate(0.25, 0.0);
+                        const PainterState before(painter);
+                        paintAnything(control, rect, palette, direction, painter);
+                        QVERIFY(before == PainterState(painter));
+                    });
+                    if (rect.isEmpty())
+                        QVERIFY(changedIn(image, QRect(0, 0, 100, 100), m_background).isNull());
+                }
+            }
+        }
+    }
+
+private:
+    template <typename Option>
+    Option themed(const QRect &rect) const
+    {
+        Option option;
+        option.rect = rect;
+        option.palette = m_theme->palette();
+        option.state = QStyle::State_Enabled | QStyle::State_Active;
+        option.subControls = QStyle::SC_All;
+        return option;
+    }
+    QStyleOptionSlider themedSlider(Qt::Orientation orientation, const QRect &rect) const
+    {
+        auto option = themed<QStyleOptionSlider>(rect);
+        option.orientation = orientation;
+        option.maximum = 100;
+        option.tickPosition = QSlider::NoTicks;
+        if (orientation == Qt::Horizontal)
+            option.state |= QStyle::State_Horizontal;
+        return option;
+    }
+    QStyleOptionTitleBar themedTitleBar(int state) const
+    {
+        auto option = themed<QStyleOptionTitleBar>(QRect(0, 0, 300, 24));
+        option.titleBarFlags = Qt::WindowTitleHint | Qt::WindowSystemMenuHint
+                               | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
+        option.titleBarState = state;
+        return option;
+    }
+
+    QColor color(QPalette::ColorRole role) const { return m_theme->palette().color(role); }
+    QColor windowColor() const { return color(QPalette::Window); }
+    static QColor buttonColor() { return QColor(0x48, 0x48, 0x48); } // of the theme's #3c3c3c
+    static QColor merged(const QColor &a, const QColor &b, int factor)
+    {
+        const auto channel = [factor](int x, int y) {
+            return x * factor / 100 + y * (100 - factor) / 100;
+        };
+        return QColor(channel(a.red(), b.red()), channel(a.green(), b.green()),
+                      channel(a.blue(), b.blue()));
+    }
+
+    template <typename Paint>
+    QImage paintWith(const QSize &size, Paint paint) const
+    {
+        return TestSupport::paintOn(size, m_background, paint, qApp->devicePixelRatio());
+    }
+    template <typename Option>
+    QImage paint(QStyle::ComplexControl control, const Option &option,
+                 const QStyle *style = nullptr) const
+    {
+        const QSize size(option.rect.right() + 1, option.rect.bottom() + 1);
+        return paintWith(size, [&](QPainter &painter) {
+            const PainterState before(painter);
+            (style ? style : &m_style)->drawComplexControl(control, &option, &painter);
+            QVERIFY(before == PainterState(painter));
+        });
+    }
+    template <typename Option>
+    QVector<Recorder::Piece> recordedPieces(QStyle::ComplexControl control, const Option &option)
+    {
+        m_recorder.takePieces();
+        paint(control, option, &m_recorder);
+        return m_recorder.takePieces();
+    }
+    QRect part(const QStyleOptionSlider &option, QStyle::SubControl subControl) const
+    {
+        return m_recorder.subControlRect(QStyle::CC_ScrollBar, &option, subControl, nullptr);
+    }
+
+    /// The colour of a unit, or rather of its first pixel.
+    QColor at(const QImage &image, int x, int y) const
+    {
+        const int ratio = int(image.devicePixelRatio());
+        return image.pixelColor(x * ratio, y * ratio);
+    }
+    void compare(const QImage &image, int x, int y, const QColor &expected) const
+    {
+        const int ratio = int(image.devicePixelRatio());
+        COMPARE_PIXEL(image, x * ratio, y * ratio, expected);
+    }
+    /// For two translucent layers, which meet in the cache before they meet the background.
+    void compareNear(const QImage &image, int x, int y, const QColor &expected) const
+    {
+        const QColor actual = at(image, x, y);
+        QVERIFY(qAbs(actual.red() - expected.red()) <= 1);
+        QVERIFY(qAbs(actual.green() - expected.green()) <= 1);
+        QVERIFY(qAbs(actual.blue() - expected.blue()) <= 1);
+    }
+    int changed(const QImage &image, int y, const QRect &area, const QColor &background) const
+    {
+        int count = 0;
+        for (int x = area.left(); x <= area.right(); ++x)
+            count += at(image, x, y) != background;
+        return count;
+    }
+    /// The smallest rectangle in \a area with everything that differs from \a background.
+    QRect changedIn(const QImage &image, const QRect &area, const QColor &background) const
+    {
+        QRect bounds;
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            for (int x = area.left(); x <= area.right(); ++x) {
+                if (at(image, x, y) != background)
+                    bounds |= QRect(x, y, 1, 1);
+            }
+        }
+        return bounds;
+    }
+    QVector<int> tickPositions(const QImage &image, Qt::Orientation orientation) const
+    {
+        QVector<int> positions;
+        for (int along = 0; along < 200; ++along) {
+            const bool horizontal = orientation == Qt::Horizontal;
+            const QRect line = horizontal ? QRect(along, 0, 1, 40) : QRect(0, along, 40, 1);
+            if (changedIn(image, line, m_background).isValid())
+                positions << along;
+        }
+        return positions;
+    }
+
+    static QVector<QStyle::ComplexControl> everyControl()
+    {
+        return {QStyle::CC_SpinBox,  QStyle::CC_ComboBox, QStyle::CC_ScrollBar, QStyle::CC_Slider,
+                QStyle::CC_GroupBox, QStyle::CC_TitleBar, QStyle::CC_Dial};
+    }
+    template <typename Option>
+    void paintThing(QStyle::ComplexControl control, Option option, const QRect &rect,
+                    const QPalette &palette, Qt::LayoutDirection direction, QPainter &painter) const
+    {
+        option.rect = rect;
+        option.palette = palette;
+        option.direction = direction;
+        m_style.drawComplexControl(control, &option, &painter);
+    }
+    void paintAnything(QStyle::ComplexControl control, const QRect &rect, const QPalette &palette,
+                       Qt::LayoutDirection direction, QPainter &painter) const
+    {
+        switch (control) {
+        case QStyle::CC_SpinBox:
+            return paintThing(control, themed<QStyleOptionSpinBox>(rect), rect, palette, direction,
+                              painter);
+        case QStyle::CC_ComboBox:
+            return paintThing(control, themed<QStyleOptionComboBox>(rect), rect, palette, direction,
+                              painter);
+        case QStyle::CC_GroupBox: {
+            auto option = themed<QStyleOptionGroupBox>(rect);
+            option.text = QStringLiteral("Title");
+            return paintThing(control, option, rect, palette, direction, painter);
+        }
+        case QStyle::CC_TitleBar: {
+            auto option = themedTitleBar(0);
+            option.text = QStringLiteral("Title");
+            return paintThing(control, option, rect, palette, direction, painter);
+        }
+        default: {
+            auto option = themedSlider(Qt::Horizontal, rect);
+            option.sliderPosition = 50;
+            option.tickPosition = QSlider::TicksBothSides;
+            return paintThing(control, option, rect, palette, direction, painter);
+        }
+        }
+    }
+
+    const QColor m_background = QColor(90, 20, 70);
+    std::unique_ptr<DarkUX> m_theme;
+    DarkFusionStyle m_style;
+    Recorder m_recorder{new DarkFusionStyle};
+};
+
+NOCTURNE_TEST_MAIN(TestStyleComplexPainting)
+
+#include "tst_style_complex_painting.moc"

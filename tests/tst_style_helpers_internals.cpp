@@ -1,0 +1,585 @@
+#include "testsupport.h"
+
+#include <nocturne/style/darkfusionstyle.h>
+#include <nocturne/style/stylecolors_p.h>
+#include <nocturne/style/stylehelpers_p.h>
+#include <nocturne/theme/darkux.h>
+
+#include <QtCore/QSet>
+#include <QtGui/QPixmapCache>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyleOption>
+
+// The hidden tools that all paint functions of the style share.
+
+namespace {
+
+QImage arrow(const QColor &color, int rotation)
+{
+    return StyleHelpers::colorizedImage(StyleHelpers::arrowImageFileName(), color, rotation)
+        .toImage()
+        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+/// The arrow element whose tip is where the outermost line of \a arrow is darkest.
+QStyle::PrimitiveElement pointsTo(const QImage &arrow)
+{
+    const auto light = [&](const QRect &line) {
+        int sum = 0;
+        for (int y = line.top(); y <= line.bottom(); ++y) {
+            for (int x = line.left(); x <= line.right(); ++x)
+                sum += arrow.pixelColor(x, y).lightness();
+        }
+        return sum;
+    };
+    const QRect rect = arrow.rect();
+    if (rect.width() > rect.height()) {
+        const int top = light(QRect(0, 0, rect.width(), 1));
+        const int bottom = light(QRect(0, rect.bottom(), rect.width(), 1));
+        return top < bottom ? QStyle::PE_IndicatorArrowUp : QStyle::PE_IndicatorArrowDown;
+    }
+    const int left = light(QRect(0, 0, 1, rect.height()));
+    const int right = light(QRect(rect.right(), 0, 1, rect.height()));
+    return left < right ? QStyle::PE_IndicatorArrowLeft : QStyle::PE_IndicatorArrowRight;
+}
+
+QStyleOptionSlider dialOption(const QRect &rect = QRect(0, 0, 64, 64))
+{
+    QStyleOptionSlider option;
+    option.palette = DarkUX::getInstance().palette();
+    option.rect = rect;
+    option.state = QStyle::State_Enabled;
+    option.subControls = QStyle::SC_DialTickmarks | QStyle::SC_DialHandle;
+    option.minimum = 0;
+    option.maximum = 100;
+    option.pageStep = 20;
+    option.tickInterval = 10;
+    option.upsideDown = true;
+    return option;
+}
+
+QImage dial(const QStyleOptionSlider &option, const QSize &size = QSize(64, 64))
+{
+    return TestSupport::paintOn(size, Qt::transparent, [&](QPainter &painter) {
+        StyleHelpers::drawDial(&option, &painter);
+    });
+}
+
+} // namespace
+
+class tst_StyleHelpers : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QPixmapCache::clear(); }
+    void cleanupTestCase() { delete m_theme.style(); }
+
+    void derivedColors();
+    void colorsOverTexture();
+    void mergedColors_data();
+    void mergedColors();
+    void shiftedColorsAreClamped();
+    void scrollBarBackground();
+
+    void cacheKeys();
+    void spinBoxCacheKeys();
+    void cachePixmaps();
+    void cachedDrawingIsPaintedOnce();
+    void uncacheableDrawingIsPaintedInPlace();
+
+    void colorizedArrow();
+    void arrowRotations();
+    void colorizedChannels();
+    void missingImage();
+    void arrowDrawing_data();
+    void arrowDrawing();
+    void toolButtonArrows();
+
+    void titleBarButton();
+
+    void dialTicks();
+    void dialTickCounts_data();
+    void dialTickCounts();
+    void dialPositions();
+    void dialDoesNotDependOnTheCache();
+    void dialFollowsItsRectangle();
+    void painterStaysAsItWas();
+
+private:
+    DarkUX m_theme;
+};
+
+void tst_StyleHelpers::derivedColors()
+{
+    const QPalette palette = m_theme.palette();
+    QCOMPARE(StyleColors::buttonColor(palette).rgba(), qRgb(0x48, 0x48, 0x48));
+    QCOMPARE(StyleColors::outlineColor(palette), palette.color(QPalette::Window).darker(140));
+
+    // Grey 134 is lightened by (180 - 134) / 6 percent.
+    QPalette light(palette);
+    light.setColor(QPalette::Button, QColor(200, 100, 100));
+    const QColor button = QColor(200, 100, 100).lighter(107);
+    QCOMPARE(StyleColors::buttonColor(light).hue(), button.hue());
+    QCOMPARE(StyleColors::buttonColor(light).value(), button.value());
+    QCOMPARE(StyleColors::buttonColor(light).saturation(), int(button.saturation() * 0.75));
+
+    QPalette bright(palette);
+    bright.setColor(QPalette::Highlight, QColor(40, 80, 255));
+    QCOMPARE(StyleColors::highlightedOutlineColor(bright).lightness(), 160);
+    bright.setColor(QPalette::Highlight, QColor(20, 40, 100));
+    QCOMPARE(StyleColors::highlightedOutlineColor(bright), QColor(20, 40, 100).darker(125));
+}
+
+void tst_StyleHelpers::colorsOverTexture()
+{
+    QPalette palette = m_theme.palette();
+    palette.setBrush(QPalette::Window, QBrush(QPixmap(4, 4)));
+    QCOMPARE(StyleColors::outlineColor(palette), QColor(0, 0, 0, 160));
+    QCOMPARE(StyleColors::tabFrameColor(palette), QColor(255, 255, 255, 8));
+}
+
+void tst_StyleHelpers::mergedColors_data()
+{
+    QTest::addColumn<QColor>("a");
+    QTest::addColumn<QColor>("b");
+    QTest::addColumn<int>("factor");
+    QTest::addColumn<QColor>("expected");
+
+    QTest::newRow("half") << QColor(Qt::white) << QColor(Qt::black) << 50 << QColor(127, 127, 127);
+    QTest::newRow("pressed indicator")
+        << QColor(0x19, 0x1a, 0x1e) << QColor(0xbb, 0xbb, 0xbb) << 85 << QColor(49, 50, 53);
+    QTest::newRow("alpha of the first")
+        << QColor(10, 20, 30, 40) << QColor(10, 20, 30, 200) << 50 << QColor(10, 20, 30, 40);
+    QTest::newRow("beyond all of it")
+        << QColor(200, 0, 100) << QColor(0, 200, 100) << 200 << QColor(255, 0, 100);
+}
+
+void tst_StyleHelpers::mergedColors()
+{
+    QFETCH(QColor, a);
+    QFETCH(QColor, b);
+    QFETCH(int, factor);
+    QTEST(StyleColors::mergedColors(a, b, factor), "expected");
+}
+
+void tst_StyleHelpers::shiftedColorsAreClamped()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(5, 100, 250, 7));
+    QCOMPARE(StyleColors::window(palette, -11), QColor(0, 89, 239));
+    QCOMPARE(StyleColors::window(palette, 40, 128), QColor(45, 140, 255, 128));
+}
+
+void tst_StyleHelpers::scrollBarBackground()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::red);
+    QScrollArea area;
+    QPalette areaPalette;
+    areaPalette.setColor(QPalette::Base, Qt::green);
+    area.setPalette(areaPalette);
+    QScrollBar loose;
+    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, area.verticalScrollBar()),
+             QColor(Qt::green));
+    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, &loose), QColor(Qt::red));
+    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, &area), QColor(Qt::red));
+    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, nullptr), QColor(Qt::red));
+}
+
+void tst_StyleHelpers::cacheKeys()
+{
+    const QSize size(20, 10);
+    QStyleOptionSlider option;
+    option.palette = m_theme.palette();
+    const QString key = StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, size);
+    QCOMPARE(StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, size), key);
+    QVERIFY(key.startsWith(QLatin1Char('x')));
+
+    QSet<QString> keys = {key};
+    const auto add = [&](const QStyleOption *changed, const QSize &changedSize) {
+        keys.insert(StyleHelpers::styleCacheKey(QStringLiteral("x"), changed, changedSize));
+    };
+    keys.insert(StyleHelpers::styleCacheKey(QStringLiteral("y"), &option, size));
+    add(&option, QSize(10, 20));
+    add(&option, QSize(20 + 0x10000, 10));
+    add(nullptr, size);
+    QStyleOptionSlider changed(option);
+    changed.state = QStyle::State_Window; // a high bit
+    add(&changed, size);
+    changed = option;
+    changed.direction = Qt::RightToLeft;
+    add(&changed, size);
+    changed = option;
+    changed.activeSubControls = QStyle::SC_SliderHandle;
+    add(&changed, size);
+    changed = option;
+    changed.palette.setColor(QPalette::Text, Qt::red);
+    add(&changed, size);
+    changed = option;
+    changed.palette.setCurrentColorGroup(QPalette::Disabled);
+    add(&changed, size);
+    QCOMPARE(keys.size(), 10);
+}
+
+void tst_StyleHelpers::spinBoxCacheKeys()
+{
+    QSet<QString> keys;
+    QStyleOptionSpinBox option;
+    for (bool frame : {false, true}) {
+        for (auto symbols : {QAbstractSpinBox::UpDownArrows, QAbstractSpinBox::PlusMinus,
+                             QAbstractSpinBox::NoButtons})
+        {
+            for (int steps = 0; steps < 4; ++steps) {
+                option.frame = frame;
+                option.buttonSymbols = symbols;
+                option.stepEnabled = QAbstractSpinBox::StepEnabled(steps);
+                keys.insert(StyleHelpers::styleCacheKey(QStringLiteral("s"), &option, QSize(1, 1)));
+            }
+        }
+    }
+    QCOMPARE(keys.size(), 24);
+}
+
+void tst_StyleHelpers::cachePixmaps()
+{
+    const qreal ratio = qApp->devicePixelRatio();
+    const QPixmap pixmap = StyleHelpers::styleCachePixmap(QSize(7, 3));
+    QCOMPARE(pixmap.devicePixelRatio(), ratio);
+    QCOMPARE(pixmap.size(), QSize(qRound(7 * ratio), qRound(3 * ratio)));
+}
+
+void tst_StyleHelpers::cachedDrawingIsPaintedOnce()
+{
+    int painted = 0;
+    const auto paint = [&](QPainter *painter) {
+        ++painted;
+        painter->fillRect(0, 0, 4, 4, Qt::red);
+    };
+    const QImage image = TestSupport::paintOn(QSize(12, 12), Qt::black, [&](QPainter &painter) {
+        for (const QPoint &place : {QPoint(1, 1), QPoint(6, 6)})
+            StyleHelpers::drawCached(&painter, place, QStringLiteral("once"), QSize(5, 5), paint);
+        StyleHelpers::drawCached(&painter, QPoint(), QStringLiteral("none"), QSize(0, 5), paint);
+    });
+    QCOMPARE(painted, 1);
+    COMPARE_PIXEL(image, 0, 0, Qt::black);
+    COMPARE_PIXEL(image, 1, 1, Qt::red);
+    COMPARE_PIXEL(image, 5, 5, Qt::black);
+    COMPARE_PIXEL(image, 9, 9, Qt::red);
+}
+
+void tst_StyleHelpers::uncacheableDrawingIsPaintedInPlace()
+{
+    const auto paint = [](QPainter *painter) { painter->fillRect(0, 0, 3, 1, Qt::red); };
+    const QSize huge(1000000, 1000000);
+    QImage image = TestSupport::paintOn(QSize(8, 8), Qt::black, [&](QPainter &painter) {
+        StyleHelpers::drawCached(&painter, QPoint(2, 2), QStringLiteral("huge"), huge, paint);
+    });
+    COMPARE_PIXEL(image, 2, 2, Qt::red);
+
+    // Three units to the right are three units down for a painter turned by 90 degrees.
+    image = TestSupport::paintOn(QSize(8, 8), Qt::black, [&](QPainter &painter) {
+        painter.translate(8, 0);
+        painter.rotate(90);
+        StyleHelpers::drawCachedUnlessTransformed(&painter, QPoint(2, 2), QStringLiteral("turned"),
+                                                  QSize(3, 1), paint);
+        QVERIFY(painter.worldTransform().isRotating());
+    });
+    COMPARE_PIXEL(image, 5, 2, Qt::red);
+    COMPARE_PIXEL(image, 5, 4, Qt::red);
+    QPixmap pixmap;
+    QVERIFY(!StyleHelpers::findCached(QStringLiteral("huge"), &pixmap));
+    QVERIFY(!StyleHelpers::findCached(QStringLiteral("turned"), &pixmap));
+}
+
+void tst_StyleHelpers::colorizedArrow()
+{
+    const QColor color(200, 150, 100);
+    const QImage image = arrow(color, 0);
+    QVERIFY(!image.isNull());
+    QVERIFY(image.width() >= image.height());
+    const int middle = image.width() / 2;
+
+    // Pointing up: each row at least as wide as the one above, and the same on both sides.
+    int above = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        int coverage = 0;
+        for (int x = 0; x < image.width(); ++x) {
+            coverage += qAlpha(image.pixel(x, y));
+            QCOMPARE(image.pixel(x, y), image.pixel(image.width() - 1 - x, y));
+        }
+        QVERIFY2(coverage >= above, qPrintable(QStringLiteral("row %1").arg(y)));
+        above = coverage;
+    }
+    COMPARE_PIXEL(image, middle, image.height() - 2, color);
+    QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
+
+    QPixmap cached;
+    QVERIFY(QPixmapCache::find(QStringLiteral("$qt_ia-") + StyleHelpers::arrowImageFileName()
+                                   + QStringLiteral("4669") + QStringLiteral("8cff")
+                                   + QStringLiteral("0"),
+                               &cached));
+}
+
+void tst_StyleHelpers::arrowRotations()
+{
+    const QImage up = arrow(Qt::white, 0);
+    QCOMPARE(arrow(Qt::white, 180), up.mirrored(true, true));
+    QCOMPARE(arrow(Qt::white, 90), up.transformed(QTransform().rotate(90)));
+    QCOMPARE(arrow(Qt::white, -90), up.transformed(QTransform().rotate(-90)));
+    QVERIFY(arrow(Qt::white, 90) != arrow(Qt::white, -90));
+}
+
+void tst_StyleHelpers::colorizedChannels()
+{
+    QTemporaryDir directory;
+    const QString fileName = directory.filePath(QStringLiteral("channels.png"));
+    QImage source(3, 1, QImage::Format_ARGB32);
+    source.setPixelColor(0, 0, QColor(0, 40, 255));   // all of the colour, on grey
+    source.setPixelColor(1, 0, QColor(30, 60, 30));   // grey alone
+    source.setPixelColor(2, 0, QColor(0, 0, 255, 0)); // nothing
+    QVERIFY(source.save(fileName));
+
+    const QImage image = StyleHelpers::colorizedImage(fileName, QColor(100, 50, 250)).toImage();
+    COMPARE_PIXEL(image, 0, 0, QColor(140, 90, (40 + 250) % 256));
+    COMPARE_PIXEL(image, 1, 0, QColor(60, 60, 60));
+    QCOMPARE(image.pixelColor(2, 0).alpha(), 0);
+
+    // No channel exceeds the alpha of a translucent colour.
+    const QImage faint = StyleHelpers::colorizedImage(fileName, QColor(100, 50, 200, 80)).toImage();
+    QCOMPARE(faint.convertToFormat(QImage::Format_ARGB32_Premultiplied).pixelColor(0, 0).alpha(),
+             80);
+}
+
+void tst_StyleHelpers::missingImage()
+{
+    QVERIFY(StyleHelpers::colorizedImage(QStringLiteral(":/no/such.png"), Qt::red).isNull());
+    QVERIFY(!QImage(StyleHelpers::groupBoxImageFileName()).isNull());
+}
+
+void tst_StyleHelpers::arrowDrawing_data()
+{
+    QTest::addColumn<QRect>("rect");
+    QTest::addColumn<bool>("drawn");
+    QTest::newRow("usual") << QRect(3, 4, 11, 11) << true;
+    QTest::newRow("wide") << QRect(2, 2, 30, 10) << true;
+    QTest::newRow("small") << QRect(5, 5, 5, 5) << true;
+    QTest::newRow("one high") << QRect(5, 5, 9, 1) << false;
+    QTest::newRow("one wide") << QRect(5, 5, 1, 9) << false;
+    QTest::newRow("empty") << QRect() << false;
+}
+
+void tst_StyleHelpers::arrowDrawing()
+{
+    QFETCH(QRect, rect);
+    QFETCH(bool, drawn);
+    for (QStyle::PrimitiveElement element :
+         {QStyle::PE_IndicatorArrowUp, QStyle::PE_IndicatorArrowDown, QStyle::PE_IndicatorArrowLeft,
+          QStyle::PE_IndicatorArrowRight})
+    {
+        QStyleOption option;
+        option.rect = rect;
+        option.palette.setColor(QPalette::WindowText, Qt::white);
+        const QImage image = TestSupport::paintOn(QSize(40, 24), Qt::black, [&](QPainter &painter) {
+            StyleHelpers::drawArrowImage(element, &painter, &option);
+        });
+        QRect bounds;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixelColor(x, y) != Qt::black)
+                    bounds |= QRect(x, y, 1, 1);
+            }
+        }
+        QCOMPARE(!bounds.isNull(), drawn);
+        QVERIFY(rect.contains(bounds) || !drawn);
+        if (drawn) {
+            const bool upright =
+                element == QStyle::PE_IndicatorArrowUp || element == QStyle::PE_IndicatorArrowDown;
+            QCOMPARE(bounds.width() > bounds.height(), upright);
+            COMPARE_PIXEL(image, rect.center().x(), rect.center().y(), Qt::white);
+            QCOMPARE(pointsTo(image.copy(bounds)), element);
+        }
+    }
+    StyleHelpers::drawArrowImage(QStyle::PE_IndicatorArrowUp, nullptr, nullptr);
+}
+
+void tst_StyleHelpers::toolButtonArrows()
+{
+    struct Recorder : QCommonStyle
+    {
+        void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *,
+                           const QWidget *) const override
+        {
+            elements.append(element);
+            QCOMPARE(option->rect, QRect(1, 2, 3, 4));
+            QCOMPARE(option->state, State_MouseOver);
+        }
+        mutable QVector<PrimitiveElement> elements;
+    } style;
+    QStyleOptionToolButton option;
+    option.state = QStyle::State_MouseOver;
+    for (Qt::ArrowType type :
+         {Qt::NoArrow, Qt::UpArrow, Qt::DownArrow, Qt::LeftArrow, Qt::RightArrow}) {
+        option.arrowType = type;
+        StyleHelpers::drawToolButtonArrow(&style, &option, QRect(1, 2, 3, 4), nullptr, nullptr);
+    }
+    const QVector<QStyle::PrimitiveElement> expected = {
+        QStyle::PE_IndicatorArrowUp, QStyle::PE_IndicatorArrowDown, QStyle::PE_IndicatorArrowLeft,
+        QStyle::PE_IndicatorArrowRight};
+    QCOMPARE(style.elements, expected);
+}
+
+void tst_StyleHelpers::titleBarButton()
+{
+    QStyleOptionTitleBar option;
+    option.palette = m_theme.palette();
+    const QColor back = Qt::white;
+    const QColor highlight = option.palette.color(QPalette::Highlight);
+    const auto draw = [&](bool hover, bool sunken) {
+        return TestSupport::paintOn(QSize(24, 24), back, [&](QPainter &painter) {
+            StyleHelpers::drawTitleBarButton(&painter, &option, QRect(3, 3, 16, 16), hover, sunken);
+        });
+    };
+    QImage image = draw(false, false);
+    // The button's #3c3c3c at seven tenths, then darker by a tenth.
+    const QColor border = QColor(42, 42, 42).darker(110);
+    COMPARE_PIXEL(image, 10, 3, border);
+    COMPARE_PIXEL(image, 4, 4, border);
+    COMPARE_PIXEL(image, 3, 3, back);
+    COMPARE_PIXEL(image, 10, 10, back);
+
+    image = draw(true, false);
+    COMPARE_PIXEL(image, 10, 10, back); // white on white
+    image = draw(true, true);
+    COMPARE_PIXEL(image, 10, 10, highlight.darker(120));
+    COMPARE_PIXEL(image, 10, 4, highlight.darker(130));
+
+    option.titleBarState = QStyle::State_Active;
+    image = draw(false, false);
+    COMPARE_PIXEL(image, 10, 3, highlight.darker(180));
+}
+
+void tst_StyleHelpers::dialTicks()
+{
+    const QStyleOptionSlider option = dialOption();
+    const QVector<QLineF> lines = StyleHelpers::dialTickLines(&option);
+    QCOMPARE(lines.size(), 11);
+    const QPointF center(32.5, 32.5);
+    const auto distance = [&](const QPointF &point) { return QLineF(center, point).length(); };
+
+    // At 240 degrees, a long mark; the next one is short, and one unit further in.
+    QCOMPARE(StyleHelpers::dialBigLineSize(32), 5);
+    QCOMPARE(QLineF(center, lines.first().p2()).angle(), 240.0);
+    QCOMPARE(distance(lines.first().p1()), 27.0);
+    QCOMPARE(distance(lines.first().p2()), 32.0);
+    QCOMPARE(distance(lines.at(1).p1()), 29.0);
+    QCOMPARE(distance(lines.at(1).p2()), 31.0);
+    QCOMPARE(distance(lines.at(2).p2()), 32.0);
+    QCOMPARE(QLineF(center, lines.last().p2()).angle(), 300.0);
+}
+
+void tst_StyleHelpers::dialTickCounts_data()
+{
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<int>("interval");
+    QTest::addColumn<int>("count");
+    QTest::newRow("no interval") << 0 << 100 << 0 << 0;
+    QTest::newRow("bad interval") << 0 << 100 << -5 << 0;
+    QTest::newRow("rounded up") << 0 << 100 << 30 << 5;
+    QTest::newRow("no range") << 5 << 5 << 1 << 0;
+    QTest::newRow("backwards") << 5 << 2 << 1 << 0;
+    QTest::newRow("wide range") << 0 << 5000 << 7 << (7 + 999) / 7 + 1;
+    QTest::newRow("widest range") << INT_MIN << INT_MAX << INT_MAX << 2;
+}
+
+void tst_StyleHelpers::dialTickCounts()
+{
+    QFETCH(int, minimum);
+    QFETCH(int, maximum);
+    QFETCH(int, interval);
+    QStyleOptionSlider option = dialOption();
+    option.minimum = minimum;
+    option.maximum = maximum;
+    option.tickInterval = interval;
+    option.pageStep = 0;
+    QTEST(StyleHelpers::dialTickLines(&option).size(), "count");
+}
+
+void tst_StyleHelpers::dialPositions()
+{
+    QStyleOptionSlider option = dialOption();
+    const QPointF center(32, 32);
+    const auto angle = [&](int value) {
+        option.sliderPosition = value;
+        return qRound(QLineF(center, StyleHelpers::dialRadialPos(&option, 1.0)).angle());
+    };
+    QCOMPARE(angle(0), 240);
+    QCOMPARE(angle(50), 90);
+    QCOMPARE(angle(100), 300);
+    QCOMPARE(QLineF(center, StyleHelpers::dialRadialPos(&option, 0.5)).length(), 12.0);
+
+    option.upsideDown = false;
+    QCOMPARE(angle(0), 300);
+    option.dialWrapping = true;
+    QCOMPARE(angle(25), 0);
+    option.minimum = option.maximum = 7;
+    QCOMPARE(angle(7), 90);
+}
+
+void tst_StyleHelpers::dialDoesNotDependOnTheCache()
+{
+    for (QStyle::State state :
+         {QStyle::State(QStyle::State_None), QStyle::State(QStyle::State_Enabled),
+          QStyle::State_Enabled | QStyle::State_HasFocus})
+    {
+        QStyleOptionSlider option = dialOption();
+        option.state = state;
+        const QImage first = dial(option);
+        QCOMPARE(dial(option), first);
+        option.sliderPosition = 60;
+        QVERIFY(dial(option) != first);
+    }
+    QStyleOptionSlider focused = dialOption();
+    focused.state |= QStyle::State_HasFocus;
+    QVERIFY(dial(focused) != dial(dialOption()));
+}
+
+void tst_StyleHelpers::dialFollowsItsRectangle()
+{
+    const QImage moved = dial(dialOption(QRect(20, 10, 64, 64)), QSize(90, 80));
+    QCOMPARE(moved.copy(20, 10, 64, 64), dial(dialOption()));
+}
+
+void tst_StyleHelpers::painterStaysAsItWas()
+{
+    QStyleOptionTitleBar titleBar;
+    titleBar.palette = m_theme.palette();
+    const QStyleOptionSlider slider = dialOption();
+    TestSupport::paintOn(QSize(64, 64), Qt::black, [&](QPainter &painter) {
+        painter.setPen(QPen(Qt::green, 3));
+        painter.setBrush(Qt::yellow);
+        painter.translate(1, 1);
+        const QTransform transform = painter.transform();
+        const QPainter::RenderHints hints = painter.renderHints();
+
+        StyleHelpers::drawTitleBarButton(&painter, &titleBar, QRect(2, 2, 18, 18), true, true);
+        StyleHelpers::drawDial(&slider, &painter);
+        StyleHelpers::drawArrowImage(QStyle::PE_IndicatorArrowUp, &painter, &slider);
+
+        QCOMPARE(painter.pen(), QPen(Qt::green, 3));
+        QCOMPARE(painter.brush(), QBrush(Qt::yellow));
+        QCOMPARE(painter.transform(), transform);
+        QCOMPARE(painter.renderHints(), hints);
+        for (const QRect &rect : {QRect(), QRect(0, 0, 1, 1), QRect(0, 0, 50000, 50000)}) {
+            StyleHelpers::drawTitleBarButton(&painter, &titleBar, rect, false, true);
+            const QStyleOptionSlider odd = dialOption(rect);
+            StyleHelpers::drawDial(&odd, &painter);
+        }
+    });
+}
+
+NOCTURNE_TEST_MAIN(tst_StyleHelpers)
+
+#include "tst_style_helpers_internals.moc"

@@ -1,0 +1,275 @@
+#include "testsupport.h"
+
+#include <nocturne/DarkFusionStyle>
+#include <nocturne/DarkUX>
+#include <nocturne/TreeWidget>
+#include <nocturne/theme/toolkitexports_p.h>
+
+#include <QtGui/QScreen>
+#include <QtGui/QWindow>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyledItemDelegate>
+
+namespace {
+
+constexpr QRgb background = 0xff191b20;
+
+/// Shows rows of the heights asked for, without anything painted in them.
+class BareTree : public TreeWidget
+{
+public:
+    using TreeWidget::verticalOffset;
+
+    BareTree()
+    {
+        setHeaderHidden(true);
+        setRootIsDecorated(false);
+        setFrameShape(QFrame::NoFrame);
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setSelectionMode(QAbstractItemView::NoSelection);
+        setFocusPolicy(Qt::NoFocus);
+    }
+
+    QTreeWidgetItem *addRow(int height, const QString &text = QString())
+    {
+        auto *item = new QTreeWidgetItem(this, {text});
+        item->setSizeHint(0, QSize(10, height));
+        return item;
+    }
+};
+
+QImage expectedImage(const QSize &size, bool top, bool bottom, qreal ratio)
+{
+    QImage bar(30, 30, QImage::Format_ARGB32);
+    bar.fill(Qt::transparent);
+    QPainter barPainter(&bar);
+    barPainter.fillRect(0, 0, 30, 6, Qt::black);
+    barPainter.end();
+    QPixmap shadow(30, 30);
+    shadow.fill(Qt::transparent);
+    QPainter shadowPainter(&shadow);
+    qt_blurImage(&shadowPainter, bar, 30, false, false);
+    shadowPainter.end();
+
+    const auto fragment = QPainter::PixmapFragment::create(
+        QPointF(size.width() / 2.0, 15), QRectF(0, 0, 30, 30), size.width() / 30.0, 1.0);
+    return TestSupport::paintOn(
+        size, background,
+        [&](QPainter &painter) {
+            if (top)
+                painter.drawPixmapFragments(&fragment, 1, shadow);
+            painter.translate(0, size.height());
+            painter.scale(1, -1);
+            if (bottom)
+                painter.drawPixmapFragments(&fragment, 1, shadow);
+        },
+        ratio);
+}
+
+/// What stands on the screen now, as opposed to what a fresh paint would give.
+QImage onScreen(QWidget &window)
+{
+    return window.screen()
+        ->grabWindow(window.winId())
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+QImage freshlyPainted(QWidget &window)
+{
+    return window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+} // namespace
+
+class TestTreeWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QApplication::setStyle(m_theme.style()); }
+
+    void backgroundAndShadows_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<int>("value");
+        QTest::addColumn<bool>("top");
+        QTest::addColumn<bool>("bottom");
+
+        QTest::newRow("no scroll range") << 3 << 0 << false << false;
+        QTest::newRow("at the start") << 40 << 0 << false << true;
+        QTest::newRow("in the middle") << 40 << 100 << true << true;
+        QTest::newRow("at the end") << 40 << 100000 << true << false;
+    }
+
+    void backgroundAndShadows()
+    {
+        QFETCH(int, rows);
+        QFETCH(int, value);
+        QFETCH(bool, top);
+        QFETCH(bool, bottom);
+
+        BareTree tree;
+        tree.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+        for (int i = 0; i < rows; ++i)
+            tree.addRow(20);
+        tree.resize(212, 160);
+        tree.show();
+        tree.verticalScrollBar()->setValue(value);
+        for (qreal ratio : {1.0, 1.5, 2.0}) {
+            for (bool enabled : {true, false}) {
+                tree.setEnabled(enabled);
+                QCOMPARE(TestSupport::render(tree, ratio),
+                         expectedImage(tree.size(), top, bottom, ratio));
+            }
+        }
+    }
+
+    void shadowsFollowTheVerticalOffset_data()
+    {
+        QTest::addColumn<bool>("uniform");
+        QTest::newRow("uniform rows") << true;
+        QTest::newRow("rows of different heights") << false;
+    }
+
+    /// With a bar that counts rows, the offset in pixels passes the maximum within a few rows.
+    void shadowsFollowTheVerticalOffset()
+    {
+        QFETCH(bool, uniform);
+        BareTree tree;
+        tree.setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+        tree.setUniformRowHeights(uniform);
+        for (int i = 0; i < 120; ++i) {
+            QTreeWidgetItem *item = tree.addRow(uniform ? 10 : 8 + i % 5);
+            for (int child = 0; child < 4; ++child)
+                (new QTreeWidgetItem(item))->setSizeHint(0, QSize(10, 12));
+        }
+        tree.resize(100, 120);
+        tree.show();
+        QVERIFY(followsOffset(tree));
+
+        tree.expandItem(tree.topLevelItem(1));
+        QVERIFY(followsOffset(tree));
+        for (int i = 0; i < 10; ++i)
+            tree.topLevelItem(i)->setSizeHint(0, QSize(10, 3));
+        QVERIFY(followsOffset(tree));
+        tree.topLevelItem(0)->setHidden(true);
+        tree.topLevelItem(3)->setHidden(true);
+        QVERIFY(followsOffset(tree));
+        delete tree.takeTopLevelItem(1);
+        auto *first = new QTreeWidgetItem;
+        first->setSizeHint(0, QSize(10, 40));
+        tree.insertTopLevelItem(0, first);
+        QVERIFY(followsOffset(tree));
+        tree.clear();
+        QVERIFY(followsOffset(tree));
+    }
+
+    void scrollingLeavesNoTrace_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<bool>("rightToLeft");
+        QTest::newRow("rows") << int(QAbstractItemView::ScrollPerItem) << false;
+        QTest::newRow("pixels") << int(QAbstractItemView::ScrollPerPixel) << false;
+        QTest::newRow("rows, right to left") << int(QAbstractItemView::ScrollPerItem) << true;
+    }
+
+    /// Scrolling copies what is on the screen; the shadows must not be copied along.
+    void scrollingLeavesNoTrace()
+    {
+        QFETCH(int, mode);
+        QFETCH(bool, rightToLeft);
+        BareTree tree;
+        tree.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+        tree.setVerticalScrollMode(static_cast<QAbstractItemView::ScrollMode>(mode));
+        for (int i = 0; i < 200; ++i)
+            tree.addRow(16 + i % 7, QStringLiteral("row %1 with a long text").arg(i));
+        tree.resize(90, 200);
+        tree.setColumnWidth(0, 300);
+        tree.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&tree));
+
+        const auto settle = [&tree] {
+            for (int i = 0; i < 3; ++i) // lay out, then paint
+                QCoreApplication::processEvents();
+            return onScreen(tree) == freshlyPainted(tree);
+        };
+        QVERIFY(settle());
+        for (int value : {1, 2, 4, 3, 0, 9, 8, 7, 60, 61, 62, 100000, 150, 151, 1, 0}) {
+            tree.verticalScrollBar()->setValue(value);
+            QVERIFY2(settle(), qPrintable(QString::number(value)));
+        }
+        tree.verticalScrollBar()->setValue(5);
+        tree.verticalScrollBar()->setValue(3); // both before the next paint
+        QVERIFY(settle());
+        tree.horizontalScrollBar()->setValue(7);
+        QVERIFY(settle());
+        tree.verticalScrollBar()->setValue(100000);
+        QVERIFY(settle());
+        tree.addRow(20);
+        QVERIFY(settle());
+    }
+
+    /// Whatever a row costs, the shadows need only as many rows as the bar has steps in pixels.
+    void farRowsAreNotMeasured()
+    {
+        class CountingDelegate : public QStyledItemDelegate
+        {
+        public:
+            using QStyledItemDelegate::QStyledItemDelegate;
+            QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const override
+            {
+                ++count;
+                return QSize(10, 20);
+            }
+            mutable int count = 0;
+        };
+
+        QList<QTreeWidgetItem *> items;
+        for (int i = 0; i < 20000; ++i)
+            items << new QTreeWidgetItem;
+        BareTree tree;
+        CountingDelegate delegate;
+        tree.setItemDelegate(&delegate);
+        tree.addTopLevelItems(items);
+        tree.resize(100, 200);
+        tree.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&tree));
+
+        delegate.count = 0;
+        tree.verticalScrollBar()->setValue(15000);
+        QCoreApplication::processEvents();
+        QVERIFY2(delegate.count < 1200, qPrintable(QString::number(delegate.count)));
+        delegate.count = 0;
+        for (int value = 15001; value < 15011; ++value)
+            tree.verticalScrollBar()->setValue(value);
+        QCoreApplication::processEvents();
+        QVERIFY2(delegate.count < 100, qPrintable(QString::number(delegate.count)));
+    }
+
+private:
+    static bool followsOffset(BareTree &tree)
+    {
+        QCoreApplication::processEvents();
+        const int maximum = tree.verticalScrollBar()->maximum();
+        const int x = tree.width() / 2;
+        for (int step = 0; step <= 2 * maximum; ++step) {
+            tree.verticalScrollBar()->setValue(step <= maximum ? step : 2 * maximum - step);
+            const int offset = tree.verticalOffset();
+            const QImage image = TestSupport::render(tree);
+            const bool top = image.pixel(x, 0) != background;
+            const bool bottom = image.pixel(x, image.height() - 1) != background;
+            if (top != (offset > 0) || bottom != (offset < maximum)) {
+                qWarning("offset %d of %d: top %d, bottom %d", offset, maximum, top, bottom);
+                return false;
+            }
+        }
+        return true;
+    }
+
+    DarkUX m_theme;
+};
+
+NOCTURNE_TEST_MAIN(TestTreeWidget)
+#include "tst_treewidget.moc"
