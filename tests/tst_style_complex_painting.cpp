@@ -126,10 +126,15 @@ private slots:
         option.frame = true;
         const QImage framed = paint(QStyle::CC_SpinBox, option);
         compare(framed, 50, 15, shifted(windowColor(), -11));
-        compare(framed, 3, 15, shifted(windowColor(), -11));
-        compare(framed, 1, 15, m_background);
-        compare(framed, 50, 1, m_background);
-        compare(framed, 2, 2, m_background); // the corner is round
+        // It reaches half a unit beyond (2, 2, 96, 26).
+        for (const QPoint &place : {QPoint(3, 15), QPoint(97, 15), QPoint(50, 3), QPoint(50, 27)})
+            compare(framed, place.x(), place.y(), shifted(windowColor(), -11));
+        for (const QPoint &place : {QPoint(1, 15), QPoint(99, 15), QPoint(50, 1), QPoint(50, 29)})
+            compare(framed, place.x(), place.y(), m_background);
+        // Its corners are round: a circle of radius 6.
+        compare(framed, 5, 5, shifted(windowColor(), -11));
+        for (const QPoint &place : {QPoint(2, 2), QPoint(4, 4), QPoint(2, 5), QPoint(5, 2)})
+            QVERIFY(at(framed, place.x(), place.y()) != shifted(windowColor(), -11));
 
         option.frame = false;
         compare(paint(QStyle::CC_SpinBox, option), 50, 15, m_background);
@@ -151,23 +156,33 @@ private slots:
 
     void spinBoxPressedEdges()
     {
+        // The buttons are (85, 3, 14, 12) and (85, 15, 14, 12), their signs far from the edges.
         auto option = themed<QStyleOptionSpinBox>(QRect(0, 0, 100, 30));
         option.frame = true;
+        option.buttonSymbols = QAbstractSpinBox::PlusMinus;
+        const QImage resting = paint(QStyle::CC_SpinBox, option);
         option.state |= QStyle::State_Sunken;
-        const QColor well = shifted(windowColor(), -11);
-        compare(paint(QStyle::CC_SpinBox, option), 88, 15, well);
+        QCOMPARE(paint(QStyle::CC_SpinBox, option), resting);
 
+        const QColor dark = buttonColor().darker(130);
+        const QRegion shared(86, 15, 13, 1); // the upper edge of the lower button
         option.activeSubControls = QStyle::SC_SpinBoxUp;
         QImage image = paint(QStyle::CC_SpinBox, option);
-        compare(image, 88, 15, buttonColor().darker(130)); // top of the lower button
-        compare(image, 86, 10, buttonColor().darker(130));
-        compare(image, 86, 20, well);
+        QCOMPARE(changedCells(resting, image), shared + QRect(86, 3, 1, 12) + QRect(86, 2, 13, 1));
+        for (const QPoint &place : {QPoint(98, 15), QPoint(86, 14), QPoint(98, 2)})
+            compare(image, place.x(), place.y(), dark);
+
         option.activeSubControls = QStyle::SC_SpinBoxDown;
         image = paint(QStyle::CC_SpinBox, option);
-        compare(image, 88, 15, buttonColor().darker(130));
-        compare(image, 86, 10, well);
-        compare(image, 86, 20, buttonColor().darker(130));
-        compare(image, 90, 27, buttonColor().darker(110));
+        QCOMPARE(changedCells(resting, image),
+                 shared + QRect(86, 15, 1, 12) + QRect(86, 27, 13, 1));
+        for (const QPoint &place : {QPoint(98, 15), QPoint(86, 26)})
+            compare(image, place.x(), place.y(), dark);
+        for (const QPoint &place : {QPoint(86, 27), QPoint(98, 27)})
+            compare(image, place.x(), place.y(), buttonColor().darker(110));
+
+        option.activeSubControls = QStyle::SC_SpinBoxUp | QStyle::SC_SpinBoxDown;
+        QCOMPARE(paint(QStyle::CC_SpinBox, option), resting);
     }
 
     void spinBoxPlusMinus()
@@ -182,14 +197,13 @@ private slots:
 
         // The frameless buttons are (88, 0, 14, 15) and (88, 15, 14, 15).
         const QImage image = paint(QStyle::CC_SpinBox, option);
-        compare(image, 93, 7, plus);
-        compare(image, 97, 7, plus);
-        compare(image, 98, 7, m_background);
-        compare(image, 95, 5, plus);
-        compare(image, 95, 9, plus);
-        compare(image, 93, 22, minus);
-        compare(image, 97, 22, minus);
-        compare(image, 95, 20, m_background);
+        const Legend legend = {{'+', plus}, {'-', minus}};
+        // The middle of the plus is drawn twice.
+        QCOMPARE(drawn(image, QRect(92, 4, 7, 7), legend),
+                 QStringList({"       ", "   +   ", "   +   ", " ++ ++ ", "   +   ", "   +   ",
+                              "       "}));
+        QCOMPARE(drawn(image, QRect(92, 21, 7, 3), legend),
+                 QStringList({"       ", " ----- ", "       "}));
     }
 
     void spinBoxArrowsPointAway()
@@ -574,6 +588,97 @@ private slots:
         image = paint(QStyle::CC_Slider, option);
         compare(image, 18, 40, groove);
         compare(image, 18, 160, accentBlue);
+    }
+
+    void sliderGrooveIsSoftAtTheEdges_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<double>("start"); // of the groove, across
+        QTest::addColumn<double>("end");
+        QTest::addColumn<int>("rim"); // the first line of the fill
+        QTest::newRow("horizontal") << Qt::Horizontal << 2.5 << 6.5 << 1;
+        QTest::newRow("vertical") << Qt::Vertical << 0.5 << 5.5 << 0;
+    }
+
+    void sliderGrooveIsSoftAtTheEdges()
+    {
+        QFETCH(Qt::Orientation, orientation);
+        QFETCH(double, start);
+        QFETCH(double, end);
+        QFETCH(int, rim);
+        const bool horizontal = orientation == Qt::Horizontal;
+        auto option =
+            themedSlider(orientation, horizontal ? QRect(0, 0, 200, 40) : QRect(0, 0, 40, 200));
+        option.subControls = QStyle::SC_SliderGroove;
+        option.state |= QStyle::State_MouseOver;
+        option.sliderPosition = 50;
+        option.upsideDown = false;
+        const QRect groove =
+            m_style.subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove);
+        const QImage image = paint(QStyle::CC_Slider, option);
+        const double ratio = image.devicePixelRatio();
+        const int first = int((horizontal ? groove.top() : groove.left()) * ratio);
+        const int along = int(150 * ratio);
+        for (int i = 0; i < int(7 * ratio); ++i) {
+            const double covered =
+                qBound(0.0, qMin((i + 1) / ratio, end) - qMax(i / ratio, start), 1 / ratio) * ratio;
+            const QColor expected =
+                TestSupport::blended(withAlpha(ink, qRound(128 * covered)), m_background);
+            const QPoint place = horizontal ? QPoint(along, first + i) : QPoint(first + i, along);
+            verifyNear(image.pixelColor(place), expected);
+        }
+
+        // The fill has a rim of ink around it and four or five lines of blue in it.
+        const int last = horizontal ? 6 : 5;
+        const auto fill = [&](int across) {
+            const int offset = horizontal ? groove.top() : groove.left();
+            return horizontal ? at(image, 40, offset + across) : at(image, offset + across, 40);
+        };
+        QCOMPARE(fill(rim), ink);
+        for (int across = rim + 1; across < last; ++across)
+            QCOMPARE(fill(across), accentBlue);
+        QCOMPARE(fill(last), ink);
+    }
+
+    void sliderFillEndsAtTheHandle_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<bool>("upsideDown");
+        QTest::newRow("horizontal") << Qt::Horizontal << false;
+        QTest::newRow("horizontal, upside down") << Qt::Horizontal << true;
+        QTest::newRow("vertical") << Qt::Vertical << false;
+        QTest::newRow("vertical, upside down") << Qt::Vertical << true;
+    }
+
+    void sliderFillEndsAtTheHandle()
+    {
+        QFETCH(Qt::Orientation, orientation);
+        QFETCH(bool, upsideDown);
+        const bool horizontal = orientation == Qt::Horizontal;
+        auto option =
+            themedSlider(orientation, horizontal ? QRect(0, 0, 200, 40) : QRect(0, 0, 40, 200));
+        option.subControls = QStyle::SC_SliderGroove;
+        option.state |= QStyle::State_MouseOver;
+        option.upsideDown = upsideDown;
+        option.sliderPosition = 30;
+        const QRect groove =
+            m_style.subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove);
+        const QRect handle =
+            m_style.subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle);
+        const QImage image = paint(QStyle::CC_Slider, option);
+        QVector<int> blue;
+        for (int along = 10; along < 190; ++along) {
+            const QPoint place =
+                horizontal ? QPoint(along, groove.top() + 4) : QPoint(groove.left() + 3, along);
+            if (at(image, place.x(), place.y()) == accentBlue)
+                blue << along;
+        }
+        if (upsideDown)
+            QCOMPARE(blue.first(), horizontal ? handle.right() : handle.bottom());
+        else
+            QCOMPARE(blue.last(), horizontal ? handle.left() : handle.top());
+        QCOMPARE(blue.last() - blue.first() + 1, blue.size());
+        QCOMPARE(upsideDown ? blue.last() : blue.first(), upsideDown ? 189 : 10);
     }
 
     void sliderFillKeepsTheCallersClip()
@@ -1062,7 +1167,10 @@ private:
     /// For two translucent layers, which meet in the cache before they meet the background.
     void compareNear(const QImage &image, int x, int y, const QColor &expected) const
     {
-        const QColor actual = at(image, x, y);
+        verifyNear(at(image, x, y), expected);
+    }
+    void verifyNear(const QColor &actual, const QColor &expected) const
+    {
         QVERIFY(qAbs(actual.red() - expected.red()) <= 1);
         QVERIFY(qAbs(actual.green() - expected.green()) <= 1);
         QVERIFY(qAbs(actual.blue() - expected.blue()) <= 1);
