@@ -32,12 +32,13 @@ public:
         qputenv("JACK_NO_START_SERVER", "1");
         qputenv("JACK_NO_AUDIO_RESERVATION", "1");
         m_process.setProcessChannelMode(QProcess::MergedChannels);
-        // Few ports, for machines with little shared memory; a long timeout, for loaded ones.
+        // Few ports, for machines with little shared memory. Synchronous and with a long timeout,
+        // because a client that is late in a cycle would lose the messages of that cycle.
         m_process.start(QStringLiteral("jackd"),
-                        {QStringLiteral("--no-realtime"), QStringLiteral("--no-mlock"),
-                         QStringLiteral("--name"), name, QStringLiteral("--timeout"),
-                         QStringLiteral("5000"), QStringLiteral("--port-max"), QStringLiteral("64"),
-                         QStringLiteral("-d"), QStringLiteral("dummy")});
+                        QStringLiteral("--no-realtime --no-mlock --sync --timeout 5000 "
+                                       "--port-max 64 --name %1 -d dummy --period 2048")
+                            .arg(name)
+                            .split(QLatin1Char(' ')));
         if (!m_process.waitForStarted(5000))
             return false;
         QElapsedTimer timer;

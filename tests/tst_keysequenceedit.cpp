@@ -1,6 +1,7 @@
 #include "testsupport.h"
 #include "xserver.h"
 
+#include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
 #include <nocturne/KeySequenceEdit>
 
@@ -130,6 +131,8 @@ class TestKeySequenceEdit : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanupTestCase() { delete m_theme.style(); }
+
     void recordsPresses_data();
     void recordsPresses();
     void ignoresModifiersAlone();

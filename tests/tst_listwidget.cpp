@@ -10,6 +10,7 @@
 #include <QtCore/QUrl>
 #include <QtGui/QScreen>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyleFactory>
 
 #include <memory>
 
@@ -266,28 +267,46 @@ private slots:
 
     void scrollingLeavesNoTraces_data()
     {
+        QTest::addColumn<QString>("style");
         QTest::addColumn<QAbstractItemView::ScrollMode>("scrollMode");
         QTest::addColumn<QListView::ViewMode>("viewMode");
         QTest::addColumn<int>("rowHeight");
 
-        QTest::newRow("pixels") << QAbstractItemView::ScrollPerPixel << QListView::ListMode << 21;
-        QTest::newRow("items") << QAbstractItemView::ScrollPerItem << QListView::ListMode << 21;
-        QTest::newRow("icons") << QAbstractItemView::ScrollPerPixel << QListView::IconMode << 80;
-        QTest::newRow("high rows")
-            << QAbstractItemView::ScrollPerPixel << QListView::ListMode << 400;
+        // With scroll bars beside the rows and above them.
+        for (const QString &style : {QStringLiteral("Windows"), QString()}) {
+            const auto add = [&style](const char *tag, QAbstractItemView::ScrollMode scrollMode,
+                                      QListView::ViewMode viewMode, int rowHeight) {
+                QTest::addRow("%s, %s", tag, style.isEmpty() ? "dark" : "light")
+                    << style << scrollMode << viewMode << rowHeight;
+            };
+            add("pixels", QAbstractItemView::ScrollPerPixel, QListView::ListMode, 21);
+            add("items", QAbstractItemView::ScrollPerItem, QListView::ListMode, 21);
+            add("icons", QAbstractItemView::ScrollPerPixel, QListView::IconMode, 80);
+            add("high rows", QAbstractItemView::ScrollPerPixel, QListView::ListMode, 400);
+        }
     }
 
     void scrollingLeavesNoTraces()
     {
+        QFETCH(QString, style);
         QFETCH(QAbstractItemView::ScrollMode, scrollMode);
         QFETCH(QListView::ViewMode, viewMode);
         QFETCH(int, rowHeight);
         ListWidget list;
+        const std::unique_ptr<QStyle> light(QStyleFactory::create(style));
+        if (light) {
+            list.setStyle(light.get());
+            list.verticalScrollBar()->setStyle(light.get());
+        }
         fill(list, 500, rowHeight);
         list.setViewMode(viewMode);
         list.setVerticalScrollMode(scrollMode);
         list.resize(250, 300);
+        // The dark style fills a hovered or focused row with a gradient, whose shades may round
+        // either way when a part of it is painted anew.
+        list.setFocusPolicy(Qt::NoFocus);
         list.show();
+        QCursor::setPos(list.mapToGlobal(QPoint(800, 100)));
         onScreen(list);
         QScrollBar *bar = list.verticalScrollBar();
         for (const QVector<int> &steps :
@@ -295,7 +314,8 @@ private slots:
         {
             for (int step : steps)
                 bar->setValue(bar->value() + step);
-            QCursor::setPos(list.mapToGlobal(QPoint(60, 40 + 20 * steps.size())));
+            if (light)
+                QCursor::setPos(list.mapToGlobal(QPoint(60, 40 + 20 * steps.size())));
             const QImage shown = onScreen(list);
             QCOMPARE(shown, list.grab().toImage().convertToFormat(QImage::Format_RGB32));
         }

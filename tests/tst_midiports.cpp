@@ -130,7 +130,7 @@ int numberOf(const QMidiMessage &message)
 /// A connection carries messages from one of the next cycles of the service on.
 void settle()
 {
-    QTest::qWait(150);
+    QTest::qWait(250);
 }
 
 QString listed(QMidiIn &input, const QString &part)
@@ -324,7 +324,7 @@ void TestMidiPorts::listsAndOpens()
         other.forget();
         output.sendNoteOn(1, 60, 100);
         const bool arrived = QTest::qWaitFor([&listener] { return listener.count() == 1; });
-        QTest::qWait(50);
+        QTest::qWait(100);
         return arrived && other.count() == 0;
     };
     QVERIFY(output.openPort(QStringLiteral("Synth:in 2")));
@@ -496,12 +496,12 @@ void TestMidiPorts::sendsLongMessages()
 
         device.forget();
         bare.sendMessage(&sent);
-        QTest::qWait(80);
+        QTest::qWait(150);
         const std::vector<Bytes> withoutUs = device.received();
         device.forget();
         output.sendMessage(message);
         QTRY_VERIFY(device.count() >= withoutUs.size());
-        QTest::qWait(80);
+        QTest::qWait(150);
         QCOMPARE(device.received(), withoutUs);
         if (size <= 16000)
             QCOMPARE(withoutUs, std::vector<Bytes>{sent});

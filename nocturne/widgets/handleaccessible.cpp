@@ -304,14 +304,9 @@ void HandleAccessibility::install()
     static const FactoryRemover remover;
 }
 
-void HandleAccessibility::valueChanged(QSlider *slider, int handle)
+void HandleAccessibility::valueChanged(QSlider *slider, int handle, int value)
 {
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleInterface *group = QAccessible::queryAccessibleInterface(slider);
-    QAccessibleInterface *child = group ? group->child(handle) : nullptr;
-    if (!child || !child->valueInterface())
-        return;
-    QAccessibleValueChangeEvent event(child, child->valueInterface()->currentValue());
+    QAccessibleValueChangeEvent event(slider, value);
+    event.setChild(handle);
     QAccessible::updateAccessibility(&event);
 }

@@ -12,7 +12,7 @@ namespace HandleAccessibility {
 void install();
 
 /// Tells those who listen that a handle of \a slider, counted from 0, has a new value.
-void valueChanged(QSlider *slider, int handle);
+void valueChanged(QSlider *slider, int handle, int value);
 
 } // namespace HandleAccessibility
 

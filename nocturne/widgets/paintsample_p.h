@@ -11,8 +11,9 @@
 
 class QPainter;
 
-/// Draws a small shape from a sample that was painted once. The pixels are the same, but a drag
-/// that repaints with every move is spared to fill a path or a gradient each time.
+/// Draws a small shape from a sample that was painted once. The pixels are the same, up to the
+/// rounding where smoothed edges let the background through, but a drag that repaints with every
+/// move is spared to fill a path or a gradient each time.
 ///
 /// Keeps its last sample, so it belongs to the one thing that draws with it.
 class PaintSample

@@ -14,6 +14,7 @@
 #include <QtWidgets/QToolTip>
 
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -164,15 +165,15 @@ void RangeSlider::setValues(int min, int max, int main)
     }
 
     if (now.minimum != oldValues.minimum) {
-        HandleAccessibility::valueChanged(this, 0);
+        HandleAccessibility::valueChanged(this, 0, now.minimum);
         emit minimumValueChanged(now.minimum);
     }
     if (now.maximum != oldValues.maximum) {
-        HandleAccessibility::valueChanged(this, 1);
+        HandleAccessibility::valueChanged(this, 1, now.maximum);
         emit maximumValueChanged(now.maximum);
     }
     if (now.main != oldValues.main) {
-        HandleAccessibility::valueChanged(this, 2);
+        HandleAccessibility::valueChanged(this, 2, now.main);
         emit mainValueChanged(now.main);
     }
 
@@ -408,7 +409,11 @@ void RangeSlider::paintEvent(QPaintEvent *)
     initStyleOption(&option);
     option.subControls = QStyle::SC_SliderGroove;
     option.sliderValue = option.sliderPosition = outsideRange(minimum(), maximum());
+    // Styles put what is outside the range where the pixels start. Upside down that would be the
+    // far end, with the whole groove filled.
+    const bool upsideDown = std::exchange(option.upsideDown, false);
     painter.drawComplexControl(QStyle::CC_Slider, option);
+    option.upsideDown = upsideDown;
     d->drawBar(&painter, &option);
 
     using Private = RangeSliderPrivate;

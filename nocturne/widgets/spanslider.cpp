@@ -86,13 +86,13 @@ void SpanSlider::setSpan(int lower, int upper)
     if (low != m_lower) {
         m_lower = low;
         m_lowerPosition = low;
-        HandleAccessibility::valueChanged(this, 0);
+        HandleAccessibility::valueChanged(this, 0, low);
         emit lowerValueChanged(low);
     }
     if (upp != m_upper) {
         m_upper = upp;
         m_upperPosition = upp;
-        HandleAccessibility::valueChanged(this, 1);
+        HandleAccessibility::valueChanged(this, 1, upp);
         emit upperValueChanged(upp);
     }
     emit spanChanged(m_lower, m_upper);

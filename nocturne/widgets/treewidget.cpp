@@ -26,7 +26,10 @@ QModelIndex firstRow(const QTreeView &view)
 
 TreeWidget::TreeWidget(QWidget *parent)
     : QTreeWidget(parent)
-{}
+{
+    // paintEvent() fills all of it; filling it twice shows in the time that scrolling takes.
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+}
 
 void TreeWidget::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                              const QVector<int> &roles)
@@ -56,12 +59,27 @@ void TreeWidget::scrollContentsBy(int dx, int dy)
     // where they were moved to and those where they belong are painted anew.
     const Shadows now = shadows();
     const int pixels = scrolledPixels(dy);
+    QRegion stale;
     if (m_painted.top || now.top)
-        viewport()->update(0, 0, width(), edgeShadowHeight + qMax(0, pixels));
+        stale += QRect(0, 0, width(), edgeShadowHeight + qMax(0, pixels));
     if (m_painted.bottom || now.bottom) {
         const int edge = edgeShadowHeight + qMax(0, -pixels);
-        viewport()->update(0, height() - edge, width(), edge);
+        stale += QRect(0, height() - edge, width(), edge);
     }
+    viewport()->update(stale - underBars());
+}
+
+/// What the scroll bars cover of the viewport under a style that lets them float above it.
+/// Scrolling paints it anew anyway, together with the bars; asked for here as well, it would be
+/// painted in one go with the edges, and then every row in its whole width.
+QRegion TreeWidget::underBars() const
+{
+    QRegion covered;
+    for (const QScrollBar *bar : {verticalScrollBar(), horizontalScrollBar()}) {
+        if (bar->isVisible())
+            covered += QRect(bar->mapTo(this, QPoint()) - viewport()->pos(), bar->size());
+    }
+    return covered;
 }
 
 void TreeWidget::updateGeometries()

@@ -41,6 +41,7 @@ private:
     Shadows shadows();
     bool offsetIsBelowMaximum();
     int scrolledPixels(int dy) const;
+    QRegion underBars() const;
 
     Shadows m_painted;
 

@@ -1,6 +1,5 @@
 #include "gallerypage.h"
 
-#include <nocturne/GroupBox>
 #include <nocturne/ItemDelegate>
 #include <nocturne/ListWidget>
 #include <nocturne/SimpleListWidget>
@@ -22,15 +21,15 @@ QString clipName(int number)
     return text(QT_TRANSLATE_NOOP("Gallery", "Clip %1")).arg(number);
 }
 
-QWidget *grouped(const char *title, const QList<QWidget *> &widgets)
+QWidget *captioned(const char *caption, const QList<QWidget *> &widgets)
 {
-    auto *group = new GroupBox;
-    group->setTitle(text(title));
-    auto *column = new QVBoxLayout(group);
-    column->setContentsMargins(8, 38, 8, 8);
+    auto *block = new QWidget;
+    auto *column = new QVBoxLayout(block);
+    column->setContentsMargins(4, 4, 4, 4);
+    column->addWidget(new QLabel(text(caption)));
     for (QWidget *widget : widgets)
         column->addWidget(widget);
-    return group;
+    return block;
 }
 
 QLabel *hint(const char *source)
@@ -72,7 +71,7 @@ QWidget *createDropTarget()
         }
         list->scrollToBottom();
     });
-    return grouped(QT_TRANSLATE_NOOP("Gallery", "Drop files here"), {list});
+    return captioned(QT_TRANSLATE_NOOP("Gallery", "Drop files here"), {list});
 }
 
 QWidget *createIconList()
@@ -94,7 +93,7 @@ QWidget *createIconList()
     list->setMinimumSize(400, 240);
     QMetaObject::invokeMethod(
         list, [list] { list->verticalScrollBar()->setValue(60); }, Qt::QueuedConnection);
-    return grouped(QT_TRANSLATE_NOOP("Gallery", "Icons with the item delegate"), {list});
+    return captioned(QT_TRANSLATE_NOOP("Gallery", "Icons with the item delegate"), {list});
 }
 
 QWidget *createMoveLog()
@@ -117,7 +116,8 @@ QWidget *createMoveLog()
                                                                     : text(QT_TRANSLATE_NOOP(
                                                                         "Gallery", "the end"))));
                      });
-    return grouped(QT_TRANSLATE_NOOP("Gallery", "Moves are reported, the host moves"), {list, log});
+    return captioned(QT_TRANSLATE_NOOP("Gallery", "Moves are reported, the host moves"),
+                     {list, log});
 }
 
 QWidget *createSimpleList()
@@ -129,8 +129,8 @@ QWidget *createSimpleList()
         list->addItem(clipName(number));
     for (int row : {1, 2, 4})
         list->item(row)->setSelected(true);
-    return grouped(QT_TRANSLATE_NOOP("Gallery", "Rows dragged as they look"),
-                   {list, hint(QT_TRANSLATE_NOOP("Gallery", "Drag the selected rows."))});
+    return captioned(QT_TRANSLATE_NOOP("Gallery", "Rows dragged as they look"),
+                     {list, hint(QT_TRANSLATE_NOOP("Gallery", "Drag the selected rows."))});
 }
 
 QWidget *createListsPage(QWidget *parent)
