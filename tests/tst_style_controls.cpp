@@ -115,14 +115,16 @@ private slots:
     void pushButtonLabel();
     void toolButtonLabel();
     void comboBoxLabel();
-    void tabShape_data();
-    void tabShape();
+    void tabPieceByPiece_data();
+    void tabPieceByPiece();
     void tabOverlap();
     void triangularTab();
     void headerSection();
     void progressGroove();
     void progressContents_data();
     void progressContents();
+    void progressPieceByPiece_data();
+    void progressPieceByPiece();
     void unstartedProgress();
     void busyProgress();
     void progressLabel();
@@ -299,62 +301,77 @@ void TestStyleControls::comboBoxLabel()
     QVERIFY(isFilled(image, QRect(editor.topLeft(), QSize(20, editor.height())), base));
 }
 
-void TestStyleControls::tabShape_data()
+void TestStyleControls::tabPieceByPiece_data()
 {
     QTest::addColumn<QTabBar::Shape>("shape");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("north") << QTabBar::RoundedNorth << QSize(60, 30);
-    QTest::newRow("south") << QTabBar::RoundedSouth << QSize(60, 30);
-    QTest::newRow("west") << QTabBar::RoundedWest << QSize(30, 50);
-    QTest::newRow("east") << QTabBar::RoundedEast << QSize(30, 50);
+    QTest::addColumn<QTransform>("turn");
+    QTest::addColumn<bool>("framed");
+    const QTransform north;
+    QTransform south;
+    south.rotate(180).translate(0, -30 + 1).scale(-1, 1);
+    QTransform west;
+    west.rotate(270).scale(-1, 1);
+    QTransform east;
+    east.rotate(90).translate(0, -30 + 1);
+    QTest::newRow("north") << QTabBar::RoundedNorth << north << true;
+    QTest::newRow("north, frameless") << QTabBar::RoundedNorth << north << false;
+    QTest::newRow("south") << QTabBar::RoundedSouth << south << true;
+    QTest::newRow("west") << QTabBar::RoundedWest << west << true;
+    QTest::newRow("east") << QTabBar::RoundedEast << east << false;
 }
 
-void TestStyleControls::tabShape()
+void TestStyleControls::tabPieceByPiece()
 {
     QFETCH(QTabBar::Shape, shape);
-    QFETCH(QSize, size);
-    const int depth = qMin(size.width(), size.height());
-    // The unit that is along x of the tab's length and away y from its outer edge. Mirrored tabs
-    // come out one unit nearer to their page.
-    const auto unit = [&](int along, int away) {
-        switch (shape) {
-        case QTabBar::RoundedSouth:
-            return QPoint(along, depth - 2 - away);
-        case QTabBar::RoundedWest:
-            return QPoint(away, along);
-        case QTabBar::RoundedEast:
-            return QPoint(depth - 2 - away, along);
-        default:
-            return QPoint(along, away);
-        }
-    };
-    auto option = makeOption<QStyleOptionTab>(QRect(QPoint(), size));
+    QFETCH(QTransform, turn);
+    QFETCH(bool, framed);
+    const bool upright = shape == QTabBar::RoundedNorth || shape == QTabBar::RoundedSouth;
+    const QRect rect(0, 0, 50, 30);
+    auto option = makeOption<QStyleOptionTab>(upright ? rect : QRect(0, 0, 30, 50));
     option.shape = shape;
     option.position = QStyleOptionTab::OnlyOneTab;
-    const auto colorAt = [&](const QImage &image, int along, int away) {
-        const QPoint place = unit(along, away);
-        return unitColor(image, place.x(), place.y()).name();
-    };
-
-    QImage image = paint(QStyle::CE_TabBarTabShape, option);
-    QCOMPARE(colorAt(image, 20, 1), (background).name());
-    QCOMPARE(colorAt(image, 20, 2), (outline.lighter(110)).name());
-    const QColor resting = window.darker(108);
-    QCOMPARE(colorAt(image, 20, 3),
-             TestSupport::blended(QColor(255, 255, 255, 30), (resting)).name());
-    QCOMPARE(colorAt(image, 20, 10), (resting).name());
-
-    // The selected tab is open to its page. Mirrored, that row is covered by half.
-    option.state = enabled | QStyle::State_Selected;
-    image = paint(QStyle::CE_TabBarTabShape, option);
-    QCOMPARE(colorAt(image, 20, 0), outline.name());
-    QVERIFY(colorAt(image, 20, depth - 2) != background.name());
-    if (shape != QTabBar::RoundedNorth)
-        return;
-    QCOMPARE(colorAt(image, 20, depth - 2), window.name());
-    option.features = QStyleOptionTab::HasFrame;
-    image = paint(QStyle::CE_TabBarTabShape, option);
-    QCOMPARE(colorAt(image, 20, depth - 2), QColor(0x48, 0x48, 0x48).lighter(104).name());
+    if (framed)
+        option.features = QStyleOptionTab::HasFrame;
+    const QColor frame = framed ? QColor(0x48, 0x48, 0x48).lighter(104) : window;
+    const QColor contrast(255, 255, 255, 30);
+    for (const bool selected : {false, true}) {
+        option.state = selected ? enabled | QStyle::State_Selected : enabled;
+        const auto begin = [&](QPainter &painter) {
+            painter.setTransform(turn, true);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.translate(0.5, 0.5);
+        };
+        // The body is kept: its translucent edges meet before they are on the ground.
+        const QImage body = picture(canvas, Qt::transparent, [&](QPainter &painter) {
+            begin(painter);
+            QLinearGradient fill(rect.topLeft(), rect.bottomLeft());
+            fill.setStops(selected ? QGradientStops{{0.0, frame.lighter(104)}, {1.0, frame}}
+                                   : QGradientStops{{0.0, frame.darker(108)},
+                                                    {0.85, frame.darker(108)},
+                                                    {1.0, frame.darker(116)}});
+            const QRect r = rect.adjusted(0, selected ? 0 : 2, 0, 3);
+            painter.setClipRect(rect.adjusted(-1, -1, 1, selected ? -2 : -3));
+            painter.setPen(selected ? outline : outline.lighter(110));
+            painter.setBrush(fill);
+            painter.drawRoundedRect(r.adjusted(0, 0, -1, -1), 2, 2);
+            painter.setBrush(Qt::NoBrush);
+            painter.setPen(contrast);
+            painter.drawRoundedRect(r.adjusted(1, 1, -2, -1), 2, 2);
+        });
+        const QImage expected = picture(canvas, background, [&](QPainter &painter) {
+            painter.drawImage(0, 0, body);
+            if (!selected)
+                return;
+            begin(painter);
+            painter.fillRect(rect.left() + 1, rect.bottom() - 1, rect.width() - 2,
+                             rect.bottom() - 1, frame);
+            painter.setPen(contrast);
+            painter.drawPoint(rect.bottomRight() + QPoint(-2, -1));
+            painter.drawPoint(rect.bottomLeft() + QPoint(0, -1));
+            painter.drawPoint(rect.bottomRight() + QPoint(-1, -1));
+        });
+        QCOMPARE(paint(QStyle::CE_TabBarTabShape, option), expected);
+    }
 }
 
 void TestStyleControls::tabOverlap()
@@ -500,6 +517,71 @@ void TestStyleControls::progressContents()
     image = paint(QStyle::CE_ProgressBarContents, option);
     QVERIFY(isFilled(image, QRect(104, 0, 16, 60), background));
     QVERIFY(isFilled(image, QRect(0, 54, 120, 6), background));
+}
+
+void TestStyleControls::progressPieceByPiece_data()
+{
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<bool>("reversed"); // by right to left, and upright by nothing
+    QTest::newRow("left to right") << Qt::Horizontal << false;
+    QTest::newRow("right to left") << Qt::Horizontal << true;
+    QTest::newRow("downwards") << Qt::Vertical << false;
+    QTest::newRow("upwards") << Qt::Vertical << true;
+}
+
+void TestStyleControls::progressPieceByPiece()
+{
+    QFETCH(Qt::Orientation, orientation);
+    QFETCH(bool, reversed);
+    const bool vertical = orientation == Qt::Vertical;
+    auto option =
+        makeOption<QStyleOptionProgressBar>(vertical ? QRect(0, 0, 20, 50) : QRect(5, 4, 90, 20));
+    option.orientation = orientation;
+    option.direction = reversed && !vertical ? Qt::RightToLeft : Qt::LeftToRight;
+    option.invertedAppearance = vertical && !reversed;
+    option.minimum = 10;
+    option.maximum = 47;
+    const QRect r = vertical ? QRect(0, 0, 50, 20) : option.rect;
+    for (const int progress : {3, 10, 11, 23, 46, 47}) {
+        option.progress = progress;
+        const bool complete = progress == 47;
+        const int width = (qMax(progress, 10) - 10) * r.width() / 37;
+        const QImage expected = picture(canvas, background, [&](QPainter &painter) {
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.translate(0.5, 0.5);
+            if (vertical) {
+                painter.translate(r.height() - 1, -1);
+                painter.rotate(90);
+            }
+            QRect bar(r.left(), r.top(), width - 1, r.height() - 1);
+            if (reversed)
+                bar = QRect(r.right() - width - 1, r.top(), width + 2, r.height() - 1);
+            const int side = reversed ? -1 : 1;
+            const int edge = reversed ? bar.left() : bar.right();
+            for (const int distance : complete ? QVector<int>() : QVector<int>{2, 1}) {
+                painter.setPen(distance == 2 ? QColor(0, 0, 0, 35) : highlight.darker(140));
+                const int x = edge + distance * side;
+                painter.drawLine(x, bar.top() + 1, x, bar.bottom());
+            }
+            if (progress <= 10)
+                return;
+            QLinearGradient gradient(r.topLeft(), r.bottomLeft());
+            gradient.setStops({{0.0, highlight.lighter(120)}, {1.0, highlight}});
+            painter.setPen(outline); // darker than the highlight at 140
+            painter.setBrush(gradient);
+            painter.save();
+            if (!complete)
+                painter.setClipRect(bar.adjusted(-1, -1, -1, 1));
+            const int extra = complete ? 0 : 2;
+            painter.drawRoundedRect(bar.adjusted(reversed ? -extra : 0, 0, reversed ? 0 : extra, 0),
+                                    2, 2);
+            painter.restore();
+            painter.setBrush(Qt::NoBrush);
+            painter.setPen(QColor(255, 255, 255, 50));
+            painter.drawRoundedRect(bar.adjusted(1, 1, -1, -1), 1, 1);
+        });
+        QCOMPARE(paint(QStyle::CE_ProgressBarContents, option), expected);
+    }
 }
 
 void TestStyleControls::unstartedProgress()

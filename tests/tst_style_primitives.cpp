@@ -60,6 +60,12 @@ QColor windowShifted(int shift)
 
 } // namespace
 
+using Drawing = std::function<void(QPainter &painter, const QRect &rect)>;
+
+Q_DECLARE_METATYPE(Drawing)
+Q_DECLARE_METATYPE(QStyle::State)
+Q_DECLARE_METATYPE(QStyle::PrimitiveElement)
+
 class TestStylePrimitives : public QObject
 {
     Q_OBJECT
@@ -69,6 +75,8 @@ private slots:
     void cleanupTestCase() { delete m_style; }
 
     void frames();
+    void drawnPieceByPiece_data();
+    void drawnPieceByPiece();
     void tabFrames();
     void fields();
     void focusFrame();
@@ -133,6 +141,167 @@ void TestStylePrimitives::frames()
     const QComboBoxPrivateContainer container;
     image = paint(QStyle::PE_Frame, option, &container);
     COMPARE_UNIT(image, 15, 15, QColor("#191a1e").lighter(108));
+}
+
+void TestStylePrimitives::drawnPieceByPiece_data()
+{
+    QTest::addColumn<QStyle::PrimitiveElement>("element");
+    QTest::addColumn<QStyle::State>("state");
+    QTest::addColumn<Drawing>("drawing");
+    const auto row = [](const char *name, QStyle::PrimitiveElement element, QStyle::State state,
+                        const Drawing &drawing) {
+        QTest::newRow(name) << element << (enabled | state) << drawing;
+    };
+    const QColor outline = window.darker(140);
+    const QColor base(0x19, 0x1a, 0x1e);
+    const QColor light(0x5a, 0x59, 0x59);
+    const QColor check = QColor(0xbb, 0xbb, 0xbb).darker(120);
+    QColor focus = QColor(0x67, 0x9d, 0xcd).darker(125);
+    focus.setHsl(focus.hue(), focus.saturation(), 160);
+    const auto alpha = [](QColor color, int value) {
+        color.setAlpha(value);
+        return color;
+    };
+    const auto soft = [](QPainter &p) {
+        p.setRenderHint(QPainter::Antialiasing);
+        p.translate(0.5, 0.5);
+    };
+    const auto gradient = [](const QRect &r, const QGradientStops &stops) {
+        QLinearGradient gradient(r.topLeft(), r.bottomLeft());
+        gradient.setStops(stops);
+        return gradient;
+    };
+
+    row("frame", QStyle::PE_Frame, {}, [=](QPainter &p, const QRect &r) {
+        p.setPen(outline.lighter(108));
+        p.drawRect(r.adjusted(0, 0, -1, -1));
+    });
+    row("menu", QStyle::PE_FrameMenu, {}, [=](QPainter &p, const QRect &r) {
+        const QRect f = r.adjusted(1, 1, -1, -1);
+        p.setPen(outline);
+        p.drawRect(r.adjusted(0, 0, -1, -1));
+        p.setPen(window.lighter(160));
+        p.drawLine(f.topLeft(), f.bottomLeft());
+        p.drawLine(f.topLeft(), f.topRight());
+        p.setPen(window.darker(110));
+        p.drawLine(f.topRight(), f.bottomRight());
+        p.drawLine(f.bottomLeft(), f.bottomRight());
+    });
+    const auto dock = [=](const QColor &rim) {
+        return [=](QPainter &p, const QRect &r) {
+            p.setPen(rim);
+            p.drawRect(r.adjusted(0, 0, -1, -1));
+            p.setPen(light);
+            p.drawLine(r.left() + 1, r.top() + 1, r.left() + 1, r.bottom() - 1);
+            p.setPen(window.darker(120));
+            p.drawLine(r.left() + 1, r.bottom() - 1, r.right() - 2, r.bottom() - 1);
+            p.drawLine(r.right() - 1, r.top() + 1, r.right() - 1, r.bottom() - 1);
+        };
+    };
+    row("dock widget", QStyle::PE_FrameDockWidget, {}, dock(window.darker(120)));
+    row("window", QStyle::PE_FrameWindow, {}, dock(outline.darker(150)));
+    row("focus", QStyle::PE_FrameFocusRect, QStyle::State_KeyboardFocusChange,
+        [=](QPainter &p, const QRect &r) {
+            soft(p);
+            p.setPen(alpha(focus, 80).darker(120));
+            p.setBrush(
+                gradient(r, {{0.0, alpha(focus, 30).lighter(160)}, {1.0, alpha(focus, 30)}}));
+            p.drawRoundedRect(r.adjusted(0, 0, -1, -1), 1, 1);
+        });
+    row("line edit", QStyle::PE_FrameLineEdit, {}, [=](QPainter &p, const QRect &r) {
+        soft(p);
+        p.setPen(Qt::NoPen);
+        p.setBrush(windowShifted(-6));
+        p.drawRoundedRect(r.adjusted(0, 1, -1, -2), 2, 2);
+    });
+
+    const auto box = [=](QPainter &p, const QRect &r, const QColor &pen) {
+        soft(p);
+        p.setPen(pen);
+        p.setBrush(gradient(r.adjusted(0, 0, -1, -1),
+                            {{0.0, base.darker(115)}, {0.15, base}, {1.0, base}}));
+        p.drawRect(r.adjusted(0, 0, -1, -1));
+    };
+    row("box", QStyle::PE_IndicatorCheckBox, {},
+        [=](QPainter &p, const QRect &r) { box(p, r, outline.lighter(110)); });
+    row("box, focused", QStyle::PE_IndicatorCheckBox, keyboardFocus,
+        [=](QPainter &p, const QRect &r) { box(p, r, focus); });
+    row("box, half", QStyle::PE_IndicatorCheckBox, QStyle::State_NoChange | QStyle::State_On,
+        [=](QPainter &p, const QRect &r) {
+            box(p, r, outline.lighter(110));
+            const QRect inner = r.adjusted(0, 0, -1, -1);
+            p.setPen(alpha(check, 180));
+            p.setBrush(gradient(inner, {{0.0, alpha(check, 80)}, {1.0, alpha(check, 140)}}));
+            p.drawRect(inner.adjusted(3, 3, -3, -3));
+        });
+    row("box, checked", QStyle::PE_IndicatorCheckBox, QStyle::State_On,
+        [=](QPainter &p, const QRect &r) {
+            box(p, r, outline.lighter(110));
+            p.translate(-0.8, 0.5);
+            p.setPen(QPen(check, 1.8));
+            const qreal w = r.width() - 1;
+            const qreal h = r.height() - 1;
+            p.translate(r.topLeft());
+            const QPointF mark[] = {{5.0, h * 0.5}, {w * 0.5, h - 3}, {w - 3.5, 3.0}};
+            p.drawPolyline(mark, 3);
+        });
+    const auto circle = [=](QPainter &p, const QRect &r, const QColor &pen) {
+        p.setRenderHint(QPainter::Antialiasing);
+        p.setPen(pen);
+        p.setBrush(base);
+        const qreal radius = (r.width() + (r.width() + 1) % 2) * 0.5 - 1;
+        p.drawEllipse(QPointF(r.center() + QPoint(1, 1)), radius, radius);
+        return radius;
+    };
+    row("circle, focused", QStyle::PE_IndicatorRadioButton, keyboardFocus,
+        [=](QPainter &p, const QRect &r) { circle(p, r, focus); });
+    row("circle, chosen", QStyle::PE_IndicatorRadioButton, QStyle::State_On,
+        [=](QPainter &p, const QRect &r) {
+            const qreal radius = circle(p, r, window.darker(150)) / 2.32;
+            p.setPen(alpha(check, 200));
+            p.setBrush(alpha(check, 180));
+            p.drawEllipse(QPointF(r.center() + QPoint(1, 1)), radius, radius);
+        });
+    const auto dots = [](const QVector<int> &columns, const QVector<int> &rows) {
+        return [=](QPainter &p, const QRect &r) {
+            for (const int x : columns) {
+                for (const int y : rows) {
+                    const QPoint dot = r.center() + QPoint(x, y);
+                    p.fillRect(QRect(dot, QSize(2, 2)), QColor(255, 255, 255, 90));
+                    p.fillRect(QRect(dot, QSize(1, 1)), QColor(0, 0, 0, 60));
+                }
+            }
+        };
+    };
+    row("handle", QStyle::PE_IndicatorToolBarHandle, {}, dots({-6, -3, 0, 3, 6, 9}, {-3, 0}));
+    row("handle, horizontal", QStyle::PE_IndicatorToolBarHandle, QStyle::State_Horizontal,
+        dots({-3, 0}, {-8, -5, -2, 1, 4, 7}));
+}
+
+/// The style keeps drawings, and fills what could be drawn as lines: neither may show.
+void TestStylePrimitives::drawnPieceByPiece()
+{
+    QFETCH(QStyle::PrimitiveElement, element);
+    QFETCH(QStyle::State, state);
+    QFETCH(Drawing, drawing);
+    if (qApp->devicePixelRatio() != 1.0)
+        QSKIP("Drawn lines lie across the units there.");
+    for (const QRect &rect : {QRect(4, 5, 14, 14), QRect(7, 12, 31, 22), QRect(20, 20, 8, 11)}) {
+        auto button = makeOption<QStyleOptionButton>(rect, state);
+        auto focus = makeOption<QStyleOptionFocusRect>(rect, state);
+        const bool isFocus = element == QStyle::PE_FrameFocusRect;
+        const QStyleOption &option = isFocus ? static_cast<const QStyleOption &>(focus) : button;
+        // Indicators are kept drawings, whose translucent edges meet before they are on the ground.
+        const bool isKept =
+            element == QStyle::PE_IndicatorCheckBox || element == QStyle::PE_IndicatorRadioButton;
+        const QColor ground = isKept ? QColor(Qt::transparent) : background;
+        const QSize size(60, 60);
+        const QImage drawn =
+            picture(size, ground, [&](QPainter &painter) { drawing(painter, rect); });
+        QCOMPARE(paint(element, option), picture(size, background, [&](QPainter &painter) {
+                     painter.drawImage(0, 0, drawn);
+                 }));
+    }
 }
 
 void TestStylePrimitives::tabFrames()
