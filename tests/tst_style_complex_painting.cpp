@@ -8,6 +8,7 @@
 #include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QStyleOption>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 
@@ -99,6 +100,10 @@ struct PainterState
 
 const QColor accentBlue(65, 155, 249);
 const QColor ink(11, 11, 11);
+const QColor innerContrast(255, 255, 255, 30);
+
+/// Which letter stands for which colour where a picture is written down.
+using Legend = QVector<QPair<char, QColor>>;
 
 } // namespace
 
@@ -121,10 +126,15 @@ private slots:
         option.frame = true;
         const QImage framed = paint(QStyle::CC_SpinBox, option);
         compare(framed, 50, 15, shifted(windowColor(), -11));
-        compare(framed, 3, 15, shifted(windowColor(), -11));
-        compare(framed, 1, 15, m_background);
-        compare(framed, 50, 1, m_background);
-        compare(framed, 2, 2, m_background); // the corner is round
+        // It reaches half a unit beyond (2, 2, 96, 26).
+        for (const QPoint &place : {QPoint(3, 15), QPoint(97, 15), QPoint(50, 3), QPoint(50, 27)})
+            compare(framed, place.x(), place.y(), shifted(windowColor(), -11));
+        for (const QPoint &place : {QPoint(1, 15), QPoint(99, 15), QPoint(50, 1), QPoint(50, 29)})
+            compare(framed, place.x(), place.y(), m_background);
+        // Its corners are round: a circle of radius 6.
+        compare(framed, 5, 5, shifted(windowColor(), -11));
+        for (const QPoint &place : {QPoint(2, 2), QPoint(4, 4), QPoint(2, 5), QPoint(5, 2)})
+            QVERIFY(at(framed, place.x(), place.y()) != shifted(windowColor(), -11));
 
         option.frame = false;
         compare(paint(QStyle::CC_SpinBox, option), 50, 15, m_background);
@@ -146,23 +156,33 @@ private slots:
 
     void spinBoxPressedEdges()
     {
+        // The buttons are (85, 3, 14, 12) and (85, 15, 14, 12), their signs far from the edges.
         auto option = themed<QStyleOptionSpinBox>(QRect(0, 0, 100, 30));
         option.frame = true;
+        option.buttonSymbols = QAbstractSpinBox::PlusMinus;
+        const QImage resting = paint(QStyle::CC_SpinBox, option);
         option.state |= QStyle::State_Sunken;
-        const QColor well = shifted(windowColor(), -11);
-        compare(paint(QStyle::CC_SpinBox, option), 88, 15, well);
+        QCOMPARE(paint(QStyle::CC_SpinBox, option), resting);
 
+        const QColor dark = buttonColor().darker(130);
+        const QRegion shared(86, 15, 13, 1); // the upper edge of the lower button
         option.activeSubControls = QStyle::SC_SpinBoxUp;
         QImage image = paint(QStyle::CC_SpinBox, option);
-        compare(image, 88, 15, buttonColor().darker(130)); // top of the lower button
-        compare(image, 86, 10, buttonColor().darker(130));
-        compare(image, 86, 20, well);
+        QCOMPARE(changedCells(resting, image), shared + QRect(86, 3, 1, 12) + QRect(86, 2, 13, 1));
+        for (const QPoint &place : {QPoint(98, 15), QPoint(86, 14), QPoint(98, 2)})
+            compare(image, place.x(), place.y(), dark);
+
         option.activeSubControls = QStyle::SC_SpinBoxDown;
         image = paint(QStyle::CC_SpinBox, option);
-        compare(image, 88, 15, buttonColor().darker(130));
-        compare(image, 86, 10, well);
-        compare(image, 86, 20, buttonColor().darker(130));
-        compare(image, 90, 27, buttonColor().darker(110));
+        QCOMPARE(changedCells(resting, image),
+                 shared + QRect(86, 15, 1, 12) + QRect(86, 27, 13, 1));
+        for (const QPoint &place : {QPoint(98, 15), QPoint(86, 26)})
+            compare(image, place.x(), place.y(), dark);
+        for (const QPoint &place : {QPoint(86, 27), QPoint(98, 27)})
+            compare(image, place.x(), place.y(), buttonColor().darker(110));
+
+        option.activeSubControls = QStyle::SC_SpinBoxUp | QStyle::SC_SpinBoxDown;
+        QCOMPARE(paint(QStyle::CC_SpinBox, option), resting);
     }
 
     void spinBoxPlusMinus()
@@ -177,14 +197,13 @@ private slots:
 
         // The frameless buttons are (88, 0, 14, 15) and (88, 15, 14, 15).
         const QImage image = paint(QStyle::CC_SpinBox, option);
-        compare(image, 93, 7, plus);
-        compare(image, 97, 7, plus);
-        compare(image, 98, 7, m_background);
-        compare(image, 95, 5, plus);
-        compare(image, 95, 9, plus);
-        compare(image, 93, 22, minus);
-        compare(image, 97, 22, minus);
-        compare(image, 95, 20, m_background);
+        const Legend legend = {{'+', plus}, {'-', minus}};
+        // The middle of the plus is drawn twice.
+        QCOMPARE(drawn(image, QRect(92, 4, 7, 7), legend),
+                 QStringList({"       ", "   +   ", "   +   ", " ++ ++ ", "   +   ", "   +   ",
+                              "       "}));
+        QCOMPARE(drawn(image, QRect(92, 21, 7, 3), legend),
+                 QStringList({"       ", " ----- ", "       "}));
     }
 
     void spinBoxArrowsPointAway()
@@ -387,30 +406,146 @@ private slots:
         QVERIFY(object.dynamicPropertyNames().isEmpty());
     }
 
-    void solidScrollBar()
+    void solidScrollBarHandle_data() { transientScrollBar_data(); }
+
+    void solidScrollBarHandle()
     {
-        auto option = themed<QStyleOptionSlider>(QRect(0, 0, 200, 14));
-        option.maximum = 10;
-        option.pageStep = 10;
-        option.state |= QStyle::State_Sunken;
+        QFETCH(Qt::Orientation, orientation);
+        const bool horizontal = orientation == Qt::Horizontal;
+        auto option = themedScrollBar(orientation);
         option.activeSubControls = QStyle::SC_ScrollBarSlider;
-        m_recorder.setTransient(false);
-        const QColor start = buttonColor().lighter(118);
-        const QColor middle = merged(start, buttonColor(), 40);
-
         const QRect slider = part(option, QStyle::SC_ScrollBarSlider);
-        QImage image = paint(QStyle::CC_ScrollBar, option, &m_recorder);
-        compare(image, slider.center().x(), 7, middle);
-        compare(image, slider.right() + 5, 7, shifted(windowColor(), -12));
+        const int first = horizontal ? slider.left() : slider.top();
+        const int last = horizontal ? slider.right() : slider.bottom();
+        const auto unit = [&](const QImage &image, int along, int across) {
+            return horizontal ? at(image, along, across) : at(image, across, along);
+        };
 
-        const QRect addLine = part(option, QStyle::SC_ScrollBarAddLine);
+        // Pressed, the handle is of one colour.
+        option.state |= QStyle::State_Sunken;
+        const QColor start = buttonColor().lighter(118);
+        const QColor fill = merged(start, buttonColor(), 40);
+        const QColor contrast = TestSupport::blended(innerContrast, fill);
+        const QColor rim = withAlpha(windowColor().darker(140), 180);
+        const QColor groove = shifted(windowColor(), -12);
+        QImage image = paintSolid(option);
+        QCOMPARE(unit(image, first - 2, 7), groove);
+        QCOMPARE(unit(image, first - 1, 7), TestSupport::blended(rim, fill));
+        QCOMPARE(unit(image, first + 3, 0), TestSupport::blended(rim, fill));
+        QCOMPARE(unit(image, last + 1, 7), TestSupport::blended(rim, groove));
+        QCOMPARE(unit(image, last + 2, 7), groove);
+        QCOMPARE(unit(image, first, 7), contrast);
+        QCOMPARE(unit(image, last, 7), contrast);
+        QCOMPARE(unit(image, first + 3, 1), contrast);
+        QCOMPARE(unit(image, first + 3, 13), contrast);
+        for (int across = 2; across < 13; ++across)
+            QCOMPARE(unit(image, first + 3, across), fill);
+
+        // At rest and hovered it is a gradient across the bar.
+        const auto compareGradient = [&](const QColor &from, const QColor &to) {
+            QLinearGradient gradient(0, 0, horizontal ? 0 : 13, horizontal ? 13 : 0);
+            gradient.setStops({{0.0, from}, {1.0, to}});
+            const QImage fills = paintWith(option.rect.size(), [&](QPainter &painter) {
+                painter.fillRect(option.rect, gradient);
+            });
+            image = paintSolid(option);
+            for (int across = 2; across < 13; ++across)
+                QCOMPARE(unit(image, first + 3, across), unit(fills, first + 3, across));
+        };
+        option.state = QStyle::State_Enabled | QStyle::State_MouseOver;
+        compareGradient(start.darker(102), buttonColor().lighter(102));
         option.activeSubControls = QStyle::SC_ScrollBarAddLine;
-        image = paint(QStyle::CC_ScrollBar, option, &m_recorder);
-        compare(image, addLine.left() + 2, 11, buttonColor());
+        compareGradient(buttonColor().lighter(108), buttonColor());
+    }
+
+    void solidScrollBarButtons_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::addColumn<QStyle::SubControl>("button");
+        QTest::addColumn<QStringList>("edges"); // rows 0, 1, 2, 12 and 13
+        QTest::addColumn<QRect>("arrow");
+
+        // o: outline, c: contrast line, x: both, f: fill; O: outline beside the fill.
+        const auto row = [](const char *name, Qt::Orientation orientation,
+                            Qt::LayoutDirection direction, QStyle::SubControl button,
+                            const QStringList &edges, const QRect &arrow) {
+            QTest::newRow(name) << orientation << direction << button << edges << arrow;
+        };
+        const QStyle::SubControl subLine = QStyle::SC_ScrollBarSubLine;
+        const QStyle::SubControl addLine = QStyle::SC_ScrollBarAddLine;
+        row("left", Qt::Horizontal, Qt::LeftToRight, subLine,
+            {".............O", "ccccccccccccco", "cfffffffffffco", "cfffffffffffco",
+             "ccccccccccccco"},
+            QRect(4, 3, 4, 8));
+        row("right", Qt::Horizontal, Qt::LeftToRight, addLine,
+            {"O.............", "occccccccccccc", "ocfffffffffffc", "ocfffffffffffc",
+             "occccccccccccc"},
+            QRect(5, 3, 4, 8));
+        row("right, mirrored", Qt::Horizontal, Qt::RightToLeft, subLine,
+            {"O.............", "xccccccccccccf", "xfffffffffffcf", "xfffffffffffcf",
+             "xccccccccccccf"},
+            QRect(4, 3, 4, 8));
+        row("left, mirrored", Qt::Horizontal, Qt::RightToLeft, addLine,
+            {".............O", "fccccccccccccx", "fcfffffffffffx", "fcfffffffffffx",
+             "fccccccccccccx"},
+            QRect(5, 3, 4, 8));
+        row("up", Qt::Vertical, Qt::LeftToRight, subLine,
+            {".ccccccccccccc", ".cfffffffffffc", ".cfffffffffffc", ".ccccccccccccc",
+             "Oooooooooooooo"},
+            QRect(3, 5, 8, 4));
+        row("down", Qt::Vertical, Qt::LeftToRight, addLine,
+            {"Oooooooooooooo", ".ccccccccccccc", ".cfffffffffffc", ".cfffffffffffc",
+             ".ccccccccccccc"},
+            QRect(3, 5, 8, 4));
+    }
+
+    void solidScrollBarButtons()
+    {
+        QFETCH(Qt::Orientation, orientation);
+        QFETCH(Qt::LayoutDirection, direction);
+        QFETCH(QStyle::SubControl, button);
+        QFETCH(QStringList, edges);
+        QFETCH(QRect, arrow);
+        auto option = themedScrollBar(orientation);
+        option.direction = direction;
+        option.activeSubControls = button;
+        option.state |= QStyle::State_Sunken;
+        const QRect rect = part(option, button);
+        QCOMPARE(rect.size(), QSize(14, 14));
+
+        const QColor rim = withAlpha(windowColor().darker(140), 180);
+        const QColor rimmed = TestSupport::blended(rim, buttonColor());
+        const Legend legend = {{'.', m_background},
+                               {'O', TestSupport::blended(rim, m_background)},
+                               {'o', rimmed},
+                               {'c', TestSupport::blended(innerContrast, buttonColor())},
+                               {'x', TestSupport::blended(innerContrast, rimmed)},
+                               {'f', buttonColor()}};
+        QImage image = paintSolid(option);
+        const QStringList rows = drawn(image, rect, legend);
+        QCOMPARE(rows.mid(0, 3) + rows.mid(12), edges);
+
+        // What changes with the colour of the text is the arrow.
+        option.palette.setColor(QPalette::WindowText, Qt::green);
+        const QRect changes = (changedCells(image, paintSolid(option)) & rect).boundingRect();
+        QVERIFY(arrow.translated(rect.topLeft()).contains(changes));
+        QVERIFY(changes.width() >= arrow.width() - 1 && changes.height() >= arrow.height() - 1);
+
+        // Hovered only.
         option.state &= ~QStyle::State_Sunken;
-        image = paint(QStyle::CC_ScrollBar, option, &m_recorder);
-        compare(image, addLine.left() + 2, 11, middle);
-        m_recorder.setTransient(true);
+        const bool isSubLine = button == QStyle::SC_ScrollBarSubLine;
+        const QColor start = buttonColor().lighter(118);
+        image = paintSolid(option);
+        const QPoint first = rect.topLeft() + QPoint(2, 2);
+        if (isSubLine)
+            QVERIFY(at(image, first.x(), first.y()).red() > buttonColor().lighter(108).red());
+        else
+            compare(image, first.x(), first.y(), merged(start, buttonColor(), 40));
+        option.activeSubControls = QStyle::SC_None;
+        const QImage resting = paintSolid(option);
+        QVERIFY(at(resting, first.x(), first.y()).red() <= buttonColor().lighter(108).red());
+        QVERIFY(at(resting, first.x(), first.y()).red() > buttonColor().red());
     }
 
     void sliderFill()
@@ -453,6 +588,97 @@ private slots:
         image = paint(QStyle::CC_Slider, option);
         compare(image, 18, 40, groove);
         compare(image, 18, 160, accentBlue);
+    }
+
+    void sliderGrooveIsSoftAtTheEdges_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<double>("start"); // of the groove, across
+        QTest::addColumn<double>("end");
+        QTest::addColumn<int>("rim"); // the first line of the fill
+        QTest::newRow("horizontal") << Qt::Horizontal << 2.5 << 6.5 << 1;
+        QTest::newRow("vertical") << Qt::Vertical << 0.5 << 5.5 << 0;
+    }
+
+    void sliderGrooveIsSoftAtTheEdges()
+    {
+        QFETCH(Qt::Orientation, orientation);
+        QFETCH(double, start);
+        QFETCH(double, end);
+        QFETCH(int, rim);
+        const bool horizontal = orientation == Qt::Horizontal;
+        auto option =
+            themedSlider(orientation, horizontal ? QRect(0, 0, 200, 40) : QRect(0, 0, 40, 200));
+        option.subControls = QStyle::SC_SliderGroove;
+        option.state |= QStyle::State_MouseOver;
+        option.sliderPosition = 50;
+        option.upsideDown = false;
+        const QRect groove =
+            m_style.subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove);
+        const QImage image = paint(QStyle::CC_Slider, option);
+        const double ratio = image.devicePixelRatio();
+        const int first = int((horizontal ? groove.top() : groove.left()) * ratio);
+        const int along = int(150 * ratio);
+        for (int i = 0; i < int(7 * ratio); ++i) {
+            const double covered =
+                qBound(0.0, qMin((i + 1) / ratio, end) - qMax(i / ratio, start), 1 / ratio) * ratio;
+            const QColor expected =
+                TestSupport::blended(withAlpha(ink, qRound(128 * covered)), m_background);
+            const QPoint place = horizontal ? QPoint(along, first + i) : QPoint(first + i, along);
+            verifyNear(image.pixelColor(place), expected);
+        }
+
+        // The fill has a rim of ink around it and four or five lines of blue in it.
+        const int last = horizontal ? 6 : 5;
+        const auto fill = [&](int across) {
+            const int offset = horizontal ? groove.top() : groove.left();
+            return horizontal ? at(image, 40, offset + across) : at(image, offset + across, 40);
+        };
+        QCOMPARE(fill(rim), ink);
+        for (int across = rim + 1; across < last; ++across)
+            QCOMPARE(fill(across), accentBlue);
+        QCOMPARE(fill(last), ink);
+    }
+
+    void sliderFillEndsAtTheHandle_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<bool>("upsideDown");
+        QTest::newRow("horizontal") << Qt::Horizontal << false;
+        QTest::newRow("horizontal, upside down") << Qt::Horizontal << true;
+        QTest::newRow("vertical") << Qt::Vertical << false;
+        QTest::newRow("vertical, upside down") << Qt::Vertical << true;
+    }
+
+    void sliderFillEndsAtTheHandle()
+    {
+        QFETCH(Qt::Orientation, orientation);
+        QFETCH(bool, upsideDown);
+        const bool horizontal = orientation == Qt::Horizontal;
+        auto option =
+            themedSlider(orientation, horizontal ? QRect(0, 0, 200, 40) : QRect(0, 0, 40, 200));
+        option.subControls = QStyle::SC_SliderGroove;
+        option.state |= QStyle::State_MouseOver;
+        option.upsideDown = upsideDown;
+        option.sliderPosition = 30;
+        const QRect groove =
+            m_style.subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove);
+        const QRect handle =
+            m_style.subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle);
+        const QImage image = paint(QStyle::CC_Slider, option);
+        QVector<int> blue;
+        for (int along = 10; along < 190; ++along) {
+            const QPoint place =
+                horizontal ? QPoint(along, groove.top() + 4) : QPoint(groove.left() + 3, along);
+            if (at(image, place.x(), place.y()) == accentBlue)
+                blue << along;
+        }
+        if (upsideDown)
+            QCOMPARE(blue.first(), horizontal ? handle.right() : handle.bottom());
+        else
+            QCOMPARE(blue.last(), horizontal ? handle.left() : handle.top());
+        QCOMPARE(blue.last() - blue.first() + 1, blue.size());
+        QCOMPARE(upsideDown ? blue.last() : blue.first(), upsideDown ? 189 : 10);
     }
 
     void sliderFillKeepsTheCallersClip()
@@ -633,43 +859,153 @@ private slots:
         QVERIFY(at(image, 284, 9) != glyph);
     }
 
-    void titleBarShowsOnlyItsButtons()
+    void titleBarCorners()
     {
         auto option = themedTitleBar(int(QStyle::State_Active));
         option.text.clear();
-        option.titleBarFlags =
-            Qt::WindowTitleHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
-        const QImage both = paint(QStyle::CC_TitleBar, option);
-        // (281, 8, 8, 8) is the outline of a window with a thick upper edge.
-        compare(both, 281, 8, Qt::white);
-        compare(both, 284, 9, Qt::white);
-        compare(both, 281, 15, Qt::white);
-        QVERIFY(at(both, 284, 12) != QColor(Qt::white));
-        // Two rows of the minimize symbol, around (264, 11).
-        compare(both, 264, 14, Qt::white);
-        compare(both, 264, 15, Qt::white);
-        QVERIFY(at(both, 264, 13) != QColor(Qt::white));
-
-        option.subControls &= ~QStyle::SC_TitleBarMaxButton;
-        QVERIFY(at(paint(QStyle::CC_TitleBar, option), 284, 9) != QColor(Qt::white));
+        option.subControls = QStyle::SC_TitleBarLabel;
+        const QColor highlight = color(QPalette::Highlight);
+        const Legend legend = {
+            {'.', m_background}, {'#', highlight.darker(180)}, {'h', highlight.lighter(120)}};
+        const QStringList corner = {".....###", ".  ## hh", ". #     ",
+                                    ".#      ", "##      ", "#       "};
+        const QImage image = paint(QStyle::CC_TitleBar, option);
+        QStringList right = drawn(image, QRect(292, 0, 8, 6), legend);
+        for (QString &row : right)
+            std::reverse(row.begin(), row.end());
+        QCOMPARE(drawn(image, QRect(0, 0, 8, 6), legend), corner);
+        QCOMPARE(right, corner);
     }
 
-    void titleBarRestoreSymbolIsTwoWindows()
+    void titleBarSymbols_data()
     {
-        auto option = themedTitleBar(int(QStyle::State_Active) | int(Qt::WindowMaximized));
-        option.rect.setHeight(34);
-        option.titleBarFlags = Qt::WindowTitleHint | Qt::WindowMaximizeButtonHint;
-        option.text.clear();
+        QTest::addColumn<int>("flag");
+        QTest::addColumn<int>("state");
+        QTest::addColumn<QStyle::SubControl>("button");
+        QTest::addColumn<QStringList>("rows"); // of the inner part of the button
+
+        const QString empty = QStringLiteral("        ");
+        const QString full = QStringLiteral("########");
+        const QString sides = QStringLiteral("#      #");
+        const QStringList window = {full, full, sides, sides, sides, sides, sides, full};
+        const QStringList cross = {"##    ##", "###  ###", " ###### ", "  ####  ",
+                                   "  ####  ", " ###### ", "###  ###", "##    ##"};
+        const QStringList twoWindows = {"   #####", "   #####", "   #   #", "#####  #",
+                                        "########", "#   #   ", "#   #   ", "#####   "};
+        const QStringList nothing = {empty, empty, empty, empty, empty, empty, empty, empty};
+        const int minimize = Qt::WindowMinimizeButtonHint;
+        const int maximize = Qt::WindowMaximizeButtonHint;
+        QTest::newRow("minimize") << minimize << 0 << QStyle::SC_TitleBarMinButton
+                                  << nothing.mid(0, 6) + QStringList{full, full};
+        QTest::newRow("maximize") << maximize << 0 << QStyle::SC_TitleBarMaxButton << window;
+        if (qApp->devicePixelRatio() == 1.0) { // slanting lines cross the units anyhow
+            QTest::newRow("close")
+                << int(Qt::WindowSystemMenuHint) << 0 << QStyle::SC_TitleBarCloseButton << cross;
+        }
+        QTest::newRow("restore minimized") << minimize << int(Qt::WindowMinimized)
+                                           << QStyle::SC_TitleBarNormalButton << twoWindows;
+        QTest::newRow("restore maximized") << maximize << int(Qt::WindowMaximized)
+                                           << QStyle::SC_TitleBarNormalButton << twoWindows;
+        QTest::newRow("not requested") << maximize << 0 << QStyle::SC_TitleBarLabel << nothing;
+        QTest::newRow("not allowed") << 0 << 0 << QStyle::SC_TitleBarMaxButton << nothing;
+    }
+
+    void titleBarSymbols()
+    {
+        QFETCH(int, flag);
+        QFETCH(int, state);
+        QFETCH(QStyle::SubControl, button);
+        auto option = themedTitleBar(state | int(QStyle::State_Active));
+        option.titleBarFlags = Qt::WindowTitleHint | Qt::WindowFlags(flag);
+        option.subControls = button;
+        // The only button is (276, 3, 18, 18).
+        QTEST(drawn(paint(QStyle::CC_TitleBar, option), QRect(281, 8, 8, 8), {{'#', Qt::white}}),
+              "rows");
+    }
+
+    void titleBarPictures()
+    {
+        if (qApp->devicePixelRatio() != 1.0)
+            QSKIP("Question mark and arrows are stretched.");
+        auto option = themedTitleBar(int(QStyle::State_Active));
+        option.titleBarFlags = Qt::WindowTitleHint | Qt::WindowContextHelpButtonHint;
+        const Legend white = {{'#', Qt::white}};
+        QCOMPARE(
+            drawn(paint(QStyle::CC_TitleBar, option), QRect(280, 7, 10, 10), white),
+            QStringList({"   ####   ", " ###  ### ", " ##    ## ", "      ##  ", "     ##   ",
+                         "    ##    ", "    ##    ", "          ", "    ##    ", "    ##    "}));
+
+        option.titleBarFlags = Qt::WindowTitleHint | Qt::WindowShadeButtonHint;
+        const QRect arrow(281, 10, 8, 4);
+        const auto lit = [&](int y) {
+            return drawn(paint(QStyle::CC_TitleBar, option), QRect(281, y, 8, 1), white)
+                .first()
+                .count('#');
+        };
+        QVERIFY(lit(arrow.top()) < lit(arrow.bottom()));
+        QCOMPARE(lit(arrow.top() - 1) + lit(arrow.bottom() + 1), 0);
+        option.titleBarState |= Qt::WindowMinimized;
+        QVERIFY(lit(arrow.top()) > lit(arrow.bottom()));
+    }
+
+    void titleBarButtonStates_data()
+    {
+        QTest::addColumn<QStyle::SubControl>("active");
+        QTest::addColumn<QStyle::State>("state");
+        QTest::addColumn<bool>("hovered");
+        QTest::addColumn<bool>("sunken");
+        const QStyle::SubControl close = QStyle::SC_TitleBarCloseButton;
+        const QStyle::State over = QStyle::State_MouseOver;
+        QTest::newRow("resting") << QStyle::SC_None << over << false << false;
+        QTest::newRow("another one") << QStyle::SC_TitleBarMinButton << over << false << false;
+        QTest::newRow("hovered") << close << over << true << false;
+        QTest::newRow("pressed") << close << (over | QStyle::State_Sunken) << true << true;
+    }
+
+    void titleBarButtonStates()
+    {
+        QFETCH(QStyle::SubControl, active);
+        QFETCH(QStyle::State, state);
+        QFETCH(bool, hovered);
+        QFETCH(bool, sunken);
+        auto option = themedTitleBar(int(QStyle::State_Active));
+        option.activeSubControls = active;
+        option.state = QStyle::State_Enabled | state;
         const QImage image = paint(QStyle::CC_TitleBar, option);
-        // Within (271, 8, 18, 18): front (271, 11, 15, 15), back (274, 8, 15, 15).
-        compare(image, 271, 25, Qt::white);
-        compare(image, 285, 12, Qt::white);
-        compare(image, 274, 8, Qt::white);
-        compare(image, 288, 8, Qt::white);
-        compare(image, 288, 22, Qt::white);
-        // The front window hides the left and the lower edge of the back one.
-        QVERIFY(at(image, 274, 17) != QColor(Qt::white));
-        QVERIFY(at(image, 278, 22) != QColor(Qt::white));
+        QColor expected = at(image, 150, 6); // no button, no text
+        if (sunken)
+            expected = color(QPalette::Highlight).darker(120);
+        else if (hovered)
+            expected = TestSupport::blended(QColor(255, 255, 255, 20), expected);
+        compareNear(image, 285, 6, expected);
+    }
+
+    void titleBarText_data() { titleBarColours_data(); }
+
+    void titleBarText()
+    {
+        QFETCH(bool, active);
+        auto option = themedTitleBar(active ? int(QStyle::State_Active) : 0);
+        const QRect label =
+            m_style.subControlRect(QStyle::CC_TitleBar, &option, QStyle::SC_TitleBarLabel);
+        const QFontMetrics metrics(QApplication::font());
+        QString text;
+        while (metrics.horizontalAdvance(text) <= label.width() - 14)
+            text += QLatin1Char('i');
+        const QString elided = metrics.elidedText(text, Qt::ElideRight, label.width() - 14);
+        QVERIFY(elided != text);
+
+        const QImage expected = paintWith(option.rect.size(), [&](QPainter &painter) {
+            m_style.drawComplexControl(QStyle::CC_TitleBar, &option, &painter);
+            const QColor text = color(QPalette::Text);
+            painter.setPen(active ? text.lighter(120) : text);
+            painter.drawText(label.translated(1, 1), Qt::AlignCenter, elided);
+            painter.setPen(Qt::white);
+            if (active)
+                painter.drawText(label, Qt::AlignCenter, elided);
+        });
+        option.text = text;
+        QCOMPARE(paint(QStyle::CC_TitleBar, option), expected);
     }
 
     void wrongOptionsPaintNothing()
@@ -753,6 +1089,25 @@ private:
         return option;
     }
 
+    QStyleOptionSlider themedScrollBar(Qt::Orientation orientation) const
+    {
+        const bool horizontal = orientation == Qt::Horizontal;
+        auto option =
+            themed<QStyleOptionSlider>(horizontal ? QRect(0, 0, 200, 14) : QRect(0, 0, 14, 200));
+        option.orientation = orientation;
+        option.maximum = 10;
+        option.sliderPosition = 5;
+        option.pageStep = 10;
+        return option;
+    }
+    QImage paintSolid(const QStyleOptionSlider &option)
+    {
+        m_recorder.setTransient(false);
+        const QImage image = paint(QStyle::CC_ScrollBar, option, &m_recorder);
+        m_recorder.setTransient(true);
+        return image;
+    }
+
     QColor color(QPalette::ColorRole role) const { return m_theme->palette().color(role); }
     QColor windowColor() const { return color(QPalette::Window); }
     static QColor buttonColor() { return QColor(0x48, 0x48, 0x48); } // of the theme's #3c3c3c
@@ -788,9 +1143,14 @@ private:
         paint(control, option, &m_recorder);
         return m_recorder.takePieces();
     }
-    QRect part(const QStyleOptionSlider &option, QStyle::SubControl subControl) const
+    /// Where a part of a solid scroll bar lies.
+    QRect part(const QStyleOptionSlider &option, QStyle::SubControl subControl)
     {
-        return m_recorder.subControlRect(QStyle::CC_ScrollBar, &option, subControl, nullptr);
+        m_recorder.setTransient(false);
+        const QRect rect =
+            m_recorder.subControlRect(QStyle::CC_ScrollBar, &option, subControl, nullptr);
+        m_recorder.setTransient(true);
+        return rect;
     }
 
     /// The colour of a unit, or rather of its first pixel.
@@ -807,7 +1167,10 @@ private:
     /// For two translucent layers, which meet in the cache before they meet the background.
     void compareNear(const QImage &image, int x, int y, const QColor &expected) const
     {
-        const QColor actual = at(image, x, y);
+        verifyNear(at(image, x, y), expected);
+    }
+    void verifyNear(const QColor &actual, const QColor &expected) const
+    {
         QVERIFY(qAbs(actual.red() - expected.red()) <= 1);
         QVERIFY(qAbs(actual.green() - expected.green()) <= 1);
         QVERIFY(qAbs(actual.blue() - expected.blue()) <= 1);
@@ -818,6 +1181,35 @@ private:
         for (int x = area.left(); x <= area.right(); ++x)
             count += at(image, x, y) != background;
         return count;
+    }
+    /// One letter a unit of \a area: that of its colour in \a legend, or a space.
+    QStringList drawn(const QImage &image, const QRect &area, const Legend &legend) const
+    {
+        QStringList rows;
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            QString row;
+            for (int x = area.left(); x <= area.right(); ++x) {
+                const QColor color = at(image, x, y);
+                const auto entry = std::find_if(legend.cbegin(), legend.cend(), [&](auto &known) {
+                    return known.second.rgba() == color.rgba();
+                });
+                row += QLatin1Char(entry == legend.cend() ? ' ' : entry->first);
+            }
+            rows << row;
+        }
+        return rows;
+    }
+    QRegion changedCells(const QImage &before, const QImage &after) const
+    {
+        const int ratio = int(before.devicePixelRatio());
+        QRegion region;
+        for (int y = 0; y < before.height() / ratio; ++y) {
+            for (int x = 0; x < before.width() / ratio; ++x) {
+                if (at(before, x, y) != at(after, x, y))
+                    region += QRect(x, y, 1, 1);
+            }
+        }
+        return region;
     }
     /// The smallest rectangle in \a area with everything that differs from \a background.
     QRect changedIn(const QImage &image, const QRect &area, const QColor &background) const

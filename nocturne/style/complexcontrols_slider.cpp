@@ -177,7 +177,8 @@ void paintSlider(const QStyle *style, const QStyleOptionSlider *option, QPainter
         paintSliderGroove(option, painter, groove, key);
         paintSliderFill(option, painter, groove, handle, key + QLatin1String("_blue"));
     }
-    if (option->subControls & QStyle::SC_SliderTickmarks) {
+    if (option->subControls & QStyle::SC_SliderTickmarks
+        && option->tickPosition != QSlider::NoTicks) {
         const PainterSaver saver(painter);
         paintSliderTicks(style, option, painter, widget);
     }

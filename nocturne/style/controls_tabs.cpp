@@ -40,9 +40,8 @@ bool isRounded(QTabBar::Shape shape)
     return shape >= QTabBar::RoundedNorth && shape <= QTabBar::RoundedEast;
 }
 
-/// Turns the painter so that a tab at any side is painted as one above its page. Returns the tab's
-/// rectangle as the turned painter sees it.
-QRect turnUpright(QPainter *painter, QTabBar::Shape shape, const QRect &rect)
+/// What turns the painter so that a tab at any side is painted as one above its page.
+QTransform uprightTurn(QTabBar::Shape shape, const QRect &rect)
 {
     QTransform turn;
     switch (shape) {
@@ -50,21 +49,25 @@ QRect turnUpright(QPainter *painter, QTabBar::Shape shape, const QRect &rect)
         turn.rotate(180);
         turn.translate(0, -rect.height() + 1);
         turn.scale(-1, 1);
-        painter->setTransform(turn, true);
-        return rect;
+        break;
     case QTabBar::RoundedWest:
         turn.rotate(270);
         turn.scale(-1, 1);
-        painter->setTransform(turn, true);
-        return transposed(rect);
+        break;
     case QTabBar::RoundedEast:
         turn.rotate(90);
         turn.translate(0, -rect.width() + 1);
-        painter->setTransform(turn, true);
-        return transposed(rect);
+        break;
     default:
-        return rect;
+        break;
     }
+    return turn;
+}
+
+/// \a rect as the turned painter sees it.
+QRect uprightRect(QTabBar::Shape shape, const QRect &rect)
+{
+    return shape == QTabBar::RoundedWest || shape == QTabBar::RoundedEast ? transposed(rect) : rect;
 }
 
 QBrush tabFill(const QRect &rect, const QColor &color, bool selected)
@@ -82,23 +85,25 @@ QBrush tabFill(const QRect &rect, const QColor &color, bool selected)
 }
 
 /// Outline, fill and the bright line inside, all cut off where the page begins.
-void paintTabBody(const PaintCall &call, const QRect &rect, const QColor &color, bool selected)
+void paintTabBody(QPainter *painter, const PaintCall &call, const QRect &rect, const QColor &color)
 {
-    const PainterSaver saver(call.painter);
+    const bool selected = call.has(QStyle::State_Selected);
     const QColor outline = StyleColors::outlineColor(call.palette());
     const QRect body = rect.adjusted(0, selected ? 0 : unselectedTabOffset, 0, 3);
-    call.painter->setClipRect(rect.adjusted(-1, -1, 1, selected ? -2 : -3));
-    call.painter->setPen(selected ? outline : outline.lighter(110));
-    call.painter->setBrush(tabFill(rect, color, selected));
-    call.painter->drawRoundedRect(body.adjusted(0, 0, -1, -1), tabRadius, tabRadius);
-    call.painter->setBrush(Qt::NoBrush);
-    call.painter->setPen(StyleColors::fixed(StyleColors::innerContrastLine));
-    call.painter->drawRoundedRect(body.adjusted(1, 1, -2, -1), tabRadius, tabRadius);
+    beginSharpAntialiasing(painter);
+    painter->setClipRect(rect.adjusted(-1, -1, 1, selected ? -2 : -3));
+    painter->setPen(selected ? outline : outline.lighter(110));
+    painter->setBrush(tabFill(rect, color, selected));
+    painter->drawRoundedRect(body.adjusted(0, 0, -1, -1), tabRadius, tabRadius);
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(StyleColors::fixed(StyleColors::innerContrastLine));
+    painter->drawRoundedRect(body.adjusted(1, 1, -2, -1), tabRadius, tabRadius);
 }
 
 /// Opens a selected tab to its page: the fill runs on as far down as anything is visible.
 void paintTabFoot(QPainter *painter, const QRect &rect, const QColor &color)
 {
+    beginSharpAntialiasing(painter);
     const QRect foot(rect.left() + 1, rect.bottom() - 1, rect.width() - 2, rect.bottom() - 1);
     if (!foot.isEmpty())
         painter->fillRect(foot, color);
@@ -120,17 +125,26 @@ void paintTabShape(const PaintCall &call)
                                               call.widget);
         return;
     }
-    const bool selected = call.has(QStyle::State_Selected);
-    const QColor color = tab->features & QStyleOptionTab::HasFrame
-                             ? StyleColors::tabFrameColor(call.palette())
-                             : call.color(QPalette::Window);
-
-    const PainterSaver saver(call.painter);
-    const QRect rect = turnUpright(call.painter, tab->shape, overlappingRect(call, *tab));
-    beginSharpAntialiasing(call.painter);
-    paintTabBody(call, rect, color, selected);
-    if (selected)
+    const bool hasFrame = tab->features & QStyleOptionTab::HasFrame;
+    const QColor color =
+        hasFrame ? StyleColors::tabFrameColor(call.palette()) : call.color(QPalette::Window);
+    const QRect whole = overlappingRect(call, *tab);
+    const QRect rect = uprightRect(tab->shape, whole);
+    const QTransform turn = uprightTurn(tab->shape, whole);
+    // What is painted may lie a unit beside the tab.
+    const QRect area = turn.mapRect(rect.adjusted(-2, -2, 2, 2));
+    const QString prefix =
+        QLatin1String(hasFrame ? "framedtab" : "tab") + QChar(static_cast<ushort>(tab->shape));
+    drawKept(call.painter, area.topLeft(), prefix, tab, area.size(), [&](QPainter *painter) {
+        painter->translate(-area.topLeft());
+        painter->setTransform(turn, true);
+        paintTabBody(painter, call, rect, color);
+    });
+    if (call.has(QStyle::State_Selected)) {
+        const PainterSaver saver(call.painter);
+        call.painter->setTransform(turn, true);
         paintTabFoot(call.painter, rect, color);
+    }
 }
 
 } // namespace StylePaint

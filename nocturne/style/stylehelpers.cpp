@@ -1,6 +1,7 @@
 #include "stylehelpers_p.h"
 
 #include "stylecolors_p.h"
+#include "stylepainting_p.h"
 
 #include <nocturne/theme/toolkitexports_p.h>
 
@@ -159,6 +160,23 @@ int arrowRotation(QStyle::PrimitiveElement element)
     }
 }
 
+/// The size that colorizedImage() gives the arrow of \a element.
+QSize arrowImageSize(QStyle::PrimitiveElement element)
+{
+    static const QSize upward = sourceImage(arrowImageFileName()).size();
+    return arrowRotation(element) % 180 == 0 ? upward : upward.transposed();
+}
+
+QString scaledArrowPrefix(QStyle::PrimitiveElement element, const QColor &color)
+{
+    const QString name = QStringLiteral("arrow");
+    QString prefix(name.size() + 3, Qt::Uninitialized);
+    KeyWriter writer(std::copy(name.cbegin(), name.cend(), prefix.data()));
+    writer.put16(static_cast<uint>(element));
+    writer.put32(color.rgba());
+    return prefix;
+}
+
 /// The largest rectangle in the proportions of \a pixmap inside the square of the shortest side
 /// of both, centred in \a rect.
 QRect arrowRect(const QRect &rect, const QSize &pixmap)
@@ -313,13 +331,19 @@ void drawArrowImage(QStyle::PrimitiveElement element, QPainter *painter, const Q
 {
     if (!option || option->rect.width() <= 1 || option->rect.height() <= 1)
         return;
-    const QPixmap pixmap = colorizedImage(
-        arrowImageFileName(), option->palette.color(QPalette::WindowText), arrowRotation(element));
-    if (pixmap.isNull())
+    const QSize imageSize = arrowImageSize(element);
+    if (imageSize.isEmpty())
         return;
-    const PainterSaver saver(painter);
-    painter->setRenderHint(QPainter::SmoothPixmapTransform);
-    painter->drawPixmap(arrowRect(option->rect, pixmap.size()), pixmap);
+    const QRect rect = arrowRect(option->rect, imageSize);
+    const QColor color = option->palette.color(QPalette::WindowText);
+    const auto paintScaled = [&](QPainter *scaled) {
+        scaled->setRenderHint(QPainter::SmoothPixmapTransform);
+        scaled->drawPixmap(QRect(QPoint(), rect.size()),
+                           colorizedImage(arrowImageFileName(), color, arrowRotation(element)));
+    };
+    // The colour alone, not the option: those who paint arrows change their palettes at each paint.
+    StylePaint::drawKept(painter, rect.topLeft(), scaledArrowPrefix(element, color), nullptr,
+                         rect.size(), paintScaled);
 }
 
 void drawToolButtonArrow(const QStyle *style, const QStyleOptionToolButton *option,

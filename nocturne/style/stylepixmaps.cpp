@@ -1,5 +1,6 @@
 #include "darkfusionstyle.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtGui/QIcon>
 #include <QtGui/QPixmap>
 
@@ -55,6 +56,43 @@ constexpr Xpm closeSymbol = windowSymbol({
     "@ $@   @$ @",
 });
 
+/// The icons on the buttons of dock widgets, as long as there is an application and it keeps to one
+/// icon theme.
+class DockIcons
+{
+public:
+    static DockIcons &instance()
+    {
+        static DockIcons icons;
+        return icons;
+    }
+
+    /// Null until it is assigned.
+    QIcon &icon(QStyle::StandardPixmap which)
+    {
+        if (m_theme != QIcon::themeName())
+            clear();
+        return which == QStyle::SP_TitleBarCloseButton ? m_close : m_float;
+    }
+
+private:
+    DockIcons()
+    {
+        qAddPostRoutine([] { instance().clear(); });
+    }
+
+    void clear()
+    {
+        m_theme = QIcon::themeName();
+        m_close = QIcon();
+        m_float = QIcon();
+    }
+
+    QString m_theme;
+    QIcon m_close;
+    QIcon m_float;
+};
+
 } // namespace
 
 QPixmap DarkFusionStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption *option,
@@ -76,7 +114,15 @@ QPixmap DarkFusionStyle::standardPixmap(StandardPixmap pixmap, const QStyleOptio
 QIcon DarkFusionStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
                                     const QWidget *widget) const
 {
-    return QCommonStyle::standardIcon(icon, option, widget);
+    // A dock widget's title asks for its buttons' icons at each paint, and the common style reads
+    // them from files.
+    if (icon != SP_TitleBarCloseButton && icon != SP_TitleBarNormalButton)
+        return QCommonStyle::standardIcon(icon, option, widget);
+    DockIcons &icons = DockIcons::instance();
+    QIcon &kept = icons.icon(icon);
+    if (kept.isNull())
+        kept = QCommonStyle::standardIcon(icon, option, widget);
+    return kept;
 }
 
 QPixmap DarkFusionStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,

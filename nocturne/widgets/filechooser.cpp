@@ -1,10 +1,9 @@
 #include "filechooser.h"
 
-#include "mediafilter_p.h"
+#include "filepicking_p.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -65,9 +64,7 @@ QString FileChooser::askForPath()
 {
     const QString current = m_lineEdit->text();
     if (m_mode != OpenFile)
-        return QFileDialog::getExistingDirectory(this, current, QString(),
-                                                 QFileDialog::ShowDirsOnly);
-    return QFileDialog::getOpenFileName(
-        this, current, QFileInfo(current).absolutePath(),
-        mediaFilter(tr("Media (*.%1)"), OpenImageFile | OpenVideoFile | OpenAudioFile));
+        return pickDirectory(this, current);
+    return pickFile(this, current, QFileInfo(current).absolutePath(),
+                    mediaFilter(tr("Media (*.%1)"), OpenImageFile | OpenVideoFile | OpenAudioFile));
 }

@@ -52,6 +52,7 @@ GradientTool::GradientTool(QWidget *parent)
     addStop(1.0, Qt::black);
     setActiveSlider(0);
     setContentsMargins(contentsMargin, contentsMargin, contentsMargin, contentsMargin);
+    m_colorDialog->setWindowTitle(tr("Select color"));
     connect(m_colorDialog, &QColorDialog::currentColorChanged, this, &GradientTool::colorChange);
     drawBackground();
 }

@@ -3,6 +3,8 @@
 #include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
 
+#include <QtWidgets/QWidget>
+
 #include <memory>
 
 namespace {
@@ -29,6 +31,19 @@ public:
 
     /// Without this, the colours of the desktop would win over those of the style.
     void polish(QPalette &palette) override { palette = themePalette().resolve(palette); }
+
+    /// The text of a web page is black unless the page says otherwise, but its paper is the
+    /// palette's Base. Such a view keeps the white paper that pages are written for.
+    void polish(QWidget *widget) override
+    {
+        DarkFusionStyle::polish(widget);
+        if (!widget || !widget->inherits("QWebView"))
+            return;
+        QPalette palette = widget->palette();
+        palette.setColor(QPalette::Base, Qt::white);
+        palette.setColor(QPalette::Text, Qt::black);
+        widget->setPalette(palette);
+    }
 };
 
 } // namespace

@@ -1,0 +1,124 @@
+#include "gallerypage.h"
+
+#include <nocturne/CheckComboBox>
+#include <nocturne/ComboBox>
+#include <nocturne/ComboBoxDelegate>
+#include <nocturne/ComboBoxListView>
+#include <nocturne/FontComboBox>
+
+#include <QtWidgets/QFormLayout>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+
+namespace {
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("Gallery", source);
+}
+
+void addSources(ComboBox *combo)
+{
+    combo->addParentItem(text(QT_TRANSLATE_NOOP("Gallery", "Cameras")));
+    combo->addChildItem(text(QT_TRANSLATE_NOOP("Gallery", "Stage left")), 1);
+    combo->addChildItem(text(QT_TRANSLATE_NOOP("Gallery", "Stage right")), 2);
+    combo->insertSeparator(combo->count());
+    combo->addParentItem(text(QT_TRANSLATE_NOOP("Gallery", "Clips")));
+    combo->addChildItem(text(QT_TRANSLATE_NOOP("Gallery", "Intro")), 3);
+    combo->addChildItem(text(QT_TRANSLATE_NOOP("Gallery", "Interview")), 4);
+    combo->setCurrentIndex(combo->findData(2));
+}
+
+ComboBox *createGroupedCombo()
+{
+    auto *combo = new ComboBox;
+    combo->setView(new ComboBoxListView(combo));
+    addSources(combo);
+    return combo;
+}
+
+CheckComboBox *createCheckCombo(const QVector<Qt::CheckState> &states)
+{
+    const char *const outputs[] = {
+        QT_TRANSLATE_NOOP("Gallery", "Program"),
+        QT_TRANSLATE_NOOP("Gallery", "Preview"),
+        QT_TRANSLATE_NOOP("Gallery", "Recorder"),
+    };
+    auto *combo = new CheckComboBox;
+    combo->setNoneCheckedText(text(QT_TRANSLATE_NOOP("Gallery", "No output")));
+    combo->setAllCheckedText(text(QT_TRANSLATE_NOOP("Gallery", "All outputs")));
+    combo->setUndeterminedText(text(QT_TRANSLATE_NOOP("Gallery", "Undetermined")));
+    for (int i = 0; i < states.size(); ++i)
+        combo->addCheckItem(text(outputs[i]), i, states.at(i));
+    return combo;
+}
+
+/// The list of \a combo, which is else seen only while its popup is open.
+template <typename Delegate>
+QWidget *createOpenList(QComboBox *combo)
+{
+    auto *list = new QListView;
+    combo->setParent(list);
+    combo->hide();
+    list->setModel(combo->model());
+    list->setItemDelegate(new Delegate(list));
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setCurrentIndex(combo->model()->index(combo->currentIndex(), 0));
+    list->setMinimumHeight(170);
+    return list;
+}
+
+QWidget *createFontPreview()
+{
+    auto *row = new QWidget;
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto *fonts = new FontComboBox;
+    auto *sample = new QLabel(text(QT_TRANSLATE_NOOP("Gallery", "Tonight live from the studio")));
+    const auto show = [sample](QFont font) {
+        font.setPointSize(16);
+        sample->setFont(font);
+    };
+    show(fonts->currentFont());
+    QObject::connect(fonts, &FontComboBox::highlightFontChanged, sample, show);
+    QObject::connect(fonts, &QFontComboBox::currentFontChanged, sample, show);
+    fonts->setMinimumWidth(200);
+    layout->addWidget(fonts);
+    layout->addWidget(sample, 1);
+    return row;
+}
+
+QWidget *createCombosPage(QWidget *parent)
+{
+    auto *page = new QWidget(parent);
+    auto *form = new QFormLayout(page);
+    const auto add = [form](const char *caption, QWidget *field) {
+        form->addRow(text(caption), field);
+    };
+
+    add(QT_TRANSLATE_NOOP("Gallery", "Grouped"), createGroupedCombo());
+    add(QT_TRANSLATE_NOOP("Gallery", "Its list"),
+        createOpenList<ComboBoxDelegate>(createGroupedCombo()));
+
+    const auto checked = Qt::Checked;
+    const auto unchecked = Qt::Unchecked;
+    add(QT_TRANSLATE_NOOP("Gallery", "None checked"),
+        createCheckCombo({unchecked, unchecked, unchecked}));
+    add(QT_TRANSLATE_NOOP("Gallery", "Some checked"),
+        createCheckCombo({checked, unchecked, checked}));
+    add(QT_TRANSLATE_NOOP("Gallery", "All checked"), createCheckCombo({checked, checked, checked}));
+    add(QT_TRANSLATE_NOOP("Gallery", "Partially checked"),
+        createCheckCombo({checked, Qt::PartiallyChecked, unchecked}));
+    add(QT_TRANSLATE_NOOP("Gallery", "Without items"), createCheckCombo({}));
+    add(QT_TRANSLATE_NOOP("Gallery", "Their list"),
+        createOpenList<CheckComboBox::QCheckListStyledItemDelegate>(
+            createCheckCombo({checked, Qt::PartiallyChecked, unchecked})));
+
+    add(QT_TRANSLATE_NOOP("Gallery", "Font with preview"), createFontPreview());
+    return page;
+}
+
+} // namespace
+
+GALLERY_PAGE(410, "combos", QT_TRANSLATE_NOOP("Gallery", "Grouped and check combo boxes"),
+             createCombosPage)

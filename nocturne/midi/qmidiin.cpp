@@ -1,0 +1,52 @@
+#include "qmidiin.h"
+
+#include "midiport_p.h"
+
+namespace {
+
+constexpr unsigned int queueLimit = 100;
+
+std::unique_ptr<RtMidiIn> createInput(RtMidi::Api interface)
+{
+    return std::make_unique<RtMidiIn>(interface, "RtMidi Input Client", queueLimit);
+}
+
+} // namespace
+
+void receiveMidiMessage(double seconds, std::vector<unsigned char> *bytes, void *input)
+{
+    if (bytes && !bytes->empty())
+        emit static_cast<QMidiIn *>(input)->midiMessageReceived(decodeMidiMessage(seconds, *bytes));
+}
+
+QMidiIn::QMidiIn(QObject *parent)
+    : QObject(parent)
+    , m_port(std::make_unique<MidiPort>("RtMidi Input"))
+{
+    // Queued delivery by a string-based connection finds the type by its name.
+    qRegisterMetaType<QMidiMessage>();
+    m_device = m_port->createDevice<RtMidiIn>("input", createInput);
+    m_port->guarded([this] { m_device->setCallback(receiveMidiMessage, this); });
+}
+
+QMidiIn::~QMidiIn()
+{
+    // The service may be delivering a message at this moment; the device waits for it to finish,
+    // while this object is still whole.
+    m_device.reset();
+}
+
+QStringList QMidiIn::portNames()
+{
+    return m_port->portNames();
+}
+
+bool QMidiIn::openPort(const QString &name)
+{
+    return m_port->openPort(name);
+}
+
+void QMidiIn::openVirtualPort(const QString &name)
+{
+    m_port->openVirtualPort(name);
+}

@@ -1,0 +1,94 @@
+#ifndef NOCTURNE_JACKSERVER_H
+#define NOCTURNE_JACKSERVER_H
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QProcess>
+#include <QtCore/QStandardPaths>
+#include <QtCore/QThread>
+
+#include <rtmidi/RtMidi.h>
+
+#include <csignal>
+#include <sys/prctl.h>
+
+/// A JACK server of the program's own, under a name of its own and without a sound card. This
+/// process uses it as its default server until the object ends.
+class JackServer
+{
+public:
+    ~JackServer() { stop(); }
+
+    static bool isInstalled()
+    {
+        return !QStandardPaths::findExecutable(QStringLiteral("jackd")).isEmpty();
+    }
+
+    /// Starts the server; false when it is not installed or does not come up.
+    bool start()
+    {
+        const QString name = QStringLiteral("nocturne-%1").arg(QCoreApplication::applicationPid());
+        qputenv("JACK_DEFAULT_SERVER", name.toLatin1());
+        qputenv("JACK_NO_START_SERVER", "1");
+        qputenv("JACK_NO_AUDIO_RESERVATION", "1");
+        m_process.setProcessChannelMode(QProcess::MergedChannels);
+        // Few ports, for machines with little shared memory. Synchronous and with a long timeout,
+        // because a client that is late in a cycle would lose the messages of that cycle.
+        m_process.start(QStringLiteral("jackd"),
+                        QStringLiteral("--no-realtime --no-mlock --sync --timeout 5000 "
+                                       "--port-max 64 --name %1 -d dummy --period 2048")
+                            .arg(name)
+                            .split(QLatin1Char(' ')));
+        if (!m_process.waitForStarted(5000))
+            return false;
+        QElapsedTimer timer;
+        timer.start();
+        while (!answers()) {
+            if (timer.hasExpired(15000) || m_process.state() == QProcess::NotRunning)
+                return false;
+            QThread::msleep(200);
+        }
+        return true;
+    }
+
+    void stop()
+    {
+        m_process.terminate();
+        if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(5000))
+            kill();
+    }
+
+    /// Ends the server as a crash would.
+    void kill()
+    {
+        m_process.kill();
+        m_process.waitForFinished(5000);
+    }
+
+private:
+    static bool answers()
+    {
+        bool failed = false;
+        try {
+            RtMidiOut probe(RtMidi::UNIX_JACK, "probe");
+            probe.setErrorCallback([](RtMidiError::Type, const std::string &,
+                                      void *flag) { *static_cast<bool *>(flag) = true; },
+                                   &failed);
+            probe.getPortCount();
+        } catch (const RtMidiError &) {
+            failed = true;
+        }
+        return !failed;
+    }
+
+    /// Ends with this program, even if that crashes.
+    class Process : public QProcess
+    {
+    protected:
+        void setupChildProcess() override { ::prctl(PR_SET_PDEATHSIG, SIGKILL); }
+    };
+
+    Process m_process;
+};
+
+#endif

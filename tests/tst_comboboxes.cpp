@@ -1,0 +1,343 @@
+#include "testsupport.h"
+
+#include <nocturne/CheckComboBox>
+#include <nocturne/ComboBox>
+#include <nocturne/ComboBoxDelegate>
+#include <nocturne/ComboBoxListView>
+#include <nocturne/FontComboBox>
+
+#include <QtGui/QStandardItemModel>
+#include <QtGui/QWheelEvent>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
+
+namespace {
+
+void addGroups(ComboBox &combo)
+{
+    combo.addParentItem(QStringLiteral("Cameras"));
+    combo.addChildItem(QStringLiteral("Left"), 11);
+    combo.addChildItem(QStringLiteral("Right"), 12);
+    combo.insertSeparator(3);
+    combo.addParentItem(QStringLiteral("Clips"));
+    combo.addChildItem(QStringLiteral("Intro"), 21);
+}
+
+/// One row of \a combo as its delegate paints it on white.
+QImage paintedRow(QComboBox &combo, int row, const QAbstractItemDelegate &delegate,
+                  Qt::TextElideMode elide = Qt::ElideRight, int width = 120)
+{
+    QStyleOptionViewItem option;
+    option.initFrom(&combo);
+    option.font = combo.font();
+    option.rect = QRect(0, 0, width, 20);
+    option.state = QStyle::State_Enabled;
+    option.textElideMode = elide;
+    option.palette.setColor(QPalette::Text, Qt::black);
+    option.palette.setColor(QPalette::Disabled, QPalette::Text, Qt::red);
+    const QModelIndex index = combo.model()->index(row, 0);
+    if (!(index.flags() & Qt::ItemIsEnabled))
+        option.state = QStyle::State_None;
+    return TestSupport::paintOn({width, 20}, Qt::white, [&](QPainter &painter) {
+        painter.setRenderHint(QPainter::TextAntialiasing, false);
+        delegate.paint(&painter, option, index);
+    });
+}
+
+int leftmostInk(const QImage &image)
+{
+    for (int x = 0; x < image.width(); ++x)
+        for (int y = 0; y < image.height(); ++y)
+            if (image.pixelColor(x, y) != Qt::white)
+                return x;
+    return -1;
+}
+
+/// Turns the wheel over \a widget. Only an event from the window system goes on to the parents.
+void turnWheel(QWidget &widget)
+{
+    QWheelEvent wheel(QPointF(5, 5), widget.mapToGlobal(QPoint(5, 5)), QPoint(), QPoint(0, -120),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&wheel);
+    qApp->notify(&widget, &wheel);
+}
+
+/// A check combo box with the items A, B and C, and the states it has reported.
+class CheckFixture
+{
+public:
+    CheckFixture()
+    {
+        combo.setNoneCheckedText(QStringLiteral("none"));
+        combo.setAllCheckedText(QStringLiteral("all"));
+        combo.setUndeterminedText(QStringLiteral("?"));
+        for (const char *text : {"A", "B", "C"})
+            items << combo.addCheckItem(QLatin1String(text), QLatin1String(text), Qt::Unchecked);
+        QObject::connect(&combo, &CheckComboBox::globalCheckStateChanged, &combo,
+                         [this](int state) { states << state; });
+        combo.resize(150, 30);
+        combo.show();
+    }
+
+    QString summary() const { return combo.lineEdit()->text(); }
+
+    /// Where a click on the check box of \a row goes.
+    QPoint boxOf(int row) const
+    {
+        return combo.view()->visualRect(items.at(row)->index()).topLeft() + QPoint(10, 8);
+    }
+
+    CheckComboBox combo;
+    QVector<QStandardItem *> items;
+    QVector<int> states;
+};
+
+} // namespace
+
+class TestComboBoxes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void groups()
+    {
+        ComboBox combo;
+        QCOMPARE(combo.focusPolicy(), Qt::StrongFocus);
+        addGroups(combo);
+        QCOMPARE(combo.count(), 6);
+        QVERIFY(qobject_cast<QStandardItemModel *>(combo.model()));
+        QVERIFY(combo.itemDelegate()->inherits("ComboBoxDelegate"));
+        const QStringList kinds{QStringLiteral("parent"), QStringLiteral("child"),
+                                QStringLiteral("child"),  QStringLiteral("separator"),
+                                QStringLiteral("parent"), QStringLiteral("child")};
+        for (int row = 0; row < combo.count(); ++row) {
+            QCOMPARE(combo.itemData(row, Qt::AccessibleDescriptionRole).toString(), kinds.at(row));
+            const Qt::ItemFlags flags = combo.model()->index(row, 0).flags();
+            const Qt::ItemFlags choosable = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+            QCOMPARE((flags & choosable) == choosable, kinds.at(row) == QLatin1String("child"));
+        }
+        QCOMPARE(combo.itemText(1), QStringLiteral("Left    "));
+        combo.setCurrentIndex(combo.findData(12));
+        QCOMPARE(combo.currentIndex(), 2);
+        QCOMPARE(combo.currentData().toInt(), 12);
+        QCOMPARE(combo.currentData(Qt::DisplayRole).toString(), QStringLiteral("Right    "));
+    }
+
+    void aChildBeforeAnyParent()
+    {
+        ComboBox combo;
+        combo.addItem(QStringLiteral("plain"));
+        combo.addChildItem(QStringLiteral("orphan"), 1);
+        combo.addParentItem(QStringLiteral("group"));
+        QCOMPARE(combo.count(), 2);
+        QVERIFY(combo.itemDelegate()->inherits("ComboBoxDelegate"));
+    }
+
+    void keysPassHeadingsOver()
+    {
+        ComboBox combo;
+        addGroups(combo);
+        combo.show();
+        combo.setCurrentIndex(2);
+        QTest::keyClick(&combo, Qt::Key_Down);
+        QCOMPARE(combo.currentIndex(), 5);
+        QTest::keyClick(&combo, Qt::Key_Home);
+        QCOMPARE(combo.currentIndex(), 1);
+    }
+
+    void wheelScrollsTheAreaAround_data()
+    {
+        QTest::addColumn<QComboBox *>("combo");
+        auto *grouped = new ComboBox;
+        addGroups(*grouped);
+        grouped->setCurrentIndex(1);
+        QTest::newRow("ComboBox") << static_cast<QComboBox *>(grouped);
+        auto *checks = new CheckComboBox;
+        for (const char *text : {"A", "B"})
+            checks->addCheckItem(QLatin1String(text), {}, Qt::Unchecked);
+        QTest::newRow("CheckComboBox") << static_cast<QComboBox *>(checks);
+        QTest::newRow("FontComboBox") << static_cast<QComboBox *>(new FontComboBox);
+    }
+
+    void wheelScrollsTheAreaAround()
+    {
+        QFETCH(QComboBox *, combo);
+        QScrollArea area;
+        auto *content = new QWidget;
+        content->resize(200, 2000);
+        combo->setParent(content);
+        area.setWidget(content);
+        area.resize(220, 200);
+        area.show();
+        const int current = combo->currentIndex();
+        turnWheel(*combo);
+        QCOMPARE(combo->currentIndex(), current);
+        QVERIFY(area.verticalScrollBar()->value() > 0);
+    }
+
+    void delegatePaintsByKind()
+    {
+        ComboBox combo;
+        addGroups(combo);
+        combo.addItem(QStringLiteral("Left    "));
+        const ComboBoxDelegate delegate;
+        const QItemDelegate plain;
+        QStyleOptionViewItem option;
+        QCOMPARE(delegate.sizeHint(option, combo.model()->index(3, 0)), QSize(0, 10));
+        QCOMPARE(delegate.sizeHint(option, combo.model()->index(1, 0)),
+                 plain.sizeHint(option, combo.model()->index(1, 0)));
+
+        const QImage separator = paintedRow(combo, 3, delegate);
+        for (int x : {0, 60, 119}) {
+            COMPARE_PIXEL(separator, x, 8, Qt::white);
+            COMPARE_PIXEL(separator, x, 9, Qt::gray);
+            COMPARE_PIXEL(separator, x, 10, Qt::white);
+        }
+
+        const QImage heading = paintedRow(combo, 0, delegate);
+        bool hasRed = false;
+        for (int x = 0; x < heading.width(); ++x)
+            for (int y = 0; y < heading.height(); ++y)
+                hasRed |= heading.pixelColor(x, y) == Qt::red;
+        QVERIFY(leftmostInk(heading) >= 0);
+        QVERIFY(!hasRed);
+        QVERIFY(heading != paintedRow(combo, 0, plain));
+
+        const QImage child = paintedRow(combo, 1, delegate);
+        const QImage other = paintedRow(combo, 6, delegate);
+        QCOMPARE(other, paintedRow(combo, 6, plain));
+        const int indent = QFontMetrics(combo.font()).horizontalAdvance(QStringLiteral("    "));
+        QCOMPARE(leftmostInk(child), leftmostInk(other) + indent);
+
+        // Too narrow a row cuts the text off without dots.
+        QCOMPARE(paintedRow(combo, 1, delegate, Qt::ElideRight, 40),
+                 paintedRow(combo, 1, delegate, Qt::ElideNone, 40));
+    }
+
+    void listViewKnowsItsComboBox()
+    {
+        auto *combo = new QComboBox;
+        auto *view = new ComboBoxListView(combo);
+        QVERIFY(!view->parent());
+        QCOMPARE(view->comboBox(), combo);
+        combo->setView(view);
+        QCOMPARE(combo->view(), view);
+        delete combo;
+    }
+
+    void summaries()
+    {
+        CheckFixture f;
+        QCOMPARE(f.combo.globalCheckState(), 0);
+        QCOMPARE(f.summary(), QStringLiteral("none"));
+        QCOMPARE(f.items.at(1)->data(Qt::UserRole + 1).toString(), QStringLiteral("B"));
+        QCOMPARE(f.items.at(1)->flags(), Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
+
+        f.items.at(2)->setCheckState(Qt::Checked);
+        QCOMPARE(f.summary(), QStringLiteral("C"));
+        f.items.at(0)->setCheckState(Qt::Checked);
+        QCOMPARE(f.summary(), QStringLiteral("A, C"));
+        f.items.at(1)->setCheckState(Qt::Checked);
+        QCOMPARE(f.summary(), QStringLiteral("all"));
+        f.items.at(1)->setCheckState(Qt::PartiallyChecked);
+        QCOMPARE(f.summary(), QStringLiteral("?"));
+        for (QStandardItem *item : f.items)
+            item->setCheckState(Qt::Unchecked);
+        QCOMPARE(f.states, QVector<int>({1, 1, 2, 3, 3, 1, 0}));
+
+        f.combo.addCheckItem(QStringLiteral("D"), {}, Qt::Checked);
+        QCOMPARE(f.summary(), QStringLiteral("D"));
+        QCOMPARE(f.states.size(), 7);
+        f.combo.clear();
+        QCOMPARE(f.combo.globalCheckState(), 3);
+        QCOMPARE(f.summary(), QStringLiteral("?"));
+    }
+
+    void everyPressToggles()
+    {
+        CheckFixture f;
+        QTest::mousePress(f.combo.lineEdit(), Qt::LeftButton);
+        QVERIFY(f.combo.view()->isVisible());
+        QTest::mouseRelease(f.combo.lineEdit(), Qt::LeftButton);
+        QTest::qWait(QApplication::doubleClickInterval() + 50);
+
+        QWidget *popup = f.combo.view()->viewport();
+        const QPoint besideTheBox = f.boxOf(1) + QPoint(60, 0);
+        for (const QPoint &position : {f.boxOf(1), besideTheBox}) {
+            QTest::mouseClick(popup, Qt::LeftButton, {}, position);
+            QCOMPARE(f.items.at(1)->checkState(), Qt::Checked);
+            // A fast second click arrives as a double click.
+            QTest::mouseDClick(popup, Qt::LeftButton, {}, position);
+            QCOMPARE(f.items.at(1)->checkState(), Qt::Unchecked);
+        }
+        QCOMPARE(f.states, QVector<int>({1, 0, 1, 0}));
+        f.combo.view()->setCurrentIndex(f.items.at(2)->index());
+        QTest::keyClick(f.combo.view(), Qt::Key_Space);
+        QCOMPARE(f.items.at(2)->checkState(), Qt::Checked);
+        QVERIFY(f.combo.view()->isVisible());
+    }
+
+    void theSummaryStays()
+    {
+        CheckFixture f;
+        f.items.at(0)->setCheckState(Qt::Checked);
+        f.items.at(1)->setCheckState(Qt::Checked);
+        QLineEdit *field = f.combo.lineEdit();
+        field->setFocus();
+        field->selectAll();
+        QVERIFY(!field->hasSelectedText());
+        for (Qt::Key key : {Qt::Key_X, Qt::Key_Down, Qt::Key_Return, Qt::Key_Backspace}) {
+            QTest::keyClick(field, key);
+            QCOMPARE(f.summary(), QStringLiteral("A, B"));
+        }
+        f.combo.setCurrentIndex(2);
+        QCOMPARE(f.summary(), QStringLiteral("A, B"));
+        QCOMPARE(f.combo.count(), 3);
+    }
+
+    void fontPreview_data()
+    {
+        QTest::addColumn<bool>("choose");
+        QTest::newRow("cancelled") << false;
+        QTest::newRow("chosen") << true;
+    }
+
+    void fontPreview()
+    {
+        QFETCH(bool, choose);
+        FontComboBox combo;
+        QCOMPARE(combo.sizeHint(), QSize(79, 26));
+        if (combo.count() < 3)
+            QSKIP("There are too few fonts");
+        combo.setCurrentIndex(0);
+        combo.show();
+        QStringList previews;
+        connect(&combo, &FontComboBox::highlightFontChanged, this, [&](const QFont &font) {
+            previews << font.family();
+            if (combo.view()->isVisible())
+                QCOMPARE(font, QFont(font.family()));
+        });
+        combo.showPopup();
+        previews.clear();
+        QTest::keyClick(combo.view(), Qt::Key_Down);
+        QTest::keyClick(combo.view(), Qt::Key_Down);
+        QStringList expected{combo.itemText(1), combo.itemText(2)};
+        QCOMPARE(previews, expected);
+
+        QTest::keyClick(combo.view(), choose ? Qt::Key_Return : Qt::Key_Escape);
+        expected << combo.itemText(0);
+        if (choose)
+            expected << combo.itemText(2);
+        QCOMPARE(previews, expected);
+        QCOMPARE(previews.last(), combo.currentFont().family());
+
+        QCoreApplication::processEvents();
+        combo.setCurrentIndex(1);
+        QCOMPARE(previews, expected);
+    }
+};
+
+NOCTURNE_TEST_MAIN(TestComboBoxes)
+
+#include "tst_comboboxes.moc"
