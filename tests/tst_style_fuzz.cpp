@@ -137,11 +137,11 @@ public:
         return palette;
     }
 
-    /// One of the first \a count values of an enumeration, or the one after them.
+    /// One of the first \a count values of an enumeration.
     template <typename Enum>
     Enum value(int count)
     {
-        return static_cast<Enum>(below(count + 1));
+        return static_cast<Enum>(below(count));
     }
 
     template <typename Flags>
@@ -306,7 +306,7 @@ private:
     {
         auto &option = make<QStyleOptionToolBar>();
         option.positionOfLine = m_chance.value<QStyleOptionToolBar::ToolBarPosition>(4);
-        option.toolBarArea = static_cast<Qt::ToolBarArea>(1 << m_chance.below(5));
+        option.toolBarArea = static_cast<Qt::ToolBarArea>(1 << m_chance.below(4));
     }
 
     void makeRubberBand() { make<QStyleOptionRubberBand>().opaque = m_chance.coin(); }

@@ -57,6 +57,12 @@ Look lookOf(const QImage &image)
 
 } // namespace
 
+/// Known to the style by its name only, as the views of web engines are.
+class QWebView : public QWidget
+{
+    Q_OBJECT
+};
+
 class tst_StylePlugin : public QObject
 {
     Q_OBJECT
@@ -69,6 +75,7 @@ private slots:
     void paletteWithoutTheme();
     void paletteOfTheProgramsTheme();
     void applicationPalette();
+    void paperOfWebPages();
     void realProgram_data();
     void realProgram();
 
@@ -137,6 +144,22 @@ void tst_StylePlugin::applicationPalette()
     QApplication::setPalette(QPalette());
     QApplication::setStyle(QStringLiteral("Fusion"));
     QVERIFY(QApplication::palette().color(QPalette::Window).lightness() > 200);
+}
+
+void tst_StylePlugin::paperOfWebPages()
+{
+    const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("DarkFusion")));
+    const QPalette dark = style->standardPalette();
+    QWebView view;
+    QWidget other;
+    for (QWidget *widget : {static_cast<QWidget *>(&view), &other}) {
+        widget->setPalette(dark);
+        style->polish(widget);
+    }
+    QCOMPARE(view.palette().color(QPalette::Base), QColor(Qt::white));
+    QCOMPARE(view.palette().color(QPalette::Text), QColor(Qt::black));
+    QCOMPARE(view.palette().color(QPalette::Window), dark.color(QPalette::Window));
+    QCOMPARE(other.palette(), dark);
 }
 
 QString tst_StylePlugin::grabDesigner(const XServer &server, const QString &directory)

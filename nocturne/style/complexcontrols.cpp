@@ -46,13 +46,16 @@ bool hasHugeRange(const QStyleOptionSlider *option)
 /// except for a huge range.
 bool isSound(const QStyleOptionSlider *option)
 {
-    return !hasHugeRange(option) && option->maximum >= option->minimum && option->pageStep >= 0;
+    return !hasHugeRange(option) && option->pageStep >= 0
+           && option->minimum <= option->sliderPosition
+           && option->sliderPosition <= option->maximum;
 }
 
 /// The nearest sound option; a huge range is halved.
 QStyleOptionSlider madeSound(QStyleOptionSlider option)
 {
     option.maximum = qMax(option.minimum, option.maximum);
+    option.sliderPosition = qBound(option.minimum, option.sliderPosition, option.maximum);
     option.pageStep = qMax(0, option.pageStep);
     if (hasHugeRange(&option)) {
         for (int *value : {&option.minimum, &option.maximum, &option.sliderPosition,
