@@ -778,6 +778,8 @@ private slots:
 
         QTest::newRow("given") << 25 << 100 << 1 << 5;
         QTest::newRow("single step wide enough") << 0 << 20 << 1 << 21;
+        QTest::newRow("single step of three pixels") << 0 << 70 << 1 << 71;
+        QTest::newRow("single step of two pixels") << 0 << 80 << 1 << 9;
         QTest::newRow("single step too narrow") << 0 << 100 << 1 << 11; // the page step is ten
         QTest::newRow("last one clamped") << 3 << 11 << 1 << 5;         // 0 3 6 9 11
         QTest::newRow("not reached") << 40 << 100 << 1 << 3;
