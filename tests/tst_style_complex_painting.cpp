@@ -346,33 +346,35 @@ private slots:
     {
         QFETCH(Qt::Orientation, orientation);
         const bool horizontal = orientation == Qt::Horizontal;
-        auto option =
-            themed<QStyleOptionSlider>(horizontal ? QRect(0, 0, 200, 14) : QRect(0, 0, 14, 200));
-        option.orientation = orientation;
-        option.maximum = 10;
-        option.pageStep = 10;
-        const auto comparePart = [&](const QImage &image, int along, int across,
-                                     const QColor &expected) {
-            compare(image, horizontal ? along : across, horizontal ? across : along, expected);
+        auto option = themedScrollBar(orientation);
+        const auto moved = [&](QStyle::SubControl part) {
+            QRect rect = m_style.subControlRect(QStyle::CC_ScrollBar, &option, part);
+            return horizontal ? rect.adjusted(0, 5, 0, 0) : rect.adjusted(5, 0, 0, 0);
         };
-
-        QImage image = paint(QStyle::CC_ScrollBar, option);
-        comparePart(image, 150, 4, m_background);
-        comparePart(image, 150, 5, shifted(windowColor(), -12));
-        comparePart(image, 150, 13, shifted(windowColor(), -12));
+        const QRect groove = moved(QStyle::SC_ScrollBarGroove);
         // The handle is a unit wider to the left, whichever way the bar runs.
-        const int handleEdge = horizontal ? 7 : 6;
-        comparePart(image, 50, handleEdge - 1, shifted(windowColor(), -12));
-        comparePart(image, 50, handleEdge, shifted(windowColor(), 20));
-        comparePart(image, 50, 12, shifted(windowColor(), 20));
-        comparePart(image, 50, 13, shifted(windowColor(), -12));
-        comparePart(image, 101, 9, shifted(windowColor(), -12));
-
+        const QRect slider = moved(QStyle::SC_ScrollBarSlider);
+        const QRect handle =
+            horizontal ? slider.adjusted(0, 2, -1, -1) : slider.adjusted(1, 1, -1, -1);
+        const qreal radius = 3.0; // half of the six units across that it had before
+        QCOMPARE(handle.size(),
+                 horizontal ? QSize(slider.width() - 1, 6) : QSize(7, slider.height() - 2));
+        const auto expected = [&](int shift) {
+            return paintWith(option.rect.size(), [&](QPainter &painter) {
+                painter.fillRect(groove, shifted(windowColor(), -12));
+                if (shift == 0)
+                    return;
+                painter.setRenderHint(QPainter::Antialiasing);
+                painter.setPen(Qt::NoPen);
+                painter.setBrush(shifted(windowColor(), shift));
+                painter.drawRoundedRect(handle, radius, radius);
+            });
+        };
+        QCOMPARE(paint(QStyle::CC_ScrollBar, option), expected(20));
         option.state |= QStyle::State_MouseOver;
-        image = paint(QStyle::CC_ScrollBar, option);
-        comparePart(image, 50, 9, shifted(windowColor(), 40));
+        QCOMPARE(paint(QStyle::CC_ScrollBar, option), expected(40));
         option.subControls = QStyle::SC_ScrollBarGroove;
-        comparePart(paint(QStyle::CC_ScrollBar, option), 50, 9, shifted(windowColor(), -12));
+        QCOMPARE(paint(QStyle::CC_ScrollBar, option), expected(0));
     }
 
     void transientScrollBarRemembersWhatItShowed()
