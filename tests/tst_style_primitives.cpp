@@ -475,8 +475,8 @@ void TestStylePrimitives::flatButton()
     QVERIFY(isFilled(image, QRect(6, 27, 36, 1), Qt::black));
     QVERIFY(isFilled(image, QRect(4, 8, 1, 18), Qt::black));
     QVERIFY(isFilled(image, QRect(43, 8, 1, 18), Qt::black));
-    COMPARE_UNIT(image, 5, 7, QColor(Qt::black));
-    COMPARE_UNIT(image, 42, 26, QColor(Qt::black));
+    for (const QPoint &corner : {QPoint(5, 7), QPoint(42, 7), QPoint(5, 26), QPoint(42, 26)})
+        COMPARE_UNIT(image, corner.x(), corner.y(), QColor(Qt::black));
     COMPARE_UNIT(image, 5, 6, background);
     COMPARE_UNIT(image, 20, 15, background);
 
