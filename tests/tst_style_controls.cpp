@@ -958,10 +958,17 @@ void TestStyleControls::dockWidgetTitle()
     option.rect = QRect(10, 5, 22, 50);
     option.verticalTitleBar = true;
     option.title = QStringLiteral("HH");
-    const QImage image = paint(QStyle::CE_DockWidgetTitle, option);
-    QVERIFY(!isFilled(image, option.rect, background));
-    QVERIFY(isFilled(image, QRect(0, 0, 120, 25), background));
-    QVERIFY(isFilled(image, QRect(33, 0, 87, 60), background));
+    const QRect upright =
+        m_style->subElementRect(QStyle::SE_DockWidgetTitleBarText, &option); // of a turned bar
+    const QImage expected = picture(canvas, background, [&](QPainter &painter) {
+        // The lower end of the bar is where the turned text begins.
+        painter.translate(upright.left(), upright.bottom() + 1);
+        painter.rotate(-90);
+        painter.setPen(option.palette.color(QPalette::WindowText));
+        painter.drawText(QRect(0, 0, upright.height(), upright.width()),
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, option.title);
+    });
+    QCOMPARE(paint(QStyle::CE_DockWidgetTitle, option), expected);
 }
 
 void TestStyleControls::toolBar_data()

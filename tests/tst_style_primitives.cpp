@@ -284,7 +284,10 @@ void TestStylePrimitives::drawnPieceByPiece()
     QFETCH(QStyle::PrimitiveElement, element);
     QFETCH(QStyle::State, state);
     QFETCH(Drawing, drawing);
-    if (qApp->devicePixelRatio() != 1.0)
+    const bool hasFilledLines = element == QStyle::PE_Frame || element == QStyle::PE_FrameMenu
+                                || element == QStyle::PE_FrameDockWidget
+                                || element == QStyle::PE_FrameWindow;
+    if (hasFilledLines && qApp->devicePixelRatio() != 1.0)
         QSKIP("Drawn lines lie across the units there.");
     for (const QRect &rect : {QRect(4, 5, 14, 14), QRect(7, 12, 31, 22), QRect(20, 20, 8, 11)}) {
         auto button = makeOption<QStyleOptionButton>(rect, state);
