@@ -1137,6 +1137,8 @@ private slots:
             QVERIFY(changedIn(paint(control, plain), plain.rect, m_background).isNull());
             paintWith(QSize(10, 10), [&](QPainter &painter) {
                 m_style.drawComplexControl(control, nullptr, &painter);
+                paintAnything(control, QRect(0, 0, 10, 10), m_theme->palette(), Qt::LeftToRight,
+                              nullptr);
             });
         }
         QVERIFY(m_style.hitTestComplexControl(QStyle::CC_MdiControls, nullptr, QPoint())
@@ -1168,7 +1170,7 @@ private slots:
                         painter.setBrush(Qt::yellow);
                         painter.translate(0.25, 0.0);
                         const PainterState before(painter);
-                        paintAnything(control, rect, palette, direction, painter);
+                        paintAnything(control, rect, palette, direction, &painter);
                         QVERIFY(before == PainterState(painter));
                     });
                     if (rect.isEmpty())
@@ -1366,15 +1368,15 @@ private:
     }
     template <typename Option>
     void paintThing(QStyle::ComplexControl control, Option option, const QRect &rect,
-                    const QPalette &palette, Qt::LayoutDirection direction, QPainter &painter) const
+                    const QPalette &palette, Qt::LayoutDirection direction, QPainter *painter) const
     {
         option.rect = rect;
         option.palette = palette;
         option.direction = direction;
-        m_style.drawComplexControl(control, &option, &painter);
+        m_style.drawComplexControl(control, &option, painter);
     }
     void paintAnything(QStyle::ComplexControl control, const QRect &rect, const QPalette &palette,
-                       Qt::LayoutDirection direction, QPainter &painter) const
+                       Qt::LayoutDirection direction, QPainter *painter) const
     {
         switch (control) {
         case QStyle::CC_SpinBox:
