@@ -193,6 +193,22 @@ private slots:
         QCOMPARE(count(image, before, track), before.width() * before.height());
     }
 
+    /// The knob can be clicked at either end, and the track between.
+    void slideCheckBoxIsHitAnywhere()
+    {
+        SlideCheckBox box;
+        box.resize(120, 34);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        bool on = false;
+        for (const QPoint &place : {QPoint(2, 2), QPoint(60, 17), QPoint(117, 31), QPoint(17, 17)})
+        {
+            QTest::mouseClick(&box, Qt::LeftButton, Qt::NoModifier, place);
+            on = !on;
+            QCOMPARE(box.isChecked(), on);
+        }
+    }
+
     void groupChecksById()
     {
         ButtonGroup group;

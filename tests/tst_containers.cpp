@@ -227,6 +227,72 @@ private slots:
         QVERIFY(count(image, edit.rect(), w(-11)) > 100);
     }
 
+    void groupBoxIsMirrored()
+    {
+        GroupBox box;
+        box.setLayoutDirection(Qt::RightToLeft);
+        box.setCheckable(true);
+        box.resize(160, 60);
+        box.setTitle(QStringLiteral("M"));
+        const QImage image = TestSupport::render(box);
+        for (int x : {142, 152})
+            COMPARE_PIXEL(image, x, 12, accent);
+        COMPARE_PIXEL(image, 12, 12, nothing);
+        COMPARE_PIXEL(image, 139, 12, nothing);
+        COMPARE_PIXEL(image, 140, 12, w(-5));
+        COMPARE_PIXEL(image, 154, 12, w(-5));
+        COMPARE_PIXEL(image, 155, 12, nothing);
+        QVERIFY(count(image, QRect(115, 0, 20, 25), caption) > 5);
+        QCOMPARE(count(image, QRect(0, 0, 115, 25), nothing), 115 * 25);
+    }
+
+    void groupBoxIsClicked_data()
+    {
+        QTest::addColumn<bool>("rightToLeft");
+        QTest::newRow("left to right") << false;
+        QTest::newRow("right to left") << true;
+    }
+
+    /// Everywhere on the painted square, and on the title.
+    void groupBoxIsClicked()
+    {
+        QFETCH(bool, rightToLeft);
+        GroupBox box;
+        box.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+        box.setTitle(QStringLiteral("Title"));
+        box.setCheckable(true);
+        box.resize(160, 60);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        QSignalSpy toggled(&box, &GroupBox::toggled);
+        QSignalSpy clicked(&box, &GroupBox::clicked);
+        const auto click = [&](const QPoint &from, const QPoint &to) {
+            const auto place = [&](const QPoint &p) {
+                return rightToLeft ? QPoint(box.width() - 1 - p.x(), p.y()) : p;
+            };
+            QTest::mousePress(&box, Qt::LeftButton, Qt::NoModifier, place(from));
+            QTest::mouseRelease(&box, Qt::LeftButton, Qt::NoModifier, place(to));
+        };
+
+        int clicks = 0;
+        for (const QPoint &place : {QPoint(5, 5), QPoint(19, 5), QPoint(12, 12), QPoint(5, 19),
+                                    QPoint(19, 19), QPoint(30, 12)})
+        {
+            click(place, place);
+            QCOMPARE(clicked.count(), ++clicks);
+            QCOMPARE(toggled.count(), clicks);
+        }
+        for (const QPoint &place : {QPoint(12, 40), QPoint(150, 12)}) {
+            click(place, place);
+            click(QPoint(19, 19), place);
+            click(place, QPoint(19, 19));
+        }
+        QCOMPARE(toggled.count(), clicks);
+        box.setCheckable(false);
+        click(QPoint(19, 19), QPoint(19, 19));
+        QCOMPARE(toggled.count(), clicks);
+    }
+
     void tabCaptionsFollowTheMouse()
     {
         const std::unique_ptr<TabBar> bar(

@@ -6,6 +6,7 @@
 #include <nocturne/ProgressIndicator>
 #include <nocturne/RoundProgressBar>
 
+#include <QtGui/QAccessible>
 #include <QtGui/QPainterPath>
 
 #include <cmath>
@@ -222,6 +223,30 @@ private slots:
         QVERIFY(brush.gradient());
         QCOMPARE(brush.gradient()->type(), QGradient::ConicalGradient);
         QCOMPARE(brush.gradient()->stops(), QGradientStops({{0.75, Qt::blue}, {1.0, Qt::red}}));
+    }
+
+    void ringIsAccessible()
+    {
+        RoundProgressBar ring;
+        ring.setRange(0, 4096);
+        ring.setFormat(QStringLiteral("%byte"));
+        ring.setTitle(QStringLiteral("Stream"), pixelFont(12), pixelFont(24), 1.0, true);
+        ring.show();
+        ring.setValue(2048);
+
+        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&ring);
+        QVERIFY(interface);
+        QCOMPARE(interface->role(), QAccessible::ProgressBar);
+        QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Stream"));
+        QCOMPARE(interface->text(QAccessible::Value), QStringLiteral("2.0 KB/s"));
+        QAccessibleValueInterface *value = interface->valueInterface();
+        QVERIFY(value);
+        QCOMPARE(value->currentValue().toDouble(), 2048.0);
+        QCOMPARE(value->maximumValue().toDouble(), 4096.0);
+        value->setCurrentValue(1);
+        QCOMPARE(ring.value(), 2048.0);
+        ring.setAccessibleName(QStringLiteral("Upload"));
+        QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Upload"));
     }
 
     void barFillsValueOverMaximum_data()

@@ -199,13 +199,17 @@ private slots:
 
     void coincidingHandles()
     {
-        TestSpan slider;
-        slider.setSpan(50, 50);
-        slider.dragFromTo(50, 40);
-        QCOMPARE(slider.span(), Ints({40, 50}));
-        slider.setSpan(50, 50);
-        slider.dragFromTo(50, 70);
-        QCOMPARE(slider.span(), Ints({50, 70}));
+        for (SpanSlider::HandleMovementMode mode :
+             {SpanSlider::FreeMovement, SpanSlider::NoCrossing}) {
+            TestSpan slider;
+            slider.setHandleMovementMode(mode);
+            slider.setSpan(50, 50);
+            slider.dragFromTo(50, 40);
+            QCOMPARE(slider.span(), Ints({40, 50}));
+            slider.setSpan(50, 50);
+            slider.dragFromTo(50, 70);
+            QCOMPARE(slider.span(), Ints({50, 70}));
+        }
     }
 
     void releaseCommitsWithoutTracking()

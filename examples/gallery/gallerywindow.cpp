@@ -27,8 +27,9 @@ GalleryWindow::GalleryWindow(QWidget *parent)
     bar->setMovable(false);
     m_rightToLeft = bar->addAction(QString());
     m_rightToLeft->setCheckable(true);
-    connect(m_rightToLeft, &QAction::toggled, this, [](bool on) {
+    connect(m_rightToLeft, &QAction::toggled, this, [splitter](bool on) {
         QApplication::setLayoutDirection(on ? Qt::RightToLeft : Qt::LeftToRight);
+        splitter->refresh(); // it does not turn by itself before it is resized
     });
     m_enabled = bar->addAction(QString());
     m_enabled->setCheckable(true);

@@ -5,6 +5,8 @@
 
 #include <QtWidgets/QStyleOption>
 
+#include <limits>
+
 namespace {
 
 template <typename Option>
@@ -34,7 +36,41 @@ QRect placedAs(Place<Option> place, const QStyle *style, const QStyleOptionCompl
     return typed ? place(style, typed, part, base, widget) : base;
 }
 
+/// A range that does not fit an int, where the toolkit's arithmetic comes to divide by zero.
+bool hasHugeRange(const QStyleOptionSlider *option)
+{
+    return qint64(option->maximum) - option->minimum > std::numeric_limits<int>::max();
+}
+
+/// Whether the toolkit can calculate with the option. No slider widget makes one that it cannot,
+/// except for a huge range.
+bool isSound(const QStyleOptionSlider *option)
+{
+    return !hasHugeRange(option) && option->maximum >= option->minimum && option->pageStep >= 0;
+}
+
+/// The nearest sound option; a huge range is halved.
+QStyleOptionSlider madeSound(QStyleOptionSlider option)
+{
+    option.maximum = qMax(option.minimum, option.maximum);
+    option.pageStep = qMax(0, option.pageStep);
+    if (hasHugeRange(&option)) {
+        for (int *value : {&option.minimum, &option.maximum, &option.sliderPosition,
+                           &option.sliderValue, &option.singleStep, &option.pageStep})
+            *value /= 2;
+    }
+    return option;
+}
+
 } // namespace
+
+int ComplexControls::sliderPosition(const QStyleOptionSlider *option, int value, int span,
+                                    bool upsideDown)
+{
+    const int divisor = hasHugeRange(option) ? 2 : 1;
+    return QStyle::sliderPositionFromValue(option->minimum / divisor, option->maximum / divisor,
+                                           value / divisor, span, upsideDown);
+}
 
 QPixmap ComplexControls::arrowPixmap(const QColor &color, int rotation)
 {
@@ -97,6 +133,11 @@ QRect DarkFusionStyle::subControlRect(ComplexControl control, const QStyleOption
     // The common style reads some options without looking whether there is one.
     if (!option)
         return QRect();
+    const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
+    if (slider && !isSound(slider)) {
+        const QStyleOptionSlider sound = madeSound(*slider);
+        return subControlRect(control, &sound, part, widget);
+    }
     const QRect base = QCommonStyle::subControlRect(control, option, part, widget);
     switch (control) {
     case CC_SpinBox:

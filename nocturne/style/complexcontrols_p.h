@@ -42,6 +42,10 @@ QPixmap arrowPixmap(const QColor &color, int rotation);
 /// The same, drawn at half its pixel size around \a centre.
 void drawArrow(QPainter *painter, const QPointF &centre, const QColor &color, int rotation);
 
+/// Where \a value lies along \a span units, as QStyle::sliderPositionFromValue() has it, but for
+/// ranges that are longer than an int, too.
+int sliderPosition(const QStyleOptionSlider *option, int value, int span, bool upsideDown);
+
 // Where a part of the control lies. base is the common style's answer, which stands for the parts
 // that a control does not place itself.
 

@@ -82,8 +82,7 @@ int tickInterval(const QStyle *style, const QStyleOptionSlider *option, const QW
         const int available =
             style->proxy()->pixelMetric(QStyle::PM_SliderSpaceAvailable, option, widget);
         const auto position = [&](int value) {
-            return QStyle::sliderPositionFromValue(option->minimum, option->maximum, value,
-                                                   available);
+            return sliderPosition(option, value, available, false);
         };
         if (position(interval) - position(0) < 3)
             interval = option->pageStep;
@@ -129,9 +128,7 @@ void paintSliderTicks(const QStyle *style, const QStyleOptionSlider *option, QPa
     const int nearEdge = horizontal ? rect.top() : rect.left();
     const int farEdge = horizontal ? rect.bottom() : rect.right();
     forEachTick(option, tickInterval(style, option, widget), span, [&](int value) {
-        const int position = QStyle::sliderPositionFromValue(option->minimum, option->maximum,
-                                                             value, span, option->upsideDown)
-                             + length / 2;
+        const int position = sliderPosition(option, value, span, option->upsideDown) + length / 2;
         const int extra = value == option->minimum || value == option->maximum ? 1 : 2;
         if (option->tickPosition & QSlider::TicksAbove)
             addLine(position, nearEdge + extra, nearEdge + tickSize);
@@ -167,15 +164,17 @@ void paintSlider(const QStyle *style, const QStyleOptionSlider *option, QPainter
                  const QWidget *widget)
 {
     const QStyle *proxy = style->proxy();
-    const QRect groove =
-        proxy->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderGroove, widget);
     const QRect handle =
         proxy->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderHandle, widget);
-    if (option->subControls & QStyle::SC_SliderGroove && groove.isValid()) {
-        const QString key =
-            StyleHelpers::styleCacheKey(QStringLiteral("slider_groove"), option, groove.size());
-        paintSliderGroove(option, painter, groove, key);
-        paintSliderFill(option, painter, groove, handle, key + QLatin1String("_blue"));
+    if (option->subControls & QStyle::SC_SliderGroove) {
+        const QRect groove =
+            proxy->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderGroove, widget);
+        if (groove.isValid()) {
+            const QString key =
+                StyleHelpers::styleCacheKey(QStringLiteral("slider_groove"), option, groove.size());
+            paintSliderGroove(option, painter, groove, key);
+            paintSliderFill(option, painter, groove, handle, key + QLatin1String("_blue"));
+        }
     }
     if (option->subControls & QStyle::SC_SliderTickmarks
         && option->tickPosition != QSlider::NoTicks) {

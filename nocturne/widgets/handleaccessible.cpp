@@ -1,5 +1,6 @@
 #include "handleaccessible_p.h"
 
+#include "accessiblefactory_p.h"
 #include "rangeslider_p.h"
 #include "spanslider.h"
 
@@ -289,19 +290,11 @@ QAccessibleInterface *createHandleGroup(const QString &className, QObject *objec
     return nullptr;
 }
 
-struct FactoryRemover
-{
-    ~FactoryRemover() { QAccessible::removeFactory(createHandleGroup); }
-};
-
 } // namespace
 
 void HandleAccessibility::install()
 {
-    // Each time, because the end of one application object clears the list for the next.
-    // Installing a factory again changes nothing.
-    QAccessible::installFactory(createHandleGroup);
-    static const FactoryRemover remover;
+    installAccessibleFactory<createHandleGroup>();
 }
 
 void HandleAccessibility::valueChanged(QSlider *slider, int handle, int value)

@@ -7,8 +7,7 @@ class QSlider;
 /// each handle a slider in it with a name, a value of its own and the room it can move in.
 namespace HandleAccessibility {
 
-/// Makes the handles known. Called by every slider with several handles as it is made, so that
-/// nothing happens when the library is loaded; taken back when it is unloaded.
+/// Makes the handles known. Called by every slider with several handles as it is made.
 void install();
 
 /// Tells those who listen that a handle of \a slider, counted from 0, has a new value.

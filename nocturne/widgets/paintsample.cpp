@@ -16,13 +16,13 @@ int wholeRatio(const QPainter &painter)
     if (!painter.paintEngine() || painter.paintEngine()->type() != QPaintEngine::Raster
         || painter.testRenderHint(QPainter::Antialiasing))
         return 0;
-    const QTransform transform = painter.deviceTransform();
+    const QTransform &transform = painter.deviceTransform();
     const int ratio = qRound(transform.m11());
     const bool wholeScale = transform.type() <= QTransform::TxScale && ratio >= 1
                             && transform.m11() == ratio && transform.m22() == ratio;
     const bool wholeOffset =
         transform.dx() == qRound(transform.dx()) && transform.dy() == qRound(transform.dy());
-    return wholeScale && wholeOffset && painter.device()->devicePixelRatioF() == ratio ? ratio : 0;
+    return wholeScale && wholeOffset ? ratio : 0;
 }
 
 /// A rectangle given along and across a shape of that orientation.

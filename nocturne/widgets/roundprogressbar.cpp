@@ -1,7 +1,10 @@
 #include "roundprogressbar.h"
 
+#include "ringaccessible_p.h"
+
 #include <nocturne/theme/themepaint_p.h>
 
+#include <QtGui/QAccessible>
 #include <QtGui/QConicalGradient>
 #include <QtGui/QFontInfo>
 #include <QtGui/QPainter>
@@ -41,7 +44,9 @@ QRectF shrunk(const QRectF &rect, double margin)
 RoundProgressBar::RoundProgressBar(QWidget *parent)
     : QWidget(parent)
     , m_updateFlags(UF_PERCENT)
-{}
+{
+    RingAccessibility::install();
+}
 
 RoundProgressBar::~RoundProgressBar() = default;
 
@@ -77,6 +82,8 @@ void RoundProgressBar::setValue(double val)
         return;
     m_value = qBound(m_minimum, val, m_maximum);
     update();
+    if (QAccessible::isActive())
+        RingAccessibility::valueChanged(this);
 }
 
 void RoundProgressBar::setValue(int val)
@@ -350,6 +357,13 @@ void RoundProgressBar::drawText(QPainter &painter, const QRectF &innerRect, doub
         draw(m_valueFont, Qt::gray, shift, text);
         draw(m_titleFont, Qt::darkGray, -shift, m_title);
     }
+}
+
+/// The value in the words that the ring shows, its unit included.
+QString RoundProgressBar::accessibleValue()
+{
+    const QString text = valueToText(m_value);
+    return m_unitMode ? text + QLatin1Char(' ') + m_unitText : text;
 }
 
 void RoundProgressBar::invalidateDataBrush()

@@ -134,6 +134,9 @@ protected:
     void rebuildDataBrushIfNeeded();
 
 private:
+    friend class RingInterface;
+
+    QString accessibleValue();
     void applyRange(double min, double max);
     void invalidateDataBrush();
     double share(double value) const;

@@ -21,6 +21,11 @@ SlideCheckBox::SlideCheckBox(QWidget *parent)
     : QCheckBox(parent)
 {}
 
+bool SlideCheckBox::hitButton(const QPoint &position) const
+{
+    return rect().contains(position);
+}
+
 void SlideCheckBox::paintEvent(QPaintEvent *)
 {
     const int w = width();

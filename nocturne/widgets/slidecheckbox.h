@@ -23,6 +23,8 @@ public:
     explicit SlideCheckBox(QWidget *parent = nullptr);
 
 protected:
+    /// The switch can be clicked all over.
+    bool hitButton(const QPoint &position) const override;
     void paintEvent(QPaintEvent *event) override;
 };
 

@@ -1,6 +1,7 @@
 #include "testsupport.h"
 #include "xserver.h"
 
+#include <nocturne/ColorButton>
 #include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
 #include <nocturne/ListWidget>
@@ -17,8 +18,8 @@
 #include <functional>
 #include <memory>
 
-// Drags with a real pointer between real windows: the test process shows the lists, and a second
-// process of the same program shows a window to drag out of.
+// Drags with a real pointer between real windows: the test process shows what is dropped on, and a
+// second process of the same program shows a window to drag out of.
 
 namespace {
 
@@ -49,13 +50,9 @@ private:
     QList<QUrl> m_urls;
 };
 
-int runDragSource(QApplication &app)
+/// Shows \a source in the second process until it is killed.
+int runSource(QApplication &app, QWidget &source)
 {
-    QList<QUrl> urls;
-    const QStringList arguments = app.arguments().mid(2);
-    for (const QString &argument : arguments)
-        urls << QUrl(argument);
-    DragSource source(urls);
     source.setGeometry(sourceGeometry);
     source.show();
     if (!QTest::qWaitForWindowExposed(&source))
@@ -63,6 +60,23 @@ int runDragSource(QApplication &app)
     std::puts("ready");
     std::fflush(stdout);
     return app.exec();
+}
+
+int runDragSource(QApplication &app)
+{
+    QList<QUrl> urls;
+    const QStringList arguments = app.arguments().mid(2);
+    for (const QString &argument : arguments)
+        urls << QUrl(argument);
+    DragSource source(urls);
+    return runSource(app, source);
+}
+
+int runColorSource(QApplication &app)
+{
+    const DarkUX theme;
+    ColorButton source(QColor(app.arguments().value(2)));
+    return runSource(app, source);
 }
 
 XServer &server()
@@ -161,7 +175,7 @@ QString textsOf(const QListWidget &list)
 
 } // namespace
 
-class TestListDragDrop : public QObject
+class TestDragDrop : public QObject
 {
     Q_OBJECT
 
@@ -212,6 +226,52 @@ private slots:
 
         QCOMPARE(drops, accepted ? QVector<QStringList>{expected} : QVector<QStringList>());
         QCOMPARE(textsOf(*list), QStringLiteral("ABCDE"));
+    }
+
+    void aColorFromAnotherProcess()
+    {
+        ColorButton button(Qt::black);
+        button.setGeometry(listGeometry);
+        button.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&button));
+        QSignalSpy changed(&button, &ColorButton::colorChanged);
+
+        const QColor dragged(12, 200, 77);
+        QProcess source;
+        source.setProcessEnvironment(server().environment());
+        source.start(QCoreApplication::applicationFilePath(),
+                     {QStringLiteral("--color-source"), dragged.name()});
+        QTRY_VERIFY_WITH_TIMEOUT(source.canReadLine(), 20000);
+        pointer(drag(sourceGeometry.center(), listGeometry.center()) + drop);
+        source.kill();
+        source.waitForFinished();
+
+        QCOMPARE(button.color().rgb(), dragged.rgb());
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.first(), QVariantList({0.0, true}));
+    }
+
+    void aColorFromOneButtonToAnother()
+    {
+        ColorButton from(Qt::magenta);
+        from.setGeometry(sourceGeometry);
+        ColorButton to(Qt::black);
+        to.setGeometry(listGeometry);
+        for (ColorButton *button : {&from, &to}) {
+            button->show();
+            QVERIFY(QTest::qWaitForWindowExposed(button));
+        }
+        QSignalSpy clicked(&from, &ColorButton::clicked);
+        QSignalSpy left(&from, &ColorButton::colorChanged);
+        QSignalSpy arrived(&to, &ColorButton::colorChanged);
+        pointer(drag(sourceGeometry.center(), listGeometry.center()) + drop);
+        QCOMPARE(to.color(), QColor(Qt::magenta));
+        QCOMPARE(arrived.count(), 1);
+        QCOMPARE(clicked.count() + left.count(), 0);
+
+        // Dragged out and back again, a colour has not changed.
+        pointer(drag(sourceGeometry.center(), sourceGeometry.center() + QPoint(60, 40)) + drop);
+        QCOMPARE(clicked.count() + left.count(), 0);
     }
 
     void itemsWithinTheList_data()
@@ -388,8 +448,8 @@ private slots:
 
 int main(int argc, char *argv[])
 {
-    const bool isSource = argc > 1 && qstrcmp(argv[1], "--source") == 0;
-    if (!isSource) {
+    const QByteArray mode(argc > 1 ? argv[1] : "");
+    if (mode != "--source" && mode != "--color-source") {
         if (!server().start()) {
             std::puts("Xvfb does not start, and there is no other display to be sure of");
             return 1;
@@ -399,12 +459,14 @@ int main(int argc, char *argv[])
     }
     qputenv("QT_FONT_DPI", "96");
     QApplication app(argc, argv);
-    if (isSource)
+    if (mode == "--source")
         return runDragSource(app);
+    if (mode == "--color-source")
+        return runColorSource(app);
     DarkUX theme;
     app.setStyle(theme.style());
-    TestListDragDrop test;
+    TestDragDrop test;
     return QTest::qExec(&test, argc, argv);
 }
 
-#include "tst_listdragdrop.moc"
+#include "tst_dragdrop.moc"
