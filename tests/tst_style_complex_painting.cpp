@@ -4,6 +4,7 @@
 #include <nocturne/DarkUX>
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QtMath>
 #include <QtGui/QPixmapCache>
 #include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QStyleOption>
@@ -345,33 +346,35 @@ private slots:
     {
         QFETCH(Qt::Orientation, orientation);
         const bool horizontal = orientation == Qt::Horizontal;
-        auto option =
-            themed<QStyleOptionSlider>(horizontal ? QRect(0, 0, 200, 14) : QRect(0, 0, 14, 200));
-        option.orientation = orientation;
-        option.maximum = 10;
-        option.pageStep = 10;
-        const auto comparePart = [&](const QImage &image, int along, int across,
-                                     const QColor &expected) {
-            compare(image, horizontal ? along : across, horizontal ? across : along, expected);
+        auto option = themedScrollBar(orientation);
+        const auto moved = [&](QStyle::SubControl part) {
+            QRect rect = m_style.subControlRect(QStyle::CC_ScrollBar, &option, part);
+            return horizontal ? rect.adjusted(0, 5, 0, 0) : rect.adjusted(5, 0, 0, 0);
         };
-
-        QImage image = paint(QStyle::CC_ScrollBar, option);
-        comparePart(image, 150, 4, m_background);
-        comparePart(image, 150, 5, shifted(windowColor(), -12));
-        comparePart(image, 150, 13, shifted(windowColor(), -12));
+        const QRect groove = moved(QStyle::SC_ScrollBarGroove);
         // The handle is a unit wider to the left, whichever way the bar runs.
-        const int handleEdge = horizontal ? 7 : 6;
-        comparePart(image, 50, handleEdge - 1, shifted(windowColor(), -12));
-        comparePart(image, 50, handleEdge, shifted(windowColor(), 20));
-        comparePart(image, 50, 12, shifted(windowColor(), 20));
-        comparePart(image, 50, 13, shifted(windowColor(), -12));
-        comparePart(image, 101, 9, shifted(windowColor(), -12));
-
+        const QRect slider = moved(QStyle::SC_ScrollBarSlider);
+        const QRect handle =
+            horizontal ? slider.adjusted(0, 2, -1, -1) : slider.adjusted(1, 1, -1, -1);
+        const qreal radius = 3.0; // half of the six units across that it had before
+        QCOMPARE(handle.size(),
+                 horizontal ? QSize(slider.width() - 1, 6) : QSize(7, slider.height() - 2));
+        const auto expected = [&](int shift) {
+            return paintWith(option.rect.size(), [&](QPainter &painter) {
+                painter.fillRect(groove, shifted(windowColor(), -12));
+                if (shift == 0)
+                    return;
+                painter.setRenderHint(QPainter::Antialiasing);
+                painter.setPen(Qt::NoPen);
+                painter.setBrush(shifted(windowColor(), shift));
+                painter.drawRoundedRect(handle, radius, radius);
+            });
+        };
+        QCOMPARE(paint(QStyle::CC_ScrollBar, option), expected(20));
         option.state |= QStyle::State_MouseOver;
-        image = paint(QStyle::CC_ScrollBar, option);
-        comparePart(image, 50, 9, shifted(windowColor(), 40));
+        QCOMPARE(paint(QStyle::CC_ScrollBar, option), expected(40));
         option.subControls = QStyle::SC_ScrollBarGroove;
-        comparePart(paint(QStyle::CC_ScrollBar, option), 50, 9, shifted(windowColor(), -12));
+        QCOMPARE(paint(QStyle::CC_ScrollBar, option), expected(0));
     }
 
     void transientScrollBarRemembersWhatItShowed()
@@ -393,6 +396,23 @@ private slots:
         option.activeSubControls = QStyle::SC_None;
         paint(QStyle::CC_ScrollBar, option);
         QCOMPARE(object.property("_q_stylecontrols").toUInt(), 0u);
+
+        // Whatever changes alone is kept up with.
+        option.sliderPosition = 41;
+        paint(QStyle::CC_ScrollBar, option);
+        QCOMPARE(object.property("_q_stylepos").toInt(), 41);
+        option.minimum = -1;
+        paint(QStyle::CC_ScrollBar, option);
+        QCOMPARE(object.property("_q_stylemin").toInt(), -1);
+        option.maximum = 99;
+        paint(QStyle::CC_ScrollBar, option);
+        QCOMPARE(object.property("_q_stylemax").toInt(), 99);
+        option.rect.setWidth(180);
+        paint(QStyle::CC_ScrollBar, option);
+        QCOMPARE(object.property("_q_stylerect").toRect(), option.rect);
+        option.state |= QStyle::State_MouseOver;
+        paint(QStyle::CC_ScrollBar, option);
+        QCOMPARE(object.property("_q_stylestate").toInt(), int(option.state));
     }
 
     void solidScrollBarLeavesNoTrace()
@@ -744,8 +764,9 @@ private slots:
         option.state |= QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
         option.tickPosition = QSlider::TicksAbove;
         const QImage focused = paint(QStyle::CC_Slider, option);
-        QVERIFY(at(focused, horizontal ? expected.at(1) : 3, horizontal ? 3 : expected.at(1))
-                != outline);
+        QColor focus = color(QPalette::Highlight).darker(125);
+        focus.setHsl(focus.hue(), focus.saturation(), 160);
+        compare(focused, horizontal ? expected.at(1) : 3, horizontal ? 3 : expected.at(1), focus);
         compare(focused, horizontal ? expected.at(1) : 36, horizontal ? 36 : expected.at(1),
                 m_background);
     }
@@ -759,6 +780,8 @@ private slots:
 
         QTest::newRow("given") << 25 << 100 << 1 << 5;
         QTest::newRow("single step wide enough") << 0 << 20 << 1 << 21;
+        QTest::newRow("single step of three pixels") << 0 << 70 << 1 << 71;
+        QTest::newRow("single step of two pixels") << 0 << 80 << 1 << 9;
         QTest::newRow("single step too narrow") << 0 << 100 << 1 << 11; // the page step is ten
         QTest::newRow("last one clamped") << 3 << 11 << 1 << 5;         // 0 3 6 9 11
         QTest::newRow("not reached") << 40 << 100 << 1 << 3;
@@ -1008,6 +1031,102 @@ private slots:
         QCOMPARE(paint(QStyle::CC_TitleBar, option), expected);
     }
 
+    void dialPieceByPiece_data()
+    {
+        QTest::addColumn<int>("extent");
+        QTest::addColumn<QStyle::State>("state");
+        const QStyle::State enabled = QStyle::State_Enabled;
+        QTest::newRow("small") << 40 << enabled;
+        QTest::newRow("large, with a pointer") << 160 << enabled;
+        QTest::newRow("focused") << 61 << (enabled | QStyle::State_HasFocus);
+        QTest::newRow("disabled") << 50 << QStyle::State(QStyle::State_None);
+    }
+
+    void dialPieceByPiece()
+    {
+        QFETCH(int, extent);
+        QFETCH(QStyle::State, state);
+        auto option = themedSlider(Qt::Horizontal, QRect(0, 0, extent + 7, extent));
+        option.subControls = QStyle::SC_DialGroove | QStyle::SC_DialHandle;
+        option.state = state;
+        option.sliderPosition = 30;
+        const auto colored = [](const QColor &from, int most, int least, int alpha = 255) {
+            return QColor::fromHsv(from.hue(), qMin(most, from.saturation()),
+                                   qMax(least, from.value()), alpha);
+        };
+        const QColor button = colored(color(QPalette::Button), 140, 180);
+        const qreal half = extent / 2;
+        const qreal r = half - half / 50;
+        const qreal pen = r / 20;
+        const qreal d = r / 6;
+        const qreal x = d + (extent + 7 - 2 * r) / 2 + 1;
+        const qreal y = d + (extent - 2 * r) / 2 + 1;
+        const int side = int(2 * r - 2 * d - 2);
+        const QRectF disc(x + 0.5, y + 0.5, side, side);
+
+        const QImage kept = paintWith(option.rect.size(), Qt::transparent, [&](QPainter &painter) {
+            painter.setRenderHint(QPainter::Antialiasing);
+            if (state & QStyle::State_Enabled) {
+                const qreal s = qMax(1.0, pen / 2);
+                const QRectF shadow = disc.adjusted(-2 * s, -2 * s, 2 * s, 2 * s);
+                QRadialGradient shade(shadow.center(), shadow.width() / 2);
+                shade.setStops({{0.91, QColor(0, 0, 0, 40)}, {1.0, Qt::transparent}});
+                painter.setPen(Qt::NoPen);
+                painter.setBrush(shade);
+                painter.translate(s, s);
+                painter.drawEllipse(shadow);
+                painter.translate(-s, -s);
+                QRadialGradient light(disc.center().x() - disc.width() / 3, y, disc.width() * 1.3,
+                                      disc.center().x(), disc.center().y() - disc.height() / 2);
+                light.setStops({{0.0, button.lighter(110)},
+                                {0.5, button},
+                                {0.501, button.darker(102)},
+                                {1.0, button.darker(115)}});
+                painter.setBrush(light);
+            }
+            painter.setPen(button.darker(280));
+            painter.drawEllipse(disc);
+            painter.setBrush(Qt::NoBrush);
+            painter.setPen(button.lighter(110));
+            painter.drawEllipse(disc.adjusted(1, 1, -1, -1));
+            if (state & QStyle::State_HasFocus) {
+                painter.setPen(QPen(colored(color(QPalette::Highlight), 160, 230, 127), 2));
+                painter.drawEllipse(disc.adjusted(-1, -1, 1, 1));
+            }
+        });
+        // 30 of 100 from 240 degrees down to -60; the dial counts from its other end.
+        const qreal angle = qDegreesToRadians(240 - 300 * 0.7);
+        const int bigLine = qMin(int(half) / 2, qMax(int(half) / 6, 4));
+        const auto outwards = [&](qreal share) {
+            const qreal length = (half - bigLine - 3) * share;
+            return QPointF((extent + 7) / 2.0 + length * qCos(angle),
+                           extent / 2.0 - length * qSin(angle));
+        };
+        const QImage expected = paintWith(option.rect.size(), [&](QPainter &painter) {
+            painter.drawImage(0, 0, kept);
+            painter.setRenderHint(QPainter::Antialiasing);
+            if (pen > 3) {
+                painter.setPen(QPen(QColor(0, 0, 0, 25), pen));
+                painter.drawLine(outwards(0.90), outwards(0.96));
+            }
+            const qreal size = r / 7;
+            const QPointF at = outwards(0.70);
+            const QRectF knob(at.x() - size, at.y() - size, 2 * size, 2 * size);
+            QColor tone = button.lighter(104);
+            tone.setAlphaF(0.8);
+            QRadialGradient shade(knob.center() + QPointF(size, 2 * size), 4 * size, knob.center());
+            shade.setStops(
+                {{0.0, tone.darker(110)}, {0.4, tone.darker(120)}, {1.0, tone.darker(140)}});
+            painter.setBrush(shade);
+            painter.setPen(QColor(255, 255, 255, 150));
+            painter.drawEllipse(knob.adjusted(-1, -1, 1, 1));
+            painter.setPen(QColor(0, 0, 0, 80));
+            painter.drawEllipse(knob);
+        });
+        QCOMPARE(paint(QStyle::CC_Dial, option), expected);
+        QCOMPARE(paint(QStyle::CC_Dial, option), expected); // from the cache
+    }
+
     void wrongOptionsPaintNothing()
     {
         QStyleOptionComplex plain;
@@ -1018,6 +1137,8 @@ private slots:
             QVERIFY(changedIn(paint(control, plain), plain.rect, m_background).isNull());
             paintWith(QSize(10, 10), [&](QPainter &painter) {
                 m_style.drawComplexControl(control, nullptr, &painter);
+                paintAnything(control, QRect(0, 0, 10, 10), m_theme->palette(), Qt::LeftToRight,
+                              nullptr);
             });
         }
         QVERIFY(m_style.hitTestComplexControl(QStyle::CC_MdiControls, nullptr, QPoint())
@@ -1049,7 +1170,7 @@ private slots:
                         painter.setBrush(Qt::yellow);
                         painter.translate(0.25, 0.0);
                         const PainterState before(painter);
-                        paintAnything(control, rect, palette, direction, painter);
+                        paintAnything(control, rect, palette, direction, &painter);
                         QVERIFY(before == PainterState(painter));
                     });
                     if (rect.isEmpty())
@@ -1121,9 +1242,14 @@ private:
     }
 
     template <typename Paint>
+    QImage paintWith(const QSize &size, const QColor &background, Paint paint) const
+    {
+        return TestSupport::paintOn(size, background, paint, qApp->devicePixelRatio());
+    }
+    template <typename Paint>
     QImage paintWith(const QSize &size, Paint paint) const
     {
-        return TestSupport::paintOn(size, m_background, paint, qApp->devicePixelRatio());
+        return paintWith(size, m_background, paint);
     }
     template <typename Option>
     QImage paint(QStyle::ComplexControl control, const Option &option,
@@ -1242,15 +1368,15 @@ private:
     }
     template <typename Option>
     void paintThing(QStyle::ComplexControl control, Option option, const QRect &rect,
-                    const QPalette &palette, Qt::LayoutDirection direction, QPainter &painter) const
+                    const QPalette &palette, Qt::LayoutDirection direction, QPainter *painter) const
     {
         option.rect = rect;
         option.palette = palette;
         option.direction = direction;
-        m_style.drawComplexControl(control, &option, &painter);
+        m_style.drawComplexControl(control, &option, painter);
     }
     void paintAnything(QStyle::ComplexControl control, const QRect &rect, const QPalette &palette,
-                       Qt::LayoutDirection direction, QPainter &painter) const
+                       Qt::LayoutDirection direction, QPainter *painter) const
     {
         switch (control) {
         case QStyle::CC_SpinBox:

@@ -100,6 +100,7 @@ QColor translucent(QColor color, int alpha)
 
 } // namespace
 
+Q_DECLARE_METATYPE(QStyle::State)
 Q_DECLARE_METATYPE(QStyleOptionToolBar::ToolBarPosition)
 
 class TestStyleControls : public QObject
@@ -130,6 +131,8 @@ private slots:
     void progressLabel();
     void menuSeparator();
     void menuItemText();
+    void menuItemTextPieceByPiece_data();
+    void menuItemTextPieceByPiece();
     void menuItemCheck();
     void subMenu();
     void menuBar();
@@ -734,6 +737,64 @@ void TestStyleControls::menuItemText()
     QVERIFY(bounds(paint(QStyle::CE_MenuItem, option)).right() >= 120 - 30 - 1);
 }
 
+void TestStyleControls::menuItemTextPieceByPiece_data()
+{
+    QTest::addColumn<QStyle::State>("state");
+    QTest::addColumn<bool>("isDefault");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("normal") << enabled << false << Qt::LeftToRight;
+    QTest::newRow("normal, mirrored") << enabled << false << Qt::RightToLeft;
+    QTest::newRow("selected") << (enabled | QStyle::State_Selected) << false << Qt::LeftToRight;
+    QTest::newRow("default") << enabled << true << Qt::LeftToRight;
+    QTest::newRow("disabled") << QStyle::State(QStyle::State_None) << false << Qt::LeftToRight;
+    QTest::newRow("disabled, mirrored")
+        << QStyle::State(QStyle::State_None) << false << Qt::RightToLeft;
+    QTest::newRow("disabled, selected")
+        << QStyle::State(QStyle::State_Selected) << false << Qt::LeftToRight;
+}
+
+void TestStyleControls::menuItemTextPieceByPiece()
+{
+    QFETCH(QStyle::State, state);
+    QFETCH(bool, isDefault);
+    QFETCH(Qt::LayoutDirection, direction);
+    auto option = makeOption<QStyleOptionMenuItem>(QRect(3, 2, 115, 28), state);
+    option.menuItemType =
+        isDefault ? QStyleOptionMenuItem::DefaultItem : QStyleOptionMenuItem::Normal;
+    option.direction = direction;
+    option.maxIconWidth = 22;
+    option.tabWidth = 24;
+    option.font = QApplication::font();
+    option.font.setPixelSize(11);
+    option.text = QStringLiteral("&Open\tF1\tF2");
+    const QRect rect = option.rect;
+    const QRect text(3 + 22 + 7, 2 + 8, 115 - (22 + 7) - 24 - 14, 28 - 16);
+    const QRect shortcut = QStyle::visualRect(
+        direction, rect, QRect(text.topRight(), QPoint(rect.right(), text.bottom())));
+    const bool isSelected = state & QStyle::State_Selected;
+    const bool isEnabled = state & QStyle::State_Enabled;
+    const QColor color =
+        option.palette.color(isSelected && isEnabled ? QPalette::HighlightedText : QPalette::Text);
+    const int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic | Qt::TextDontClip
+                      | Qt::TextSingleLine;
+    const QImage expected = picture(canvas, background, [&](QPainter &painter) {
+        painter.setLayoutDirection(direction);
+        if (!isEnabled && !isSelected) {
+            painter.setPen(option.palette.color(QPalette::Light));
+            painter.drawText(shortcut.translated(1, 1), flags, QStringLiteral("F1\tF2"));
+        }
+        painter.setPen(color);
+        painter.drawText(shortcut, flags, QStringLiteral("F1\tF2"));
+        QFont font = option.font;
+        font.setPointSizeF(QFontInfo(font).pointSizeF());
+        if (isDefault)
+            font.setBold(true);
+        painter.setFont(font);
+        painter.drawText(QStyle::visualRect(direction, rect, text), flags, QStringLiteral("&Open"));
+    });
+    QCOMPARE(paint(QStyle::CE_MenuItem, option), expected);
+}
+
 void TestStyleControls::menuItemCheck()
 {
     auto option = makeOption<QStyleOptionMenuItem>(QRect(0, 0, 100, 30));
@@ -869,8 +930,16 @@ void TestStyleControls::rubberBand()
     const QImage image = paint(QStyle::CE_RubberBand, option, &child);
     // The fill is laid on twice: once within each of the two outlines.
     COMPARE_UNIT(image, 30, 20, TestSupport::blended(translucent(fill, 80), translucentFill));
-    COMPARE_UNIT(image, 3, 20, background);
-    COMPARE_UNIT(image, 64, 20, background);
+    const QImage expected = picture(canvas, background, [&](QPainter &painter) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(0.5, 0.5);
+        painter.setBrush(translucent(fill, 80));
+        painter.setPen(translucent(highlight.darker(120), 180));
+        painter.drawRoundedRect(option.rect.adjusted(0, 0, -1, -1), 1, 1);
+        painter.setPen(QColor(255, 255, 255, 40));
+        painter.drawRoundedRect(option.rect.adjusted(1, 1, -2, -2), 1, 1);
+    });
+    QCOMPARE(image, expected);
 }
 
 void TestStyleControls::dockWidgetTitle()
@@ -889,10 +958,17 @@ void TestStyleControls::dockWidgetTitle()
     option.rect = QRect(10, 5, 22, 50);
     option.verticalTitleBar = true;
     option.title = QStringLiteral("HH");
-    const QImage image = paint(QStyle::CE_DockWidgetTitle, option);
-    QVERIFY(!isFilled(image, option.rect, background));
-    QVERIFY(isFilled(image, QRect(0, 0, 120, 25), background));
-    QVERIFY(isFilled(image, QRect(33, 0, 87, 60), background));
+    const QRect upright =
+        m_style->subElementRect(QStyle::SE_DockWidgetTitleBarText, &option); // of a turned bar
+    const QImage expected = picture(canvas, background, [&](QPainter &painter) {
+        // The lower end of the bar is where the turned text begins.
+        painter.translate(upright.left(), upright.bottom() + 1);
+        painter.rotate(-90);
+        painter.setPen(option.palette.color(QPalette::WindowText));
+        painter.drawText(QRect(0, 0, upright.height(), upright.width()),
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, option.title);
+    });
+    QCOMPARE(paint(QStyle::CE_DockWidgetTitle, option), expected);
 }
 
 void TestStyleControls::toolBar_data()

@@ -201,12 +201,24 @@ void tst_StyleFrame::hints_data()
 {
     QTest::addColumn<QStyle::StyleHint>("hint");
     QTest::addColumn<int>("expected");
-    QTest::newRow("first") << QStyle::SH_EtchDisabledText << 1;
-    QTest::newRow("transient") << QStyle::SH_ScrollBar_Transient << 1;
-    QTest::newRow("sections") << QStyle::SH_Menu_SupportsSections << 1;
+    for (const QStyle::StyleHint hint :
+         {QStyle::SH_EtchDisabledText, QStyle::SH_ScrollBar_MiddleClickAbsolutePosition,
+          QStyle::SH_Slider_SnapToValue, QStyle::SH_PrintDialog_RightAlignButtons,
+          QStyle::SH_FontDialog_SelectAssociatedText, QStyle::SH_MenuBar_AltKeyNavigation,
+          QStyle::SH_ComboBox_ListMouseTracking, QStyle::SH_Menu_MouseTracking,
+          QStyle::SH_MenuBar_MouseTracking, QStyle::SH_ItemView_ChangeHighlightOnFocus,
+          QStyle::SH_TitleBar_NoBorder, QStyle::SH_Slider_StopMouseOverSlider,
+          QStyle::SH_TitleBar_AutoRaise, QStyle::SH_ItemView_ShowDecorationSelected,
+          QStyle::SH_ItemView_ArrowKeysNavigateIntoChildren, QStyle::SH_ScrollBar_Transient,
+          QStyle::SH_Menu_SupportsSections})
+        QTest::addRow("on: %d", hint) << hint << 1;
+    for (const QStyle::StyleHint hint :
+         {QStyle::SH_MainWindow_SpaceBelowMenuBar, QStyle::SH_Menu_AllowActiveAndDisabled,
+          QStyle::SH_ScrollView_FrameOnlyAroundContents, QStyle::SH_ToolBox_SelectedPageTitleBold,
+          QStyle::SH_RubberBand_Mask, QStyle::SH_DialogButtonBox_ButtonsHaveIcons,
+          QStyle::SH_MessageBox_CenterButtons})
+        QTest::addRow("off: %d", hint) << hint << 0;
     QTest::newRow("menu delay") << QStyle::SH_Menu_SubMenuPopupDelay << 225;
-    QTest::newRow("frame") << QStyle::SH_ScrollView_FrameOnlyAroundContents << 0;
-    QTest::newRow("icons") << QStyle::SH_DialogButtonBox_ButtonsHaveIcons << 0;
     QTest::newRow("wizard") << QStyle::SH_WizardStyle << int(QWizard::ClassicStyle);
     QTest::newRow("message text") << QStyle::SH_MessageBox_TextInteractionFlags << 5;
     QTest::newRow("popup without option") << QStyle::SH_ComboBox_Popup << 0;

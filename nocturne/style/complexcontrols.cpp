@@ -98,6 +98,8 @@ void ComplexControls::paintDial(const QStyle *, const QStyleOptionSlider *option
 void DarkFusionStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                                          QPainter *painter, const QWidget *widget) const
 {
+    if (!option || !painter)
+        return;
     switch (control) {
     case CC_SpinBox:
         return paintAs(ComplexControls::paintSpinBox, this, option, painter, widget);
@@ -114,8 +116,7 @@ void DarkFusionStyle::drawComplexControl(ComplexControl control, const QStyleOpt
     case CC_Dial:
         return paintAs(ComplexControls::paintDial, this, option, painter, widget);
     default:
-        if (option)
-            QCommonStyle::drawComplexControl(control, option, painter, widget);
+        QCommonStyle::drawComplexControl(control, option, painter, widget);
     }
 }
 

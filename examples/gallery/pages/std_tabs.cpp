@@ -35,6 +35,7 @@ QTabWidget *tabs(const QString &title)
     {
         auto *label = new QLabel(title);
         label->setAlignment(Qt::AlignCenter);
+        label->setWordWrap(true);
         tabs->addTab(label, text);
     }
     tabs->setCurrentIndex(1);
