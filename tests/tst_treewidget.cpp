@@ -8,6 +8,7 @@
 #include <QtGui/QPaintEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyledItemDelegate>
 
@@ -227,6 +228,13 @@ private slots:
         QVERIFY(settle());
     }
 
+    void scrollingPaintsOnlyTheEdges_data()
+    {
+        QTest::addColumn<bool>("rightToLeft");
+        QTest::newRow("left to right") << false;
+        QTest::newRow("right to left") << true;
+    }
+
     /// A step paints the rows at the edges, and the others only under a bar that floats above them.
     void scrollingPaintsOnlyTheEdges()
     {
@@ -253,7 +261,10 @@ private slots:
             }
         };
 
+        QFETCH(bool, rightToLeft);
         CountingTree tree;
+        tree.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+        tree.header()->setStretchLastSection(false); // not all of the width has columns
         for (int i = 0; i < 400; ++i)
             tree.addTopLevelItem(new QTreeWidgetItem({QStringLiteral("row %1").arg(i)}));
         tree.resize(300, 600);

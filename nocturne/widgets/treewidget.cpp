@@ -134,7 +134,8 @@ int TreeWidget::scrolledPixels(int dy) const
 
     // The rows that appeared at the top, or those that went there.
     int pixels = 0;
-    QModelIndex row = indexAt(QPoint(0, 0));
+    const int firstColumn = isRightToLeft() ? viewport()->width() - 1 : 0;
+    QModelIndex row = indexAt(QPoint(firstColumn, 0));
     for (int i = 0; i < qAbs(dy) && pixels < height(); ++i) {
         if (dy < 0)
             row = indexAbove(row);
