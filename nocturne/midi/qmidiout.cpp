@@ -38,7 +38,7 @@ private:
     static constexpr double bytesPerMillisecond = 500.0;
     static constexpr double bytesPerEvent = 12.0;
     static constexpr qint64 longestWait = 2000;              // ms
-    static constexpr size_t longestQueue = 16 * 1024 * 1024; // bytes
+    static constexpr size_t longestQueue = size_t(16) * 1024 * 1024; // bytes
 
     static double cost(const QMidiMessage::Bytes &bytes) { return bytes.size() + bytesPerEvent; }
     bool isStuck() const { return m_handingOver && m_handOverTime.hasExpired(longestWait); }

@@ -67,18 +67,26 @@ public:
         return icons;
     }
 
+    /// Takes the routine back, which is gone once the library is unloaded.
+    ~DockIcons() { qRemovePostRoutine(clearWithApplication); }
+
     /// Null until it is assigned.
     QIcon &icon(QStyle::StandardPixmap which)
     {
+        if (!m_endsWithApplication) {
+            m_endsWithApplication = true;
+            qAddPostRoutine(clearWithApplication);
+        }
         if (m_theme != QIcon::themeName())
             clear();
         return which == QStyle::SP_TitleBarCloseButton ? m_close : m_float;
     }
 
 private:
-    DockIcons()
+    static void clearWithApplication()
     {
-        qAddPostRoutine([] { instance().clear(); });
+        instance().clear();
+        instance().m_endsWithApplication = false;
     }
 
     void clear()
@@ -88,6 +96,7 @@ private:
         m_float = QIcon();
     }
 
+    bool m_endsWithApplication = false;
     QString m_theme;
     QIcon m_close;
     QIcon m_float;

@@ -97,9 +97,8 @@ Artwork::Drawing Artwork::drawingOf(const QString &baseName) const
 QString Artwork::pathOf(const QString &baseName) const
 {
     for (const char *folder : {"icons", "editions"}) {
-        const QString path =
-            m_directory.filePath(QLatin1String(folder) + QLatin1Char('/') + baseName)
-            + QStringLiteral(".svg");
+        QString path = m_directory.filePath(QLatin1String(folder) + QLatin1Char('/') + baseName)
+                       + QStringLiteral(".svg");
         if (QFile::exists(path))
             return path;
     }
