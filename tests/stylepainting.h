@@ -6,16 +6,58 @@
 #include <nocturne/style/darkfusionstyle.h>
 #include <nocturne/theme/darkux.h>
 
+#include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QStyleOption>
 
 #include <functional>
 
-/// What the tests of single style elements share: options in the theme's palette, pictures of one
-/// element at the ratio of the run, and what a painter has been through.
+/// What the tests of the style share: options in the theme's palette, pictures of one element at
+/// the ratio of the run, and a proxy that notes what passes through it.
 namespace StylePainting {
 
 constexpr QStyle::State enabled = QStyle::State_Enabled | QStyle::State_Active;
 constexpr QStyle::State keyboardFocus = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+
+inline const QSize canvas(120, 60);
+inline const QRect everything(QPoint(), canvas);
+inline const QColor background(0x20, 0x40, 0x60);
+
+// The colours of the theme's palette, and what the style makes of them.
+inline const QColor window(0x1f, 0x21, 0x26);
+inline const QColor base(0x19, 0x1a, 0x1e);
+inline const QColor light(0x5a, 0x59, 0x59);
+inline const QColor highlight(0x67, 0x9d, 0xcd);
+inline const QColor lit(0xed, 0x6e, 0x00); // highlighted text
+inline const QColor button(0x48, 0x48, 0x48);
+inline const QColor outline = window.darker(140);
+inline const QColor contrast(255, 255, 255, 30);
+
+inline QColor withAlpha(QColor color, int alpha)
+{
+    color.setAlpha(alpha);
+    return color;
+}
+
+inline QColor shifted(const QColor &color, int shift, int alpha = 255)
+{
+    return QColor(color.red() + shift, color.green() + shift, color.blue() + shift, alpha);
+}
+
+inline QColor merged(const QColor &a, const QColor &b, int percent = 50)
+{
+    const auto channel = [percent](int x, int y) {
+        return x * percent / 100 + y * (100 - percent) / 100;
+    };
+    return QColor(channel(a.red(), b.red()), channel(a.green(), b.green()),
+                  channel(a.blue(), b.blue()));
+}
+
+/// The outline of what has the focus: the highlight, but not too bright.
+inline QColor focusOutline()
+{
+    const QColor dark = highlight.darker(125);
+    return QColor::fromHsl(dark.hue(), dark.saturation(), 160);
+}
 
 inline QPalette themePalette(QPalette::ColorGroup group = QPalette::Active)
 {
@@ -36,41 +78,136 @@ Option makeOption(const QRect &rect, QStyle::State state = enabled)
     return option;
 }
 
-/// Everything of a painter that an element could leave changed.
-struct PainterState
+inline QIcon redIcon(int extent = 16)
 {
-    explicit PainterState(const QPainter &painter)
-        : pen(painter.pen())
-        , brush(painter.brush())
-        , font(painter.font())
-        , hints(painter.renderHints())
-        , transform(painter.transform())
-        , hasClip(painter.hasClipping())
-        , clip(painter.clipRegion())
-        , opacity(painter.opacity())
-    {}
-    bool operator==(const PainterState &other) const
+    QPixmap pixmap(extent, extent);
+    pixmap.fill(Qt::red);
+    return QIcon(pixmap);
+}
+
+/// Stands on top of the style and notes the texts, pixmaps and primitives that are drawn through
+/// it, of which it draws none, and the controls.
+class Recorder : public QProxyStyle
+{
+public:
+    struct Text
     {
-        return pen == other.pen && brush == other.brush && font == other.font
-               && hints == other.hints && transform == other.transform && hasClip == other.hasClip
-               && clip == other.clip && opacity == other.opacity;
+        QRect rect;
+        int flags;
+        QString text;
+        QPalette::ColorRole role;
+    };
+    struct Piece
+    {
+        PrimitiveElement element;
+        QRect rect;
+        State state;
+        QPalette palette;
+    };
+
+    Recorder()
+        : QProxyStyle(new DarkFusionStyle)
+    {}
+
+    void drawItemText(QPainter *, const QRect &rect, int flags, const QPalette &, bool,
+                      const QString &text, QPalette::ColorRole role) const override
+    {
+        texts << Text{rect, flags, text, role};
+    }
+    void drawItemPixmap(QPainter *, const QRect &rect, int, const QPixmap &) const override
+    {
+        pixmapRects << rect;
+    }
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *,
+                       const QWidget *) const override
+    {
+        pieces << Piece{element, option->rect, option->state, option->palette};
+    }
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        controls << element;
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override
+    {
+        const bool isShift = metric == PM_ButtonShiftHorizontal || metric == PM_ButtonShiftVertical;
+        return isShift ? 3 : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returnData) const override
+    {
+        return hint == SH_ScrollBar_Transient
+                   ? isTransient
+                   : QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+    void forget()
+    {
+        texts.clear();
+        pixmapRects.clear();
+        pieces.clear();
+        controls.clear();
     }
 
-    QPen pen;
-    QBrush brush;
-    QFont font;
-    QPainter::RenderHints hints;
-    QTransform transform;
-    bool hasClip;
-    QRegion clip;
-    qreal opacity;
+    bool isTransient = true;
+    mutable QVector<Text> texts;
+    mutable QVector<QRect> pixmapRects;
+    mutable QVector<Piece> pieces;
+    mutable QVector<int> controls;
 };
 
-/// \a paint on \a background at the device pixel ratio of the run.
-template <typename Paint>
-QImage picture(const QSize &size, const QColor &background, Paint paint)
+using Drawing = std::function<void(QPainter &painter)>;
+
+/// \a paint at the device pixel ratio of the run.
+inline QImage picture(const Drawing &paint, const QSize &size = canvas,
+                      const QColor &ground = background)
 {
-    return TestSupport::paintOn(size, background, paint, qApp->devicePixelRatio());
+    return TestSupport::paintOn(size, ground, paint, qApp->devicePixelRatio());
+}
+
+/// The same where the style keeps its drawing: translucent parts of that meet before they are on
+/// the ground.
+inline QImage keptPicture(const Drawing &paint, const QSize &size = canvas)
+{
+    const QImage kept = picture(paint, size, Qt::transparent);
+    return picture([&](QPainter &painter) { painter.drawImage(0, 0, kept); }, size);
+}
+
+inline void beginSharp(QPainter &painter)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(0.5, 0.5);
+}
+
+inline QLinearGradient gradientDown(const QRect &rect, const QGradientStops &stops)
+{
+    QLinearGradient gradient(rect.topLeft(), rect.bottomLeft());
+    gradient.setStops(stops);
+    return gradient;
+}
+
+/// Fills the units from \a first to \a last.
+inline void fillUnits(QPainter &painter, const QPoint &first, const QPoint &last,
+                      const QColor &color)
+{
+    painter.fillRect(QRect(first, last), color);
+}
+
+/// Fills the outermost units of \a rect.
+inline void fillRing(QPainter &painter, const QRect &rect, const QColor &color)
+{
+    for (const QRect &part : QRegion(rect) - rect.adjusted(1, 1, -1, -1))
+        painter.fillRect(part, color);
+}
+
+/// A dot of a grip at each place.
+inline void fillDots(QPainter &painter, const QVector<QPoint> &places)
+{
+    for (const QPoint &place : places) {
+        painter.fillRect(QRect(place, QSize(2, 2)), QColor(255, 255, 255, 90));
+        painter.fillRect(QRect(place, QSize(1, 1)), QColor(0, 0, 0, 60));
+    }
 }
 
 /// The colour of the unit at x, y: that of its first device pixel. Lines of one unit that are drawn
@@ -79,6 +216,32 @@ inline QColor unitColor(const QImage &image, int x, int y)
 {
     const int ratio = qRound(image.devicePixelRatio());
     return image.pixelColor(x * ratio, y * ratio);
+}
+
+/// The units of \a image that \a isFound finds by their colour.
+template <typename Predicate>
+QRegion unitsWhere(const QImage &image, Predicate isFound)
+{
+    const int ratio = qRound(image.devicePixelRatio());
+    QRegion units;
+    for (int y = 0; y < image.height() / ratio; ++y) {
+        for (int x = 0; x < image.width() / ratio; ++x) {
+            if (isFound(unitColor(image, x, y)))
+                units += QRect(x, y, 1, 1);
+        }
+    }
+    return units;
+}
+
+inline QRegion painted(const QImage &image, const QColor &ground = background)
+{
+    return unitsWhere(image, [&](const QColor &color) { return color.rgba() != ground.rgba(); });
+}
+
+/// Whether all \a units have \a color.
+inline bool isFilled(const QImage &image, const QRect &units, const QColor &color)
+{
+    return !painted(image, color).intersects(units);
 }
 
 inline QString unitDifference(const QImage &image, int x, int y, const QColor &expected)
@@ -90,88 +253,6 @@ inline QString unitDifference(const QImage &image, int x, int y, const QColor &e
         .arg(x)
         .arg(y)
         .arg(actual.name(QColor::HexArgb), expected.name(QColor::HexArgb));
-}
-
-/// Whether all \a units have \a color.
-inline bool isFilled(const QImage &image, const QRect &units, const QColor &color)
-{
-    for (int y = units.top(); y <= units.bottom(); ++y) {
-        for (int x = units.left(); x <= units.right(); ++x) {
-            if (unitColor(image, x, y).rgba() != color.rgba())
-                return false;
-        }
-    }
-    return true;
-}
-
-/// Palettes from which sums and factors leave the range of a colour, or that hold no colours.
-inline QVector<QPalette> extremePalettes()
-{
-    QPalette gradient = themePalette();
-    gradient.setBrush(QPalette::Window, QLinearGradient(0, 0, 0, 10));
-    QPalette texture = themePalette();
-    texture.setBrush(QPalette::Window, QBrush(QPixmap(4, 4)));
-    return {themePalette(),
-            QPalette(Qt::black),
-            QPalette(Qt::white),
-            QPalette(QColor()),
-            QPalette(QColor(1, 2, 3, 0)),
-            gradient,
-            texture};
-}
-
-/// Rectangles that have no inside, hardly any, or more than any device.
-inline QVector<QRect> extremeRects()
-{
-    return {QRect(),
-            QRect(5, 5, 0, 20),
-            QRect(5, 5, 20, 0),
-            QRect(5, 5, -7, -9),
-            QRect(5, 5, 1, 1),
-            QRect(5, 5, 2, 3),
-            QRect(-50, -50, 30, 20),
-            QRect(-100000, -100000, 200000, 200000)};
-}
-
-using PaintOption = std::function<void(const QStyleOption *option, QPainter *painter)>;
-
-/// Paints without an option, then with \a option in every extreme palette and rectangle. Tells of
-/// the first time that the painter is left changed or that something is painted without a
-/// rectangle.
-inline QString firstFault(const PaintOption &paint, QStyleOption *option)
-{
-    const QImage blank = picture(QSize(40, 40), Qt::darkCyan, [](QPainter &) {});
-    QImage image = blank;
-    QPainter painter(&image);
-    painter.setPen(QPen(Qt::magenta, 3, Qt::DashLine));
-    painter.setBrush(Qt::Dense4Pattern);
-    painter.setClipRect(0, 0, 35, 38);
-    painter.translate(2, 1);
-    const PainterState before(painter);
-    paint(nullptr, &painter);
-    if (image != blank)
-        return QStringLiteral("something is painted without an option");
-    for (const QPalette &palette : extremePalettes()) {
-        for (const QRect &rect : extremeRects()) {
-            option->palette = palette;
-            option->rect = rect;
-            paint(option, &painter);
-            const QString place = QStringLiteral("%1, %2, %3 x %4")
-                                      .arg(rect.x())
-                                      .arg(rect.y())
-                                      .arg(rect.width())
-                                      .arg(rect.height());
-            if (!(PainterState(painter) == before))
-                return QStringLiteral("the painter is changed after ") + place;
-            if (rect.isEmpty() && image != blank)
-                return QStringLiteral("something is painted in ") + place;
-            painter.save();
-            painter.resetTransform();
-            painter.fillRect(0, 0, 40, 40, Qt::darkCyan);
-            painter.restore();
-        }
-    }
-    return QString();
 }
 
 } // namespace StylePainting
