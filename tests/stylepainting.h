@@ -160,18 +160,31 @@ public:
 using Drawing = std::function<void(QPainter &painter)>;
 
 /// \a paint at the device pixel ratio of the run.
-inline QImage picture(const Drawing &paint, const QSize &size = canvas,
-                      const QColor &ground = background)
+inline QImage picture(const QSize &size, const Drawing &paint, const QColor &ground = background)
 {
     return TestSupport::paintOn(size, ground, paint, qApp->devicePixelRatio());
 }
 
-/// The same where the style keeps its drawing: translucent parts of that meet before they are on
-/// the ground.
-inline QImage keptPicture(const Drawing &paint, const QSize &size = canvas)
+inline QImage picture(const Drawing &paint)
 {
-    const QImage kept = picture(paint, size, Qt::transparent);
-    return picture([&](QPainter &painter) { painter.drawImage(0, 0, kept); }, size);
+    return picture(canvas, paint);
+}
+
+/// A drawing as the style keeps it: translucent parts of it meet before they are on the ground.
+inline QImage layer(const QSize &size, const Drawing &paint)
+{
+    return picture(size, paint, Qt::transparent);
+}
+
+inline QImage keptPicture(const QSize &size, const Drawing &paint)
+{
+    const QImage kept = layer(size, paint);
+    return picture(size, [&](QPainter &painter) { painter.drawImage(0, 0, kept); });
+}
+
+inline QImage keptPicture(const Drawing &paint)
+{
+    return keptPicture(canvas, paint);
 }
 
 inline void beginSharp(QPainter &painter)
@@ -236,6 +249,19 @@ QRegion unitsWhere(const QImage &image, Predicate isFound)
 inline QRegion painted(const QImage &image, const QColor &ground = background)
 {
     return unitsWhere(image, [&](const QColor &color) { return color.rgba() != ground.rgba(); });
+}
+
+/// The units in which two pictures of a size differ.
+inline QRegion differingUnits(const QImage &first, const QImage &second)
+{
+    QRegion units;
+    for (int y = 0; y < first.height() / first.devicePixelRatio(); ++y) {
+        for (int x = 0; x < first.width() / first.devicePixelRatio(); ++x) {
+            if (unitColor(first, x, y) != unitColor(second, x, y))
+                units += QRect(x, y, 1, 1);
+        }
+    }
+    return units;
 }
 
 /// Whether all \a units have \a color.
