@@ -14,7 +14,8 @@
 #include <memory>
 
 // Options that no widget makes: every type in the place of every other, with anything in its
-// fields. The style must come back, in time, with the painter as it was.
+// fields. The style must come back, in time, with the painter as it was, having painted nothing
+// where there is no option, no room or an option of the wrong type.
 
 using namespace StylePainting;
 
@@ -24,58 +25,86 @@ constexpr quint32 seed = 20260;
 constexpr int rounds = 30000;
 constexpr qint64 slowestCall = 2000; // milliseconds; most take microseconds
 
-// The elements that the style paints itself; the common style does not stand everything. The
-// separator of tool bars is not here: it leaves its pen.
-constexpr QStyle::PrimitiveElement ownPrimitives[] = {QStyle::PE_FrameDefaultButton,
-                                                      QStyle::PE_FrameStatusBarItem,
-                                                      QStyle::PE_Frame,
-                                                      QStyle::PE_FrameMenu,
-                                                      QStyle::PE_FrameDockWidget,
-                                                      QStyle::PE_FrameWindow,
-                                                      QStyle::PE_FrameFocusRect,
-                                                      QStyle::PE_FrameGroupBox,
-                                                      QStyle::PE_FrameLineEdit,
-                                                      QStyle::PE_FrameTabWidget,
-                                                      QStyle::PE_FrameTabBarBase,
-                                                      QStyle::PE_PanelLineEdit,
-                                                      QStyle::PE_PanelMenu,
-                                                      QStyle::PE_PanelScrollAreaCorner,
-                                                      QStyle::PE_PanelTipLabel,
-                                                      QStyle::PE_PanelButtonCommand,
-                                                      QStyle::PE_PanelButtonTool,
-                                                      QStyle::PE_IndicatorButtonDropDown,
-                                                      QStyle::PE_IndicatorTabClose,
-                                                      QStyle::PE_IndicatorArrowDown,
-                                                      QStyle::PE_IndicatorArrowLeft,
-                                                      QStyle::PE_IndicatorArrowRight,
-                                                      QStyle::PE_IndicatorArrowUp,
-                                                      QStyle::PE_IndicatorBranch,
-                                                      QStyle::PE_IndicatorCheckBox,
-                                                      QStyle::PE_IndicatorDockWidgetResizeHandle,
-                                                      QStyle::PE_IndicatorHeaderArrow,
-                                                      QStyle::PE_IndicatorItemViewItemCheck,
-                                                      QStyle::PE_IndicatorRadioButton,
-                                                      QStyle::PE_IndicatorToolBarHandle};
+/// The elements that the style paints itself; the common style does not stand everything. The
+/// separator of tool bars is not here: it leaves its pen.
+struct Own : QStyle
+{
+    static constexpr PrimitiveElement frames[] = {
+        PE_FrameDefaultButton, PE_FrameStatusBarItem,    PE_Frame,           PE_FrameMenu,
+        PE_FrameDockWidget,    PE_FrameWindow,           PE_FrameFocusRect,  PE_FrameGroupBox,
+        PE_FrameLineEdit,      PE_FrameTabWidget,        PE_FrameTabBarBase, PE_PanelLineEdit,
+        PE_PanelMenu,          PE_PanelScrollAreaCorner, PE_PanelTipLabel,   PE_PanelButtonCommand,
+        PE_PanelButtonTool};
+    static constexpr PrimitiveElement indicators[] = {PE_IndicatorButtonDropDown,
+                                                      PE_IndicatorTabClose,
+                                                      PE_IndicatorArrowDown,
+                                                      PE_IndicatorArrowLeft,
+                                                      PE_IndicatorArrowRight,
+                                                      PE_IndicatorArrowUp,
+                                                      PE_IndicatorBranch,
+                                                      PE_IndicatorCheckBox,
+                                                      PE_IndicatorDockWidgetResizeHandle,
+                                                      PE_IndicatorHeaderArrow,
+                                                      PE_IndicatorItemViewItemCheck,
+                                                      PE_IndicatorRadioButton,
+                                                      PE_IndicatorToolBarHandle};
+    static constexpr ControlElement controls[] = {
+        CE_PushButton,       CE_PushButtonLabel, CE_ToolButtonLabel,   CE_ComboBoxLabel,
+        CE_TabBarTabShape,   CE_HeaderSection,   CE_ProgressBarGroove, CE_ProgressBarContents,
+        CE_ProgressBarLabel, CE_MenuItem,        CE_MenuVMargin,       CE_MenuHMargin,
+        CE_MenuEmptyArea,    CE_MenuBarItem,     CE_MenuBarEmptyArea,  CE_DockWidgetTitle,
+        CE_RubberBand,       CE_SizeGrip,        CE_Splitter,          CE_ToolBar};
+    // A dial has no parts to ask for, and stands last.
+    static constexpr ComplexControl complexControls[] = {
+        CC_SpinBox, CC_ComboBox, CC_ScrollBar, CC_Slider, CC_GroupBox, CC_TitleBar, CC_Dial};
 
-constexpr QStyle::ControlElement ownControls[] = {
-    QStyle::CE_PushButton,        QStyle::CE_PushButtonLabel,
-    QStyle::CE_ToolButtonLabel,   QStyle::CE_ComboBoxLabel,
-    QStyle::CE_TabBarTabShape,    QStyle::CE_HeaderSection,
-    QStyle::CE_ProgressBarGroove, QStyle::CE_ProgressBarContents,
-    QStyle::CE_ProgressBarLabel,  QStyle::CE_MenuItem,
-    QStyle::CE_MenuVMargin,       QStyle::CE_MenuHMargin,
-    QStyle::CE_MenuEmptyArea,     QStyle::CE_MenuBarItem,
-    QStyle::CE_MenuBarEmptyArea,  QStyle::CE_DockWidgetTitle,
-    QStyle::CE_RubberBand,        QStyle::CE_SizeGrip,
-    QStyle::CE_Splitter,          QStyle::CE_ToolBar};
+    // Those of them that paint nothing with a plain option.
+    static constexpr PrimitiveElement typedPrimitives[] = {
+        PE_FrameFocusRect, PE_PanelLineEdit, PE_FrameTabBarBase, PE_IndicatorHeaderArrow,
+        PE_IndicatorCheckBox};
+    static constexpr ControlElement typedControls[] = {
+        CE_PushButton,       CE_PushButtonLabel,     CE_TabBarTabShape,
+        CE_ProgressBarLabel, CE_ProgressBarContents, CE_MenuItem,
+        CE_MenuBarItem,      CE_ToolButtonLabel,     CE_HeaderSection,
+        CE_RubberBand,       CE_DockWidgetTitle,     CE_ComboBoxLabel,
+        CE_ToolBar};
+};
 
-constexpr QStyle::ComplexControl ownComplexControls[] = {
-    QStyle::CC_SpinBox,  QStyle::CC_ComboBox, QStyle::CC_ScrollBar, QStyle::CC_Slider,
-    QStyle::CC_GroupBox, QStyle::CC_TitleBar, QStyle::CC_Dial};
+/// Palettes from which sums and factors leave the range of a colour, or that hold no colours.
+QVector<QPalette> extremePalettes()
+{
+    QPalette gradient = themePalette();
+    gradient.setBrush(QPalette::Window, QLinearGradient(0, 0, 0, 10));
+    QPalette texture = themePalette();
+    texture.setBrush(QPalette::Window, QBrush(QPixmap(4, 4)));
+    return {themePalette(),
+            QPalette(Qt::black),
+            QPalette(Qt::white),
+            QPalette(QColor()),
+            QPalette(QColor(1, 2, 3, 0)),
+            gradient,
+            texture};
+}
 
-// A dial has no parts to ask for.
-constexpr int dialIndex = int(std::size(ownComplexControls)) - 1;
-static_assert(ownComplexControls[dialIndex] == QStyle::CC_Dial);
+/// Rectangles that have no inside, hardly any, or more than any device.
+QVector<QRect> extremeRects()
+{
+    return {{},           {5, 5, 0, 20}, {5, 5, 20, 0},      {5, 5, -7, -9},
+            {5, 5, 1, 1}, {5, 5, 2, 3},  {-50, -50, 30, 20}, {-100000, -100000, 200000, 200000}};
+}
+
+/// Everything of a painter that an element could leave changed.
+struct PainterState
+{
+    explicit PainterState(const QPainter &painter)
+        : values{painter.pen(),        painter.brush(),
+                 painter.font(),       int(painter.renderHints()),
+                 painter.transform(),  painter.hasClipping(),
+                 painter.clipRegion(), painter.opacity()}
+    {}
+
+    QVariantList values;
+};
 
 /// The same values in the same order in every run.
 class Chance
@@ -85,11 +114,8 @@ public:
         : m_generator(seed)
         , m_palettes(extremePalettes())
         , m_rects(extremeRects())
-    {
-        QPixmap pixmap(20, 12);
-        pixmap.fill(Qt::red);
-        m_icon = QIcon(pixmap);
-    }
+        , m_icon(redIcon())
+    {}
 
     int below(int limit) { return m_generator.bounded(limit); }
     bool coin() { return below(2) == 0; }
@@ -97,16 +123,15 @@ public:
     /// Mostly small, sometimes at an end of the range.
     int number()
     {
-        switch (below(8)) {
-        case 0:
-            return std::numeric_limits<int>::max();
-        case 1:
-            return std::numeric_limits<int>::min();
-        case 2:
-            return static_cast<int>(m_generator.generate());
-        default:
-            return below(120) - 20;
-        }
+        const int numbers[] = {std::numeric_limits<int>::max(), std::numeric_limits<int>::min(),
+                               static_cast<int>(m_generator.generate())};
+        const int which = below(8);
+        return which < 3 ? numbers[which] : below(120) - 20;
+    }
+    void fillNumbers(std::initializer_list<int *> numbers)
+    {
+        for (int *value : numbers)
+            *value = number();
     }
 
     QString text()
@@ -119,51 +144,32 @@ public:
                                         QString(400, QLatin1Char('w'))};
         return texts[below(6)];
     }
-
     QIcon icon() { return coin() ? QIcon() : m_icon; }
     QSize size() { return QSize(below(60) - 10, below(60) - 10); }
-
     QRect rect()
     {
         if (below(3) == 0)
             return m_rects.at(below(m_rects.size()));
         return QRect(below(30) - 10, below(30) - 10, below(120), below(60));
     }
-
     QPalette palette()
     {
         QPalette palette = m_palettes.at(below(m_palettes.size()));
         palette.setCurrentColorGroup(static_cast<QPalette::ColorGroup>(below(3)));
         return palette;
     }
+    Qt::Orientation orientation() { return coin() ? Qt::Horizontal : Qt::Vertical; }
 
     /// One of the first \a count values of an enumeration.
     template <typename Enum>
-    Enum value(int count)
+    void pick(Enum *value, int count)
     {
-        return static_cast<Enum>(below(count));
+        *value = static_cast<Enum>(below(count));
     }
-
     template <typename Flags>
-    Flags flags()
+    void pickFlags(Flags *flags)
     {
-        return Flags(static_cast<int>(m_generator.generate() & 0x7fffffff));
-    }
-
-    void fillCommon(QStyleOption &option)
-    {
-        option.state = flags<QStyle::State>();
-        option.direction = coin() ? Qt::LeftToRight : Qt::RightToLeft;
-        option.rect = rect();
-        option.palette = palette();
-        option.fontMetrics = QFontMetrics(QApplication::font());
-    }
-
-    void fillComplex(QStyleOptionComplex &option)
-    {
-        option.subControls = flags<QStyle::SubControls>();
-        option.activeSubControls =
-            coin() ? QStyle::SubControls(QStyle::SC_None) : QStyle::SubControls(1 << below(10));
+        *flags = Flags(static_cast<int>(m_generator.generate() & 0x7fffffff));
     }
 
 private:
@@ -183,214 +189,169 @@ public:
 
     const QStyleOption *simple()
     {
-        if (m_chance.below(20) == 0)
-            return nullptr;
-        static constexpr void (OptionMaker::*makers[])() = {
-            &OptionMaker::makePlain,       &OptionMaker::makeButton,   &OptionMaker::makeFrame,
-            &OptionMaker::makeTab,         &OptionMaker::makeTabFrame, &OptionMaker::makeTabBase,
-            &OptionMaker::makeProgressBar, &OptionMaker::makeMenuItem, &OptionMaker::makeHeader,
-            &OptionMaker::makeDockWidget,  &OptionMaker::makeToolBar,  &OptionMaker::makeFocusRect,
-            &OptionMaker::makeRubberBand,  &OptionMaker::makeComplex};
-        (this->*makers[m_chance.below(14)])();
-        return m_option.get();
+        if (m_chance.below(3) == 0)
+            return complex();
+        return anyOf<QStyleOption, QStyleOptionButton, QStyleOptionFrame, QStyleOptionTab,
+                     QStyleOptionTabWidgetFrame, QStyleOptionTabBarBase, QStyleOptionProgressBar,
+                     QStyleOptionMenuItem, QStyleOptionHeader, QStyleOptionDockWidget,
+                     QStyleOptionToolBar, QStyleOptionFocusRect, QStyleOptionRubberBand>();
     }
-
     const QStyleOptionComplex *complex()
     {
-        if (m_chance.below(20) == 0)
-            return nullptr;
-        makeComplex();
-        return static_cast<const QStyleOptionComplex *>(m_option.get());
+        return static_cast<const QStyleOptionComplex *>(
+            anyOf<QStyleOptionComplex, QStyleOptionSlider, QStyleOptionSpinBox,
+                  QStyleOptionToolButton, QStyleOptionComboBox, QStyleOptionTitleBar,
+                  QStyleOptionGroupBox>());
     }
 
 private:
+    /// One of these types, or none at all.
+    template <typename... Options>
+    const QStyleOption *anyOf()
+    {
+        static constexpr void (OptionMaker::*makers[])() = {&OptionMaker::make<Options>...};
+        if (m_chance.below(20) == 0)
+            return nullptr;
+        (this->*makers[m_chance.below(int(sizeof...(Options)))])();
+        return m_option.get();
+    }
     template <typename Option>
-    Option &make()
+    void make()
     {
         auto option = std::make_shared<Option>();
-        m_chance.fillCommon(*option);
+        m_chance.pickFlags(&option->state);
+        option->direction = m_chance.coin() ? Qt::LeftToRight : Qt::RightToLeft;
+        option->rect = m_chance.rect();
+        option->palette = m_chance.palette();
+        fill(*option);
         m_option = option;
-        return *option;
     }
 
-    void makePlain() { make<QStyleOption>(); }
-    void makeFocusRect() { make<QStyleOptionFocusRect>(); }
-
-    void makeButton()
+    void fill(QStyleOption &) {}
+    void fill(QStyleOptionButton &option)
     {
-        auto &option = make<QStyleOptionButton>();
-        option.features = m_chance.flags<QStyleOptionButton::ButtonFeatures>();
-        option.text = m_chance.text();
-        option.icon = m_chance.icon();
+        m_chance.pickFlags(&option.features);
+        fillLabel(option);
         option.iconSize = m_chance.size();
     }
-
-    void makeFrame()
+    void fill(QStyleOptionFrame &option)
     {
-        auto &option = make<QStyleOptionFrame>();
-        option.lineWidth = m_chance.number();
-        option.midLineWidth = m_chance.number();
+        m_chance.fillNumbers({&option.lineWidth, &option.midLineWidth});
     }
-
-    void makeTab()
+    void fill(QStyleOptionTab &option)
     {
-        auto &option = make<QStyleOptionTab>();
-        option.shape = m_chance.value<QTabBar::Shape>(8);
-        option.position = m_chance.value<QStyleOptionTab::TabPosition>(4);
-        option.selectedPosition = m_chance.value<QStyleOptionTab::SelectedPosition>(3);
-        option.features = m_chance.flags<QStyleOptionTab::TabFeatures>();
-        option.text = m_chance.text();
+        m_chance.pick(&option.shape, 8);
+        m_chance.pick(&option.position, 4);
+        m_chance.pick(&option.selectedPosition, 3);
+        m_chance.pickFlags(&option.features);
     }
-
-    void makeTabFrame()
+    void fill(QStyleOptionTabWidgetFrame &option)
     {
-        auto &option = make<QStyleOptionTabWidgetFrame>();
-        option.shape = m_chance.value<QTabBar::Shape>(8);
+        m_chance.pick(&option.shape, 8);
         option.selectedTabRect = m_chance.rect();
     }
-
-    void makeTabBase()
+    void fill(QStyleOptionTabBarBase &option)
     {
-        auto &option = make<QStyleOptionTabBarBase>();
-        option.shape = m_chance.value<QTabBar::Shape>(8);
+        m_chance.pick(&option.shape, 8);
         option.selectedTabRect = m_chance.rect();
         option.tabBarRect = m_chance.rect();
     }
-
-    void makeProgressBar()
+    void fill(QStyleOptionProgressBar &option)
     {
-        auto &option = make<QStyleOptionProgressBar>();
-        option.minimum = m_chance.coin() ? 0 : m_chance.number();
-        option.maximum = m_chance.coin() ? 0 : m_chance.number();
-        option.progress = m_chance.number();
+        m_chance.fillNumbers({&option.minimum, &option.maximum, &option.progress});
+        if (m_chance.coin())
+            option.minimum = option.maximum = 0;
         option.text = m_chance.text();
-        option.orientation = m_chance.coin() ? Qt::Horizontal : Qt::Vertical;
+        option.orientation = m_chance.orientation();
         option.invertedAppearance = m_chance.coin();
-        option.textVisible = m_chance.coin();
     }
-
-    void makeMenuItem()
+    void fill(QStyleOptionMenuItem &option)
     {
-        auto &option = make<QStyleOptionMenuItem>();
-        option.menuItemType = m_chance.value<QStyleOptionMenuItem::MenuItemType>(8);
-        option.checkType = m_chance.value<QStyleOptionMenuItem::CheckType>(3);
+        m_chance.pick(&option.menuItemType, 8);
+        m_chance.pick(&option.checkType, 3);
         option.checked = m_chance.coin();
-        option.text = m_chance.text();
-        option.icon = m_chance.icon();
+        fillLabel(option);
         option.maxIconWidth = m_chance.below(60);
         option.tabWidth = m_chance.below(200) - 50;
-        option.font = QApplication::font();
     }
-
-    void makeHeader()
+    void fill(QStyleOptionHeader &option)
     {
-        auto &option = make<QStyleOptionHeader>();
-        option.section = m_chance.number();
-        option.text = m_chance.text();
-        option.icon = m_chance.icon();
-        option.position = m_chance.value<QStyleOptionHeader::SectionPosition>(4);
-        option.sortIndicator = m_chance.value<QStyleOptionHeader::SortIndicator>(3);
-        option.orientation = m_chance.coin() ? Qt::Horizontal : Qt::Vertical;
+        fillLabel(option);
+        m_chance.pick(&option.position, 4);
+        m_chance.pick(&option.sortIndicator, 3);
+        option.orientation = m_chance.orientation();
     }
-
-    void makeDockWidget()
+    void fill(QStyleOptionDockWidget &option)
     {
-        auto &option = make<QStyleOptionDockWidget>();
         option.title = m_chance.text();
-        option.closable = m_chance.coin();
-        option.floatable = m_chance.coin();
         option.verticalTitleBar = m_chance.coin();
     }
-
-    void makeToolBar()
+    void fill(QStyleOptionToolBar &option)
     {
-        auto &option = make<QStyleOptionToolBar>();
-        option.positionOfLine = m_chance.value<QStyleOptionToolBar::ToolBarPosition>(4);
+        m_chance.pick(&option.positionOfLine, 4);
         option.toolBarArea = static_cast<Qt::ToolBarArea>(1 << m_chance.below(4));
     }
 
-    void makeRubberBand() { make<QStyleOptionRubberBand>().opaque = m_chance.coin(); }
-
-    void makeComplex()
+    void fill(QStyleOptionComplex &option)
     {
-        static constexpr void (OptionMaker::*makers[])() = {
-            &OptionMaker::makePlainComplex, &OptionMaker::makeSlider,   &OptionMaker::makeSpinBox,
-            &OptionMaker::makeToolButton,   &OptionMaker::makeComboBox, &OptionMaker::makeTitleBar,
-            &OptionMaker::makeGroupBox};
-        (this->*makers[m_chance.below(7)])();
+        m_chance.pickFlags(&option.subControls);
+        option.activeSubControls =
+            QStyle::SubControls(m_chance.coin() ? 0 : 1 << m_chance.below(10));
     }
-
-    template <typename Option>
-    Option &makeTypedComplex()
+    void fill(QStyleOptionSlider &option)
     {
-        auto &option = make<Option>();
-        m_chance.fillComplex(option);
-        return option;
-    }
-
-    void makePlainComplex() { makeTypedComplex<QStyleOptionComplex>(); }
-
-    void makeSlider()
-    {
-        auto &option = makeTypedComplex<QStyleOptionSlider>();
-        option.orientation = m_chance.coin() ? Qt::Horizontal : Qt::Vertical;
-        option.minimum = m_chance.number();
-        option.maximum = m_chance.number();
-        option.sliderPosition = m_chance.number();
-        option.sliderValue = m_chance.number();
-        option.singleStep = m_chance.number();
-        option.pageStep = m_chance.number();
-        option.tickInterval = m_chance.number();
-        option.tickPosition = m_chance.value<QSlider::TickPosition>(4);
+        fill(static_cast<QStyleOptionComplex &>(option));
+        m_chance.fillNumbers({&option.minimum, &option.maximum, &option.sliderPosition,
+                              &option.sliderValue, &option.singleStep, &option.pageStep,
+                              &option.tickInterval});
+        option.orientation = m_chance.orientation();
+        m_chance.pick(&option.tickPosition, 4);
         option.upsideDown = m_chance.coin();
         option.dialWrapping = m_chance.coin();
     }
-
-    void makeSpinBox()
+    void fill(QStyleOptionSpinBox &option)
     {
-        auto &option = makeTypedComplex<QStyleOptionSpinBox>();
-        option.buttonSymbols = m_chance.value<QAbstractSpinBox::ButtonSymbols>(3);
-        option.stepEnabled = m_chance.flags<QAbstractSpinBox::StepEnabled>();
+        fill(static_cast<QStyleOptionComplex &>(option));
+        m_chance.pick(&option.buttonSymbols, 3);
+        m_chance.pickFlags(&option.stepEnabled);
         option.frame = m_chance.coin();
     }
-
-    void makeToolButton()
+    void fill(QStyleOptionToolButton &option)
     {
-        auto &option = makeTypedComplex<QStyleOptionToolButton>();
-        option.features = m_chance.flags<QStyleOptionToolButton::ToolButtonFeatures>();
-        option.arrowType = m_chance.value<Qt::ArrowType>(5);
-        option.toolButtonStyle = m_chance.value<Qt::ToolButtonStyle>(5);
-        option.text = m_chance.text();
-        option.icon = m_chance.icon();
+        fill(static_cast<QStyleOptionComplex &>(option));
+        m_chance.pickFlags(&option.features);
+        m_chance.pick(&option.arrowType, 5);
+        m_chance.pick(&option.toolButtonStyle, 5);
+        fillLabel(option);
         option.iconSize = m_chance.size();
     }
-
-    void makeComboBox()
+    void fill(QStyleOptionComboBox &option)
     {
-        auto &option = makeTypedComplex<QStyleOptionComboBox>();
+        fill(static_cast<QStyleOptionComplex &>(option));
         option.editable = m_chance.coin();
-        option.frame = m_chance.coin();
         option.currentText = m_chance.text();
         option.currentIcon = m_chance.icon();
         option.iconSize = m_chance.size();
     }
-
-    void makeTitleBar()
+    void fill(QStyleOptionTitleBar &option)
     {
-        auto &option = makeTypedComplex<QStyleOptionTitleBar>();
+        fill(static_cast<QStyleOptionComplex &>(option));
+        fillLabel(option);
+        option.titleBarState = m_chance.number();
+        m_chance.pickFlags(&option.titleBarFlags);
+    }
+    void fill(QStyleOptionGroupBox &option)
+    {
+        fill(static_cast<QStyleOptionComplex &>(option));
+        option.text = m_chance.text();
+        m_chance.pickFlags(&option.textAlignment);
+        option.lineWidth = m_chance.number();
+    }
+    template <typename Option>
+    void fillLabel(Option &option)
+    {
         option.text = m_chance.text();
         option.icon = m_chance.icon();
-        option.titleBarState = m_chance.number();
-        option.titleBarFlags = m_chance.flags<Qt::WindowFlags>();
-    }
-
-    void makeGroupBox()
-    {
-        auto &option = makeTypedComplex<QStyleOptionGroupBox>();
-        option.text = m_chance.text();
-        option.textAlignment = m_chance.flags<Qt::Alignment>();
-        option.lineWidth = m_chance.number();
-        option.features = m_chance.flags<QStyleOptionFrame::FrameFeatures>();
     }
 
     Chance &m_chance;
@@ -408,14 +369,14 @@ private slots:
     void primitives();
     void controls();
     void complexControls();
+    void wrongTypes();
     void geometry();
     void hugeRange();
 
 private:
-    using Call = std::function<void(QPainter *painter)>;
-
-    QString fault(const Call &call);
-    const QWidget *anyWidget(Chance &chance) const;
+    template <typename Element, std::size_t Count, typename Make, typename Paint>
+    QString firstFault(const Element (&elements)[Count], Make make, Paint paint);
+    QString fault(const QStyleOption *option, const Drawing &paint);
 
     DarkUX m_theme;
     std::unique_ptr<DarkFusionStyle> m_style{m_theme.style()};
@@ -426,7 +387,7 @@ private:
 
 void TestStyleFuzz::initTestCase()
 {
-    m_image = picture(QSize(64, 48), Qt::darkCyan, [](QPainter &) {});
+    m_image = picture(QSize(64, 48), [](QPainter &) {});
     auto *text = new QTextEdit;
     m_window.setCentralWidget(text);
     m_widgets = {nullptr,
@@ -439,80 +400,78 @@ void TestStyleFuzz::initTestCase()
                  new QTabBar(&m_window)};
 }
 
-const QWidget *TestStyleFuzz::anyWidget(Chance &chance) const
+/// What is wrong after \a paint with \a option, or nothing.
+QString TestStyleFuzz::fault(const QStyleOption *option, const Drawing &paint)
 {
-    return m_widgets.at(chance.below(m_widgets.size()));
-}
-
-/// What is wrong after \a call, or nothing.
-QString TestStyleFuzz::fault(const Call &call)
-{
+    const bool paintsNothing = !option || option->rect.isEmpty();
+    const QImage before = paintsNothing ? m_image.copy() : QImage();
     QPainter painter(&m_image);
     painter.setPen(QPen(Qt::magenta, 3, Qt::DashLine));
     painter.setBrush(Qt::Dense4Pattern);
     painter.setClipRect(0, 0, 55, 40);
     painter.translate(2, 1);
-    const PainterState before(painter);
+    const PainterState state(painter);
     QElapsedTimer timer;
     timer.start();
-    call(&painter);
+    paint(painter);
     if (timer.elapsed() > slowestCall)
         return QStringLiteral("takes %1 ms").arg(timer.elapsed());
-    if (!(PainterState(painter) == before))
+    if (PainterState(painter).values != state.values)
         return QStringLiteral("leaves the painter changed");
+    if (paintsNothing && m_image != before)
+        return QStringLiteral("paints something nowhere");
+    return QString();
+}
+
+template <typename Element, std::size_t Count, typename Make, typename Paint>
+QString TestStyleFuzz::firstFault(const Element (&elements)[Count], Make make, Paint paint)
+{
+    Chance chance;
+    OptionMaker maker(chance);
+    for (int round = 0; round < rounds; ++round) {
+        const Element element = elements[chance.below(int(Count))];
+        const auto *option = (maker.*make)();
+        const QWidget *widget = m_widgets.at(chance.below(m_widgets.size()));
+        const QString message = fault(option, [&](QPainter &painter) {
+            (m_style.get()->*paint)(element, option, &painter, widget);
+        });
+        if (!message.isEmpty())
+            return QStringLiteral("round %1, element %2: %3").arg(round).arg(element).arg(message);
+    }
     return QString();
 }
 
 void TestStyleFuzz::primitives()
 {
-    Chance chance;
-    OptionMaker maker(chance);
-    for (int round = 0; round < rounds; ++round) {
-        const auto element = ownPrimitives[chance.below(int(std::size(ownPrimitives)))];
-        const QStyleOption *option = maker.simple();
-        const QWidget *widget = anyWidget(chance);
-        const QString message = fault(
-            [&](QPainter *painter) { m_style->drawPrimitive(element, option, painter, widget); });
-        QVERIFY2(
-            message.isEmpty(),
-            qPrintable(
-                QStringLiteral("round %1, element %2: %3").arg(round).arg(element).arg(message)));
-    }
+    QCOMPARE(firstFault(Own::frames, &OptionMaker::simple, &QStyle::drawPrimitive), QString());
+    QCOMPARE(firstFault(Own::indicators, &OptionMaker::simple, &QStyle::drawPrimitive), QString());
 }
 
 void TestStyleFuzz::controls()
 {
-    Chance chance;
-    OptionMaker maker(chance);
-    for (int round = 0; round < rounds; ++round) {
-        const auto element = ownControls[chance.below(int(std::size(ownControls)))];
-        const QStyleOption *option = maker.simple();
-        const QWidget *widget = anyWidget(chance);
-        const QString message = fault(
-            [&](QPainter *painter) { m_style->drawControl(element, option, painter, widget); });
-        QVERIFY2(
-            message.isEmpty(),
-            qPrintable(
-                QStringLiteral("round %1, element %2: %3").arg(round).arg(element).arg(message)));
-    }
+    QCOMPARE(firstFault(Own::controls, &OptionMaker::simple, &QStyle::drawControl), QString());
 }
 
 void TestStyleFuzz::complexControls()
 {
-    Chance chance;
-    OptionMaker maker(chance);
-    for (int round = 0; round < rounds; ++round) {
-        const auto control = ownComplexControls[chance.below(int(std::size(ownComplexControls)))];
-        const QStyleOptionComplex *option = maker.complex();
-        const QWidget *widget = anyWidget(chance);
-        const QString message = fault([&](QPainter *painter) {
-            m_style->drawComplexControl(control, option, painter, widget);
-        });
-        QVERIFY2(
-            message.isEmpty(),
-            qPrintable(
-                QStringLiteral("round %1, control %2: %3").arg(round).arg(control).arg(message)));
-    }
+    QCOMPARE(firstFault(Own::complexControls, &OptionMaker::complex, &QStyle::drawComplexControl),
+             QString());
+}
+
+void TestStyleFuzz::wrongTypes()
+{
+    const auto plain = makeOption<QStyleOption>(QRect(0, 0, 40, 30), enabled | keyboardFocus);
+    auto complex = makeOption<QStyleOptionComplex>(plain.rect);
+    complex.subControls = QStyle::SC_All;
+    const QImage image = picture([&](QPainter &painter) {
+        for (const auto element : Own::typedPrimitives)
+            m_style->drawPrimitive(element, &plain, &painter);
+        for (const auto element : Own::typedControls)
+            m_style->drawControl(element, &plain, &painter);
+        for (const auto control : Own::complexControls)
+            m_style->drawComplexControl(control, &complex, &painter);
+    });
+    QVERIFY(painted(image).isEmpty());
 }
 
 /// The questions that layouts and mouse events ask.
@@ -523,23 +482,25 @@ void TestStyleFuzz::geometry()
     QElapsedTimer timer;
     timer.start();
     for (int round = 0; round < rounds; ++round) {
-        const QWidget *widget = anyWidget(chance);
-        const auto control = ownComplexControls[chance.below(dialIndex)];
+        const QWidget *widget = m_widgets.at(chance.below(m_widgets.size()));
+        const auto control =
+            Own::complexControls[chance.below(int(std::size(Own::complexControls)) - 1)];
         const QStyleOptionComplex *complex = maker.complex();
         m_style->subControlRect(control, complex, QStyle::SubControl(1 << chance.below(14)),
                                 widget);
         m_style->hitTestComplexControl(control, complex, chance.rect().topLeft(), widget);
 
+        // Beyond the last of each kind, too.
         const QStyleOption *option = maker.simple();
-        m_style->subElementRect(chance.value<QStyle::SubElement>(QStyle::SE_TabBarScrollLeftButton),
-                                option, widget);
-        m_style->sizeFromContents(chance.value<QStyle::ContentsType>(QStyle::CT_MdiControls),
-                                  option, chance.size(), widget);
-        m_style->pixelMetric(
-            chance.value<QStyle::PixelMetric>(QStyle::PM_HeaderDefaultSectionSizeVertical), option,
-            widget);
-        m_style->styleHint(chance.value<QStyle::StyleHint>(QStyle::SH_SpinBox_ButtonsInsideFrame),
-                           option, widget);
+        const int question = chance.below(140) - 1;
+        m_style->subElementRect(QStyle::SubElement(question), option, widget);
+        m_style->sizeFromContents(QStyle::ContentsType(question), option, chance.size(), widget);
+        m_style->pixelMetric(QStyle::PixelMetric(question), option, widget);
+        m_style->styleHint(QStyle::StyleHint(question), option, widget);
+        if (round % 50 == 0) {
+            m_style->standardPixmap(QStyle::StandardPixmap(question), option, widget);
+            m_style->standardIcon(QStyle::StandardPixmap(question), option, widget);
+        }
     }
     QVERIFY(timer.elapsed() < rounds);
 }
