@@ -133,7 +133,11 @@ public:
                     const QWidget *widget) const override
     {
         const bool isShift = metric == PM_ButtonShiftHorizontal || metric == PM_ButtonShiftVertical;
-        return isShift ? 3 : QProxyStyle::pixelMetric(metric, option, widget);
+        if (isShift)
+            return 3;
+        if (metric == PM_ScrollBarExtent && scrollBarExtent > 0)
+            return scrollBarExtent;
+        return QProxyStyle::pixelMetric(metric, option, widget);
     }
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returnData) const override
@@ -151,6 +155,7 @@ public:
     }
 
     bool isTransient = true;
+    int scrollBarExtent = 0; // the style's
     mutable QVector<Text> texts;
     mutable QVector<QRect> pixmapRects;
     mutable QVector<Piece> pieces;

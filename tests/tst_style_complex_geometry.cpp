@@ -40,17 +40,9 @@ QStyleOptionTitleBar titleBarOption(Qt::WindowFlags flags, int state)
     return option;
 }
 
-constexpr Qt::WindowType everyHint[] = {
-    Qt::WindowTitleHint,          Qt::WindowSystemMenuHint,  Qt::WindowMinimizeButtonHint,
-    Qt::WindowMaximizeButtonHint, Qt::WindowShadeButtonHint, Qt::WindowContextHelpButtonHint};
-
-Qt::WindowFlags everyFlag()
-{
-    Qt::WindowFlags flags;
-    for (Qt::WindowType hint : everyHint)
-        flags |= hint;
-    return flags;
-}
+const Qt::WindowFlags everyFlag = Qt::WindowTitleHint | Qt::WindowSystemMenuHint
+                                  | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint
+                                  | Qt::WindowShadeButtonHint | Qt::WindowContextHelpButtonHint;
 
 } // namespace
 
@@ -238,7 +230,7 @@ private slots:
     {
         QFETCH(int, state);
         QFETCH(QVector<QStyle::SubControl>, buttons);
-        QStyleOptionTitleBar option = titleBarOption(everyFlag(), state);
+        QStyleOptionTitleBar option = titleBarOption(everyFlag, state);
         for (int i = 0; i < buttons.size(); ++i) {
             QCOMPARE(place(QStyle::CC_TitleBar, option, buttons.at(i)),
                      QRect(276 - 20 * (buttons.size() - 1 - i), 3, 18, 18));
@@ -282,7 +274,7 @@ private slots:
         QCOMPARE(hit(QStyle::CC_Slider, slider, {15, 19}), QStyle::SC_SliderGroove);
         QCOMPARE(hit(QStyle::CC_Slider, slider, {15, 2}), QStyle::SC_None);
 
-        const QStyleOptionTitleBar titleBar = titleBarOption(everyFlag(), 0);
+        const QStyleOptionTitleBar titleBar = titleBarOption(everyFlag, 0);
         QCOMPARE(hit(QStyle::CC_TitleBar, titleBar, {280, 10}), QStyle::SC_TitleBarCloseButton);
         QCOMPARE(hit(QStyle::CC_TitleBar, titleBar, {100, 10}), QStyle::SC_TitleBarLabel);
     }
@@ -297,25 +289,6 @@ private slots:
         QCOMPARE(place(QStyle::CC_ScrollBar, option, QStyle::SC_ScrollBarGroove), option.rect);
         QCOMPARE(place(QStyle::CC_ScrollBar, option, QStyle::SC_ScrollBarSlider),
                  QRect(0, 0, 14, 100));
-    }
-
-    void otherOptionsKeepTheCommonRectangle()
-    {
-        const QCommonStyle common;
-        QStyleOptionComplex plain;
-        plain.rect = QRect(0, 0, 80, 20);
-        for (QStyle::ComplexControl control :
-             {QStyle::CC_SpinBox, QStyle::CC_ComboBox, QStyle::CC_ScrollBar, QStyle::CC_Slider,
-              QStyle::CC_TitleBar, QStyle::CC_GroupBox, QStyle::CC_ToolButton,
-              QStyle::CC_MdiControls})
-        {
-            for (uint part = 1; part <= 0x100; part <<= 1) {
-                const auto subControl = static_cast<QStyle::SubControl>(part);
-                QCOMPARE(m_style.subControlRect(control, &plain, subControl),
-                         common.subControlRect(control, &plain, subControl));
-                QCOMPARE(m_style.subControlRect(control, nullptr, subControl), QRect());
-            }
-        }
     }
 
 private:

@@ -1,21 +1,18 @@
-#include "testsupport.h"
-
-#include <nocturne/DarkFusionStyle>
+#include "stylepainting.h"
 
 #include <QtCore/QProcess>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QCommonStyle>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressBar>
-#include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QSplitter>
-#include <QtWidgets/QStyleOption>
 #include <QtWidgets/QWizard>
 
 // The answers that the style gives to questions about numbers, sizes, rectangles and pixmaps.
+
+using StylePainting::Recorder;
 
 namespace {
 
@@ -59,23 +56,61 @@ public:
     }
 };
 
-/// One option of each kind that a style may be handed by mistake, and none at all.
-template <typename Check>
-void forOddOptions(const QRect &rect, Check check)
+/// The numbers of the style, each with the questions that it answers.
+struct Answers : QStyle
 {
-    QStyleOption plain;
-    QStyleOptionButton button;
-    QStyleOptionMenuItem menuItem;
-    QStyleOptionSpinBox spinBox;
-    QStyleOptionTitleBar titleBar;
-    QStyleOptionDockWidget dockWidget;
-    QStyleOption *const options[] = {&plain, &button, &menuItem, &spinBox, &titleBar, &dockWidget};
-    for (QStyleOption *option : options) {
-        option->rect = rect;
-        check(option);
+    static QVector<QPair<int, QVector<PixelMetric>>> metrics()
+    {
+        return {{-1, {PM_MaximumDragDistance, PM_SubMenuOverlap}},
+                {0,
+                 {PM_ButtonDefaultIndicator, PM_ButtonShiftHorizontal, PM_ButtonShiftVertical,
+                  PM_ScrollView_ScrollBarSpacing, PM_MenuHMargin, PM_MenuVMargin, PM_MenuPanelWidth,
+                  PM_MenuBarPanelWidth, PM_MenuBarVMargin, PM_MenuBarHMargin}},
+                {1,
+                 {PM_DefaultFrameWidth, PM_TabBarTabOverlap, PM_ToolBarItemSpacing,
+                  PM_DockWidgetTitleMargin}},
+                {2,
+                 {PM_ToolTipLabelFrameWidth, PM_TabBarBaseOverlap, PM_HeaderMargin,
+                  PM_ToolBarFrameWidth, PM_ToolBarItemMargin, PM_DockWidgetTitleBarButtonMargin}},
+                {3, {PM_SpinBoxFrameWidth}},
+                {4, {PM_SliderTickmarkOffset, PM_SplitterWidth, PM_DockWidgetHandleExtent}},
+                {6, {PM_MenuBarItemSpacing}},
+                {9, {PM_ToolBarHandleExtent}},
+                {12, {PM_TabBarTabVSpace}},
+                {14,
+                 {PM_IndicatorWidth, PM_IndicatorHeight, PM_ExclusiveIndicatorWidth,
+                  PM_ExclusiveIndicatorHeight, PM_ScrollBarExtent, PM_ScrollView_ScrollBarOverlap}},
+                {15, {PM_SliderThickness, PM_SliderLength}},
+                {16, {PM_ButtonIconSize, PM_SmallIconSize}},
+                {20, {PM_TabCloseIndicatorWidth, PM_TabCloseIndicatorHeight}},
+                {24, {PM_ListViewIconSize, PM_TitleBarHeight}},
+                {26, {PM_DialogButtonsSeparator, PM_ScrollBarSliderMin}},
+                {48, {PM_MessageBoxIconSize}}};
     }
-    check(static_cast<QStyleOption *>(nullptr));
-}
+    static QVector<QPair<int, QVector<StyleHint>>> hints()
+    {
+        return {{0,
+                 {SH_ScrollView_FrameOnlyAroundContents, SH_MainWindow_SpaceBelowMenuBar,
+                  SH_Menu_AllowActiveAndDisabled, SH_ToolBox_SelectedPageTitleBold,
+                  SH_RubberBand_Mask, SH_DialogButtonBox_ButtonsHaveIcons,
+                  SH_MessageBox_CenterButtons, SH_ComboBox_Popup, SH_Table_GridLineColor}},
+                {1,
+                 {SH_EtchDisabledText, SH_FontDialog_SelectAssociatedText,
+                  SH_PrintDialog_RightAlignButtons, SH_ScrollBar_MiddleClickAbsolutePosition,
+                  SH_ScrollBar_Transient, SH_Slider_SnapToValue, SH_Slider_StopMouseOverSlider,
+                  SH_MenuBar_AltKeyNavigation, SH_MenuBar_MouseTracking, SH_Menu_MouseTracking,
+                  SH_Menu_SupportsSections, SH_ComboBox_ListMouseTracking,
+                  SH_ItemView_ArrowKeysNavigateIntoChildren, SH_ItemView_ChangeHighlightOnFocus,
+                  SH_ItemView_ShowDecorationSelected, SH_TitleBar_AutoRaise, SH_TitleBar_NoBorder}},
+                {5, {SH_MessageBox_TextInteractionFlags}},
+                {225, {SH_Menu_SubMenuPopupDelay}},
+                {QWizard::ClassicStyle, {SH_WizardStyle}}};
+    }
+    static constexpr PixelMetric othersMetrics[] = {PM_TextCursorWidth, PM_TitleBarButtonSize,
+                                                    PixelMetric(PM_CustomBase + 3)};
+    static constexpr StyleHint othersHints[] = {SH_ToolTip_WakeUpDelay, SH_SpinBox_StepModifier,
+                                                StyleHint(SH_CustomBase + 1)};
+};
 
 } // namespace
 
@@ -84,18 +119,13 @@ class tst_StyleFrame : public QObject
     Q_OBJECT
 
 private slots:
-    void identity();
-
-    void metrics_data();
     void metrics();
     void metricsGrowWithDpi();
     void scrollBarOverlapAsksTheProxy();
-    void hints_data();
     void hints();
     void hintsFromOptions();
     void windowFrameMask();
 
-    void contentSizes_data();
     void contentSizes();
     void pushButtonSizes();
     void menuItemSizes();
@@ -109,8 +139,6 @@ private slots:
     void polishing();
     void palettes();
     void itemText();
-
-    void oddQuestions();
 
 private:
     /// What the style adds to the size that QCommonStyle finds.
@@ -126,41 +154,15 @@ private:
     QCommonStyle m_common;
 };
 
-void tst_StyleFrame::identity()
-{
-    QCOMPARE(m_style.objectName(), QStringLiteral("DarkFusion"));
-    QVERIFY(m_style.inherits("QCommonStyle"));
-}
-
-void tst_StyleFrame::metrics_data()
-{
-    QTest::addColumn<QStyle::PixelMetric>("metric");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("first") << QStyle::PM_ButtonDefaultIndicator << 0;
-    QTest::newRow("frame") << QStyle::PM_DefaultFrameWidth << 1;
-    QTest::newRow("spin box frame") << QStyle::PM_SpinBoxFrameWidth << 3;
-    QTest::newRow("no limit to a drag") << QStyle::PM_MaximumDragDistance << -1;
-    QTest::newRow("scroll bar") << QStyle::PM_ScrollBarExtent << 14;
-    QTest::newRow("scroll bar overlap") << QStyle::PM_ScrollView_ScrollBarOverlap << 14;
-    QTest::newRow("slider") << QStyle::PM_SliderLength << 15;
-    QTest::newRow("tab") << QStyle::PM_TabBarTabVSpace << 12;
-    QTest::newRow("sub-menu") << QStyle::PM_SubMenuOverlap << -1;
-    QTest::newRow("menu bar") << QStyle::PM_MenuBarItemSpacing << 6;
-    QTest::newRow("message box") << QStyle::PM_MessageBoxIconSize << 48;
-    QTest::newRow("last") << QStyle::PM_SubMenuOverlap << -1;
-    QTest::newRow("not ours") << QStyle::PM_TextCursorWidth
-                              << m_common.pixelMetric(QStyle::PM_TextCursorWidth);
-    QTest::newRow("nor this") << QStyle::PM_TitleBarButtonSize
-                              << m_common.pixelMetric(QStyle::PM_TitleBarButtonSize);
-    QTest::newRow("unknown") << QStyle::PixelMetric(QStyle::PM_CustomBase + 3)
-                             << m_common.pixelMetric(
-                                    QStyle::PixelMetric(QStyle::PM_CustomBase + 3));
-}
-
 void tst_StyleFrame::metrics()
 {
-    QFETCH(QStyle::PixelMetric, metric);
-    QTEST(m_style.pixelMetric(metric), "expected");
+    for (const auto &answer : Answers::metrics()) {
+        for (const QStyle::PixelMetric metric : answer.second)
+            QCOMPARE(qMakePair(metric, m_style.pixelMetric(metric)),
+                     qMakePair(metric, answer.first));
+    }
+    for (const QStyle::PixelMetric metric : Answers::othersMetrics)
+        QCOMPARE(m_style.pixelMetric(metric), m_common.pixelMetric(metric));
 }
 
 void tst_StyleFrame::metricsGrowWithDpi()
@@ -174,66 +176,21 @@ void tst_StyleFrame::metricsGrowWithDpi()
 
 void tst_StyleFrame::scrollBarOverlapAsksTheProxy()
 {
-    struct Proxy : QProxyStyle
-    {
-        using QProxyStyle::QProxyStyle;
-        int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-                      QStyleHintReturn *data) const override
-        {
-            return hint == SH_ScrollBar_Transient
-                       ? transient
-                       : QProxyStyle::styleHint(hint, option, widget, data);
-        }
-        int pixelMetric(PixelMetric metric, const QStyleOption *option,
-                        const QWidget *widget) const override
-        {
-            return metric == PM_ScrollBarExtent ? 99
-                                                : QProxyStyle::pixelMetric(metric, option, widget);
-        }
-        int transient = 1;
-    } proxy(new DarkFusionStyle);
+    Recorder proxy;
+    proxy.scrollBarExtent = 99;
     QCOMPARE(proxy.pixelMetric(QStyle::PM_ScrollView_ScrollBarOverlap, nullptr, nullptr), 99);
-    proxy.transient = 0;
+    proxy.isTransient = false;
     QCOMPARE(proxy.pixelMetric(QStyle::PM_ScrollView_ScrollBarOverlap, nullptr, nullptr), 0);
-}
-
-void tst_StyleFrame::hints_data()
-{
-    QTest::addColumn<QStyle::StyleHint>("hint");
-    QTest::addColumn<int>("expected");
-    for (const QStyle::StyleHint hint :
-         {QStyle::SH_EtchDisabledText, QStyle::SH_ScrollBar_MiddleClickAbsolutePosition,
-          QStyle::SH_Slider_SnapToValue, QStyle::SH_PrintDialog_RightAlignButtons,
-          QStyle::SH_FontDialog_SelectAssociatedText, QStyle::SH_MenuBar_AltKeyNavigation,
-          QStyle::SH_ComboBox_ListMouseTracking, QStyle::SH_Menu_MouseTracking,
-          QStyle::SH_MenuBar_MouseTracking, QStyle::SH_ItemView_ChangeHighlightOnFocus,
-          QStyle::SH_TitleBar_NoBorder, QStyle::SH_Slider_StopMouseOverSlider,
-          QStyle::SH_TitleBar_AutoRaise, QStyle::SH_ItemView_ShowDecorationSelected,
-          QStyle::SH_ItemView_ArrowKeysNavigateIntoChildren, QStyle::SH_ScrollBar_Transient,
-          QStyle::SH_Menu_SupportsSections})
-        QTest::addRow("on: %d", hint) << hint << 1;
-    for (const QStyle::StyleHint hint :
-         {QStyle::SH_MainWindow_SpaceBelowMenuBar, QStyle::SH_Menu_AllowActiveAndDisabled,
-          QStyle::SH_ScrollView_FrameOnlyAroundContents, QStyle::SH_ToolBox_SelectedPageTitleBold,
-          QStyle::SH_RubberBand_Mask, QStyle::SH_DialogButtonBox_ButtonsHaveIcons,
-          QStyle::SH_MessageBox_CenterButtons})
-        QTest::addRow("off: %d", hint) << hint << 0;
-    QTest::newRow("menu delay") << QStyle::SH_Menu_SubMenuPopupDelay << 225;
-    QTest::newRow("wizard") << QStyle::SH_WizardStyle << int(QWizard::ClassicStyle);
-    QTest::newRow("message text") << QStyle::SH_MessageBox_TextInteractionFlags << 5;
-    QTest::newRow("popup without option") << QStyle::SH_ComboBox_Popup << 0;
-    QTest::newRow("grid without option") << QStyle::SH_Table_GridLineColor << 0;
-    QTest::newRow("not ours") << QStyle::SH_ToolTip_WakeUpDelay
-                              << m_common.styleHint(QStyle::SH_ToolTip_WakeUpDelay);
-    QTest::newRow("nor this") << QStyle::SH_SpinBox_StepModifier
-                              << m_common.styleHint(QStyle::SH_SpinBox_StepModifier);
-    QTest::newRow("unknown") << QStyle::StyleHint(QStyle::SH_CustomBase + 1) << 0;
 }
 
 void tst_StyleFrame::hints()
 {
-    QFETCH(QStyle::StyleHint, hint);
-    QTEST(m_style.styleHint(hint), "expected");
+    for (const auto &answer : Answers::hints()) {
+        for (const QStyle::StyleHint hint : answer.second)
+            QCOMPARE(qMakePair(hint, m_style.styleHint(hint)), qMakePair(hint, answer.first));
+    }
+    for (const QStyle::StyleHint hint : Answers::othersHints)
+        QCOMPARE(m_style.styleHint(hint), m_common.styleHint(hint));
 }
 
 void tst_StyleFrame::hintsFromOptions()
@@ -257,9 +214,7 @@ void tst_StyleFrame::windowFrameMask()
     QStyleHintReturnMask mask;
     QCOMPARE(m_style.styleHint(QStyle::SH_WindowFrame_Mask, &option, nullptr, &mask), 1);
 
-    const QStringList corner = {QStringLiteral(".....#"), QStringLiteral("...###"),
-                                QStringLiteral("..####"), QStringLiteral(".#####"),
-                                QStringLiteral(".#####"), QStringLiteral("######")};
+    const QStringList corner = {".....#", "...###", "..####", ".#####", ".#####", "######"};
     for (int y = 0; y < corner.size(); ++y) {
         for (int x = 0; x < corner.at(y).size(); ++x) {
             const bool inside = corner.at(y).at(x) == QLatin1Char('#');
@@ -275,29 +230,16 @@ void tst_StyleFrame::windowFrameMask()
     m_style.styleHint(QStyle::SH_WindowFrame_Mask, nullptr, nullptr, &mask);
 }
 
-void tst_StyleFrame::contentSizes_data()
-{
-    QTest::addColumn<QStyle::ContentsType>("type");
-    QTest::addColumn<QSize>("added");
-    QTest::newRow("check box") << QStyle::CT_CheckBox << QSize(0, 1);
-    QTest::newRow("radio button") << QStyle::CT_RadioButton << QSize(0, 1);
-    QTest::newRow("tool button") << QStyle::CT_ToolButton << QSize(2, 2);
-    QTest::newRow("combo box") << QStyle::CT_ComboBox << QSize(28, 8);
-    QTest::newRow("menu bar item") << QStyle::CT_MenuBarItem << QSize(8, 5);
-    QTest::newRow("line edit") << QStyle::CT_LineEdit << QSize(0, 4);
-    QTest::newRow("spin box") << QStyle::CT_SpinBox << QSize(0, -3);
-    QTest::newRow("size grip") << QStyle::CT_SizeGrip << QSize(4, 4);
-    QTest::newRow("progress bar") << QStyle::CT_ProgressBar << QSize(0, 0);
-    QTest::newRow("slider") << QStyle::CT_Slider << QSize(0, 0);
-}
-
 void tst_StyleFrame::contentSizes()
 {
-    QFETCH(QStyle::ContentsType, type);
-    QFETCH(QSize, added);
-    const QSize contents(50, 20);
-    QStyleOption option;
-    QCOMPARE(addedSize(type, option, contents), added);
+    const QVector<QPair<QStyle::ContentsType, QSize>> added = {
+        {QStyle::CT_CheckBox, QSize(0, 1)},    {QStyle::CT_RadioButton, QSize(0, 1)},
+        {QStyle::CT_ToolButton, QSize(2, 2)},  {QStyle::CT_ComboBox, QSize(28, 8)},
+        {QStyle::CT_MenuBarItem, QSize(8, 5)}, {QStyle::CT_LineEdit, QSize(0, 4)},
+        {QStyle::CT_SpinBox, QSize(0, -3)},    {QStyle::CT_SizeGrip, QSize(4, 4)},
+        {QStyle::CT_ProgressBar, QSize(0, 0)}, {QStyle::CT_Slider, QSize(0, 0)}};
+    for (const auto &size : added)
+        QCOMPARE(qMakePair(size.first, addedSize(size.first, QStyleOption(), QSize(50, 20))), size);
 }
 
 void tst_StyleFrame::pushButtonSizes()
@@ -491,49 +433,23 @@ void tst_StyleFrame::itemText()
     QPalette palette;
     palette.setColor(QPalette::ButtonText, Qt::red);
     const QPen pen(Qt::green, 2);
-    const auto draw = [&](const QString &text, QPalette::ColorRole role, bool enabled = true) {
-        return TestSupport::paintOn(QSize(60, 30), Qt::black, [&](QPainter &painter) {
-            painter.setRenderHint(QPainter::TextAntialiasing, false);
+    const auto draw = [&](QPalette::ColorRole role, bool isEnabled) {
+        return StylePainting::picture([&](QPainter &painter) {
             painter.setPen(pen);
-            m_style.drawItemText(&painter, QRect(0, 0, 60, 30), Qt::AlignCenter, palette, enabled,
-                                 text, role);
+            m_style.drawItemText(&painter, StylePainting::everything, Qt::AlignCenter, palette,
+                                 isEnabled, QStringLiteral("MMM"), role);
             QCOMPARE(painter.pen(), pen);
         });
     };
-    const auto colorOf = [](const QImage &image) {
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                if (image.pixelColor(x, y) != Qt::black)
-                    return image.pixelColor(x, y);
-            }
-        }
-        return QColor(Qt::black);
-    };
-    const QString text = QStringLiteral("MMM");
-    QCOMPARE(colorOf(draw(QString(), QPalette::ButtonText)), QColor(Qt::black));
-    const QColor byRole = colorOf(draw(text, QPalette::ButtonText));
-    QVERIFY(byRole.red() > 0 && byRole.green() == 0);
-    const QColor byPen = colorOf(draw(text, QPalette::NoRole));
-    QVERIFY(byPen.green() > 0 && byPen.red() == 0);
-    QCOMPARE(draw(text, QPalette::ButtonText, false), draw(text, QPalette::ButtonText));
-}
-
-void tst_StyleFrame::oddQuestions()
-{
-    constexpr int beyondTheLast = 140;
-    for (const QRect &rect : {QRect(), QRect(3, 3, 1, 1), QRect(0, 0, 1 << 24, 1 << 24)}) {
-        forOddOptions(rect, [this](const QStyleOption *option) {
-            for (int i = -1; i < beyondTheLast; ++i) {
-                m_style.pixelMetric(QStyle::PixelMetric(i), option);
-                m_style.styleHint(QStyle::StyleHint(i), option);
-                m_style.subElementRect(QStyle::SubElement(i), option);
-                m_style.standardPixmap(QStyle::StandardPixmap(i), option);
-                m_style.standardIcon(QStyle::StandardPixmap(i), option);
-                m_style.sizeFromContents(QStyle::ContentsType(i), option, QSize(30, 20));
-                m_style.sizeFromContents(QStyle::ContentsType(i), option, QSize());
-            }
+    const auto drawn = [](const QColor &color) {
+        return StylePainting::picture([&](QPainter &painter) {
+            painter.setPen(color);
+            painter.drawText(StylePainting::everything, Qt::AlignCenter, QStringLiteral("MMM"));
         });
-    }
+    };
+    QCOMPARE(draw(QPalette::ButtonText, true), drawn(Qt::red));
+    QCOMPARE(draw(QPalette::ButtonText, false), drawn(Qt::red));
+    QCOMPARE(draw(QPalette::NoRole, true), drawn(Qt::green));
 }
 
 int main(int argc, char *argv[])
