@@ -129,48 +129,36 @@ private slots:
                  QRect(2, 2, 97, 22));
     }
 
-    void slider_data()
-    {
-        QTest::addColumn<Qt::Orientation>("orientation");
-        QTest::addColumn<int>("ticks");
-        QTest::addColumn<QRect>("groove");
-        QTest::addColumn<QRect>("handleAtMinimum");
-
-        const auto h = Qt::Horizontal;
-        const auto v = Qt::Vertical;
-        QTest::newRow("horizontal")
-            << h << int(QSlider::NoTicks) << QRect(0, 16, 200, 7) << QRect(0, 12, 15, 15);
-        QTest::newRow("horizontal, above")
-            << h << int(QSlider::TicksAbove) << QRect(0, 20, 200, 7) << QRect(0, 16, 15, 15);
-        QTest::newRow("horizontal, below")
-            << h << int(QSlider::TicksBelow) << QRect(0, 12, 200, 7) << QRect(0, 8, 15, 15);
-        QTest::newRow("horizontal, both")
-            << h << int(QSlider::TicksBothSides) << QRect(0, 16, 200, 7) << QRect(0, 12, 15, 15);
-        QTest::newRow("vertical") << v << int(QSlider::NoTicks) << QRect(16, 0, 7, 200)
-                                  << QRect(12, 0, 15, 15);
-        QTest::newRow("vertical, left")
-            << v << int(QSlider::TicksLeft) << QRect(20, 0, 7, 200) << QRect(16, 0, 15, 15);
-        QTest::newRow("vertical, right")
-            << v << int(QSlider::TicksRight) << QRect(12, 0, 7, 200) << QRect(8, 0, 15, 15);
-    }
-
     void slider()
     {
-        QFETCH(Qt::Orientation, orientation);
-        QFETCH(int, ticks);
-        QFETCH(QRect, groove);
-        QFETCH(QRect, handleAtMinimum);
-        QStyleOptionSlider option =
-            sliderOption(orientation, static_cast<QSlider::TickPosition>(ticks));
-        QCOMPARE(place(QStyle::CC_Slider, option, QStyle::SC_SliderGroove), groove);
-        QCOMPARE(place(QStyle::CC_Slider, option, QStyle::SC_SliderHandle), handleAtMinimum);
-
-        const QPoint travel = orientation == Qt::Horizontal ? QPoint(185, 0) : QPoint(0, 185);
-        option.sliderPosition = option.maximum;
-        QCOMPARE(place(QStyle::CC_Slider, option, QStyle::SC_SliderHandle),
-                 handleAtMinimum.translated(travel));
-        option.upsideDown = true;
-        QCOMPARE(place(QStyle::CC_Slider, option, QStyle::SC_SliderHandle), handleAtMinimum);
+        struct Case
+        {
+            QSlider::TickPosition ticks;
+            int groove; // across
+            int handle;
+        };
+        for (const Case &place :
+             {Case{QSlider::NoTicks, 16, 12}, Case{QSlider::TicksAbove, 20, 16},
+              Case{QSlider::TicksBelow, 12, 8}, Case{QSlider::TicksBothSides, 16, 12}})
+        {
+            for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+                const auto turned = [&](int along, int across, int length, int thickness) {
+                    return orientation == Qt::Horizontal ? QRect(along, across, length, thickness)
+                                                         : QRect(across, along, thickness, length);
+                };
+                QStyleOptionSlider option = sliderOption(orientation, place.ticks);
+                const auto handle = [&] {
+                    return this->place(QStyle::CC_Slider, option, QStyle::SC_SliderHandle);
+                };
+                QCOMPARE(this->place(QStyle::CC_Slider, option, QStyle::SC_SliderGroove),
+                         turned(0, place.groove, 200, 7));
+                QCOMPARE(handle(), turned(0, place.handle, 15, 15));
+                option.sliderPosition = option.maximum;
+                QCOMPARE(handle(), turned(185, place.handle, 15, 15));
+                option.upsideDown = true;
+                QCOMPARE(handle(), turned(0, place.handle, 15, 15));
+            }
+        }
     }
 
     void groupBox()
@@ -205,25 +193,20 @@ private slots:
     void titleBar_data()
     {
         QTest::addColumn<int>("state");
-        QTest::addColumn<QVector<QStyle::SubControl>>("buttons");
-
-        const auto help = QStyle::SC_TitleBarContextHelpButton;
-        const auto close = QStyle::SC_TitleBarCloseButton;
+        QTest::addColumn<QVector<QStyle::SubControl>>("buttons"); // between help and close
+        using Buttons = QVector<QStyle::SubControl>;
         QTest::newRow("normal") << 0
-                                << QVector<QStyle::SubControl>{help, QStyle::SC_TitleBarMinButton,
-                                                               QStyle::SC_TitleBarMaxButton,
-                                                               QStyle::SC_TitleBarShadeButton,
-                                                               close};
+                                << Buttons{QStyle::SC_TitleBarMinButton,
+                                           QStyle::SC_TitleBarMaxButton,
+                                           QStyle::SC_TitleBarShadeButton};
         QTest::newRow("minimized")
             << int(Qt::WindowMinimized)
-            << QVector<QStyle::SubControl>{help, QStyle::SC_TitleBarNormalButton,
-                                           QStyle::SC_TitleBarMaxButton,
-                                           QStyle::SC_TitleBarUnshadeButton, close};
+            << Buttons{QStyle::SC_TitleBarNormalButton, QStyle::SC_TitleBarMaxButton,
+                       QStyle::SC_TitleBarUnshadeButton};
         QTest::newRow("maximized")
             << int(Qt::WindowMaximized)
-            << QVector<QStyle::SubControl>{help, QStyle::SC_TitleBarMinButton,
-                                           QStyle::SC_TitleBarNormalButton,
-                                           QStyle::SC_TitleBarShadeButton, close};
+            << Buttons{QStyle::SC_TitleBarMinButton, QStyle::SC_TitleBarNormalButton,
+                       QStyle::SC_TitleBarShadeButton};
     }
 
     void titleBar()
@@ -231,22 +214,19 @@ private slots:
         QFETCH(int, state);
         QFETCH(QVector<QStyle::SubControl>, buttons);
         QStyleOptionTitleBar option = titleBarOption(everyFlag, state);
-        for (int i = 0; i < buttons.size(); ++i) {
-            QCOMPARE(place(QStyle::CC_TitleBar, option, buttons.at(i)),
-                     QRect(276 - 20 * (buttons.size() - 1 - i), 3, 18, 18));
+        buttons.prepend(QStyle::SC_TitleBarContextHelpButton);
+        buttons.append(QStyle::SC_TitleBarCloseButton);
+        for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            option.direction = direction;
+            const auto compare = [&](QStyle::SubControl part, const QRect &expected) {
+                QCOMPARE(place(QStyle::CC_TitleBar, option, part),
+                         QStyle::visualRect(direction, option.rect, expected));
+            };
+            for (int i = 0; i < buttons.size(); ++i)
+                compare(buttons.at(i), QRect(196 + 20 * i, 3, 18, 18));
+            compare(QStyle::SC_TitleBarLabel, QRect(20, 0, 180, 24));
+            compare(QStyle::SC_TitleBarSysMenu, QRect(5, 3, 18, 18));
         }
-        QCOMPARE(place(QStyle::CC_TitleBar, option, QStyle::SC_TitleBarLabel),
-                 QRect(20, 0, 180, 24));
-        QCOMPARE(place(QStyle::CC_TitleBar, option, QStyle::SC_TitleBarSysMenu),
-                 QRect(5, 3, 18, 18));
-
-        option.direction = Qt::RightToLeft;
-        QCOMPARE(place(QStyle::CC_TitleBar, option, QStyle::SC_TitleBarCloseButton),
-                 QRect(6, 3, 18, 18));
-        QCOMPARE(place(QStyle::CC_TitleBar, option, QStyle::SC_TitleBarLabel),
-                 QRect(100, 0, 180, 24));
-        QCOMPARE(place(QStyle::CC_TitleBar, option, QStyle::SC_TitleBarSysMenu),
-                 QRect(277, 3, 18, 18));
     }
 
     void titleBarWithoutButtons()
