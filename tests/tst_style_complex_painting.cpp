@@ -55,32 +55,6 @@ QStringList unitsOf(const QImage &image, const QRect &area, const QColor &color)
     return rows;
 }
 
-int unitCount(const QRegion &region)
-{
-    int count = 0;
-    for (const QRect &rect : region)
-        count += rect.width() * rect.height();
-    return count;
-}
-
-/// The arrow that is narrower on the side that it points to.
-Qt::ArrowType directionOf(const QRegion &arrow)
-{
-    QRect first = arrow.boundingRect();
-    const bool isUpright = first.width() > first.height();
-    if (isUpright)
-        first.setHeight(1);
-    else
-        first.setWidth(1);
-    const QRect last(arrow.boundingRect().bottomRight()
-                         - QPoint(first.width() - 1, first.height() - 1),
-                     first.size());
-    const bool isFirst = unitCount(arrow & first) < unitCount(arrow & last);
-    if (isUpright)
-        return isFirst ? Qt::UpArrow : Qt::DownArrow;
-    return isFirst ? Qt::LeftArrow : Qt::RightArrow;
-}
-
 } // namespace
 
 class TestStyleComplexPainting : public QObject
@@ -116,9 +90,7 @@ private slots:
     void sliderTickInterval_data();
     void sliderTickInterval();
     void groupBox();
-    void titleBar_data();
     void titleBar();
-    void titleBarText_data() { titleBar_data(); }
     void titleBarText();
     void titleBarSymbols_data();
     void titleBarSymbols();
@@ -638,67 +610,62 @@ void TestStyleComplexPainting::groupBox()
     QVERIFY(m_recorder.texts.isEmpty());
 }
 
-void TestStyleComplexPainting::titleBar_data()
-{
-    QTest::addColumn<bool>("isActive");
-    QTest::newRow("active") << true;
-    QTest::newRow("inactive") << false;
-}
-
 void TestStyleComplexPainting::titleBar()
 {
-    QFETCH(bool, isActive);
-    auto option = makeTitleBar(isActive ? int(QStyle::State_Active) : 0);
-    option.subControls = QStyle::SC_TitleBarLabel;
-    const QColor color = isActive ? highlight : window;
-    const QImage expected = picture(option.rect.size(), [&](QPainter &painter) {
-        painter.fillRect(1, 1, 298, 23,
-                         gradientDown(option.rect, {{0.0, color.lighter(114)},
-                                                    {0.5, color.lighter(102)},
-                                                    {0.51, color.darker(104)},
-                                                    {1.0, color}}));
-        painter.setPen(isActive ? highlight.darker(180) : outline.darker(110));
-        painter.drawLine(5, 0, 294, 0);
-        painter.drawLine(299, 23, 0, 23);
-        for (const int x : {0, 299})
-            painter.drawLine(x, 4, x, 23);
-        for (const QPoint &corner :
-             {QPoint(4, 1), QPoint(3, 1), QPoint(2, 2), QPoint(1, 3), QPoint(1, 4)}) {
-            painter.drawPoint(corner);
-            painter.drawPoint(299 - corner.x(), corner.y());
-        }
-        painter.setPen(color.lighter(120));
-        painter.drawLine(6, 1, 293, 1);
-    });
-    QCOMPARE(paint(QStyle::CC_TitleBar, option), expected);
+    for (const bool isActive : {true, false}) {
+        auto option = makeTitleBar(isActive ? int(QStyle::State_Active) : 0);
+        option.subControls = QStyle::SC_TitleBarLabel;
+        const QColor color = isActive ? highlight : window;
+        const QImage expected = picture(option.rect.size(), [&](QPainter &painter) {
+            painter.fillRect(1, 1, 298, 23,
+                             gradientDown(option.rect, {{0.0, color.lighter(114)},
+                                                        {0.5, color.lighter(102)},
+                                                        {0.51, color.darker(104)},
+                                                        {1.0, color}}));
+            painter.setPen(isActive ? highlight.darker(180) : outline.darker(110));
+            painter.drawLine(5, 0, 294, 0);
+            painter.drawLine(299, 23, 0, 23);
+            for (const int x : {0, 299})
+                painter.drawLine(x, 4, x, 23);
+            for (const QPoint &corner :
+                 {QPoint(4, 1), QPoint(3, 1), QPoint(2, 2), QPoint(1, 3), QPoint(1, 4)}) {
+                painter.drawPoint(corner);
+                painter.drawPoint(299 - corner.x(), corner.y());
+            }
+            painter.setPen(color.lighter(120));
+            painter.drawLine(6, 1, 293, 1);
+        });
+        QCOMPARE(paint(QStyle::CC_TitleBar, option), expected);
 
-    // The two differ in more than the state, which the cache goes by: the cross of the close
-    // button.
-    paint(QStyle::CC_TitleBar, makeTitleBar(isActive ? 0 : int(QStyle::State_Active)));
-    option.subControls = QStyle::SC_All;
-    const QImage image = paint(QStyle::CC_TitleBar, option);
-    COMPARE_UNIT(image, 282, 9, isActive ? QColor(Qt::white) : QColor(Qt::black));
+        // The two differ in more than the state, which the cache goes by: the cross of the close
+        // button.
+        paint(QStyle::CC_TitleBar, makeTitleBar(isActive ? 0 : int(QStyle::State_Active)));
+        option.subControls = QStyle::SC_All;
+        const QImage image = paint(QStyle::CC_TitleBar, option);
+        COMPARE_UNIT(image, 282, 9, isActive ? QColor(Qt::white) : QColor(Qt::black));
+    }
 }
 
 void TestStyleComplexPainting::titleBarText()
 {
-    QFETCH(bool, isActive);
-    auto option = makeTitleBar(isActive ? int(QStyle::State_Active) : 0);
-    const QRect label = place(QStyle::CC_TitleBar, option, QStyle::SC_TitleBarLabel);
-    const QString text(100, QLatin1Char('i'));
-    const QImage expected = picture(option.rect.size(), [&](QPainter &painter) {
-        m_style->drawComplexControl(QStyle::CC_TitleBar, &option, &painter);
-        const QString elided =
-            painter.fontMetrics().elidedText(text, Qt::ElideRight, label.width() - 14);
-        const QColor color = option.palette.color(QPalette::Text);
-        painter.setPen(isActive ? color.lighter(120) : color);
-        painter.drawText(label.translated(1, 1), Qt::AlignCenter, elided);
-        painter.setPen(Qt::white);
-        if (isActive)
-            painter.drawText(label, Qt::AlignCenter, elided);
-    });
-    option.text = text;
-    QCOMPARE(paint(QStyle::CC_TitleBar, option), expected);
+    for (const bool isActive : {true, false}) {
+        auto option = makeTitleBar(isActive ? int(QStyle::State_Active) : 0);
+        const QRect label = place(QStyle::CC_TitleBar, option, QStyle::SC_TitleBarLabel);
+        const QString text(100, QLatin1Char('i'));
+        const QImage expected = picture(option.rect.size(), [&](QPainter &painter) {
+            m_style->drawComplexControl(QStyle::CC_TitleBar, &option, &painter);
+            const QString elided =
+                painter.fontMetrics().elidedText(text, Qt::ElideRight, label.width() - 14);
+            const QColor color = option.palette.color(QPalette::Text);
+            painter.setPen(isActive ? color.lighter(120) : color);
+            painter.drawText(label.translated(1, 1), Qt::AlignCenter, elided);
+            painter.setPen(Qt::white);
+            if (isActive)
+                painter.drawText(label, Qt::AlignCenter, elided);
+        });
+        option.text = text;
+        QCOMPARE(paint(QStyle::CC_TitleBar, option), expected);
+    }
 }
 
 void TestStyleComplexPainting::titleBarSymbols_data()

@@ -8,10 +8,11 @@
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 
+#include <memory>
+
 // The hidden tools that all paint functions of the style share.
 
-using StylePainting::makeOption;
-using StylePainting::Recorder;
+using namespace StylePainting;
 
 namespace {
 
@@ -20,28 +21,6 @@ QImage arrow(const QColor &color, int rotation)
     return StyleHelpers::colorizedImage(StyleHelpers::arrowImageFileName(), color, rotation)
         .toImage()
         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-}
-
-/// The arrow element whose tip is where the outermost line of \a arrow is darkest.
-QStyle::PrimitiveElement pointsTo(const QImage &arrow)
-{
-    const auto light = [&](const QRect &line) {
-        int sum = 0;
-        for (int y = line.top(); y <= line.bottom(); ++y) {
-            for (int x = line.left(); x <= line.right(); ++x)
-                sum += arrow.pixelColor(x, y).lightness();
-        }
-        return sum;
-    };
-    const QRect rect = arrow.rect();
-    if (rect.width() > rect.height()) {
-        const int top = light(QRect(0, 0, rect.width(), 1));
-        const int bottom = light(QRect(0, rect.bottom(), rect.width(), 1));
-        return top < bottom ? QStyle::PE_IndicatorArrowUp : QStyle::PE_IndicatorArrowDown;
-    }
-    const int left = light(QRect(0, 0, 1, rect.height()));
-    const int right = light(QRect(rect.right(), 0, 1, rect.height()));
-    return left < right ? QStyle::PE_IndicatorArrowLeft : QStyle::PE_IndicatorArrowRight;
 }
 
 QStyleOptionSlider dialOption()
@@ -63,19 +42,17 @@ class tst_StyleHelpers : public QObject
 
 private slots:
     void init() { QPixmapCache::clear(); }
-    void cleanupTestCase() { delete m_theme.style(); }
 
     void derivedColors();
     void scrollBarBackground();
 
     void cacheKeys();
-    void spinBoxCacheKeys();
+    void keptDrawings();
     void cachedDrawingIsPaintedOnce();
     void uncacheableDrawingIsPaintedInPlace();
 
     void colorizedArrow();
     void colorizedChannels();
-    void arrowDrawing_data();
     void arrowDrawing();
     void toolButtonArrows();
 
@@ -147,49 +124,82 @@ void tst_StyleHelpers::cacheKeys()
     QCOMPARE(StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, size), key);
     QVERIFY(key.startsWith(QLatin1Char('x')));
 
-    QSet<QString> keys = {key};
-    const auto add = [&](const QStyleOption *changed, const QSize &changedSize) {
-        keys.insert(StyleHelpers::styleCacheKey(QStringLiteral("x"), changed, changedSize));
+    // Whatever a drawing depends on gives it a key of its own.
+    QSet<QString> keys = {key, StyleHelpers::styleCacheKey(QStringLiteral("y"), &option, size),
+                          StyleHelpers::styleCacheKey(QStringLiteral("x"), nullptr, size)};
+    const auto addSize = [&](const QSize &other) {
+        keys << StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, other);
     };
-    keys.insert(StyleHelpers::styleCacheKey(QStringLiteral("y"), &option, size));
-    add(&option, QSize(10, 20));
-    add(&option, QSize(20 + 0x10000, 10));
-    add(nullptr, size);
-    QStyleOptionSlider changed(option);
-    changed.state = QStyle::State_Window; // a high bit
-    add(&changed, size);
-    changed = option;
-    changed.direction = Qt::RightToLeft;
-    add(&changed, size);
-    changed = option;
-    changed.activeSubControls = QStyle::SC_SliderHandle;
-    add(&changed, size);
-    changed = option;
-    changed.palette.setColor(QPalette::Text, Qt::red);
-    add(&changed, size);
-    changed = option;
-    changed.palette.setCurrentColorGroup(QPalette::Disabled);
-    add(&changed, size);
+    addSize(QSize(10, 20));
+    addSize(QSize(20 + 0x10000, 10));
+    const auto addChanged = [&](const std::function<void(QStyleOptionSlider *)> &change) {
+        QStyleOptionSlider changed(option);
+        change(&changed);
+        keys << StyleHelpers::styleCacheKey(QStringLiteral("x"), &changed, size);
+    };
+    addChanged([](auto *other) { other->state = QStyle::State_Window; }); // a high bit
+    addChanged([](auto *other) { other->direction = Qt::RightToLeft; });
+    addChanged([](auto *other) { other->activeSubControls = QStyle::SC_SliderHandle; });
+    addChanged([](auto *other) { other->palette.setColor(QPalette::Text, Qt::red); });
+    addChanged([](auto *other) { other->palette.setCurrentColorGroup(QPalette::Disabled); });
     QCOMPARE(keys.size(), 10);
-}
 
-void tst_StyleHelpers::spinBoxCacheKeys()
-{
-    QSet<QString> keys;
-    QStyleOptionSpinBox option;
-    for (bool frame : {false, true}) {
-        for (auto symbols : {QAbstractSpinBox::UpDownArrows, QAbstractSpinBox::PlusMinus,
-                             QAbstractSpinBox::NoButtons})
-        {
-            for (int steps = 0; steps < 4; ++steps) {
-                option.frame = frame;
-                option.buttonSymbols = symbols;
-                option.stepEnabled = QAbstractSpinBox::StepEnabled(steps);
-                keys.insert(StyleHelpers::styleCacheKey(QStringLiteral("s"), &option, QSize(1, 1)));
-            }
-        }
+    keys.clear();
+    QStyleOptionSpinBox spinBox;
+    for (int i = 0; i < 24; ++i) {
+        spinBox.frame = i % 2;
+        spinBox.stepEnabled = QAbstractSpinBox::StepEnabled(i / 2 % 4);
+        spinBox.buttonSymbols = QAbstractSpinBox::ButtonSymbols(i / 8);
+        keys << StyleHelpers::styleCacheKey(QStringLiteral("s"), &spinBox, size);
     }
     QCOMPARE(keys.size(), 24);
+}
+
+/// Each is looked up under its key, then replaced there, so that what is drawn next tells where it
+/// came from.
+void tst_StyleHelpers::keptDrawings()
+{
+    const std::unique_ptr<QStyle> style(m_theme.style());
+    const auto compare = [](const char *prefix, const QStyleOption &option, const QRect &kept,
+                            const Drawing &paint) {
+        const QString key =
+            StyleHelpers::styleCacheKey(QLatin1String(prefix), &option, kept.size());
+        picture(paint);
+        QPixmap mark;
+        QVERIFY2(QPixmapCache::find(key, &mark), prefix);
+        mark.fill(Qt::green);
+        QPixmapCache::insert(key, mark);
+        const QImage image = picture(paint);
+        QCOMPARE(painted(image), QRegion(kept & everything));
+        QVERIFY(isFilled(image, kept & everything, Qt::green));
+        if (qstrncmp(prefix, "pushbutton", 10) == 0)
+            return;
+        // Where it would be blurred, nothing kept is drawn.
+        const QImage finer =
+            TestSupport::paintOn(canvas, background, paint, qApp->devicePixelRatio() * 1.5);
+        for (int x = 0; x < finer.width(); ++x)
+            QVERIFY(finer.pixelColor(x, finer.height() / 4) != QColor(Qt::green));
+    };
+    const auto comparePrimitive = [&](const char *prefix, QStyle::PrimitiveElement element,
+                                      const QStyleOption &option, const QRect &kept) {
+        compare(prefix, option, kept,
+                [&](QPainter &painter) { style->drawPrimitive(element, &option, &painter); });
+    };
+    auto button = makeOption<QStyleOptionButton>(QRect(2, 2, 40, 24));
+    comparePrimitive("checkbox", QStyle::PE_IndicatorCheckBox, button, button.rect);
+    // A circle as wide as the rectangle, one unit right of and below its middle.
+    comparePrimitive("radiobutton", QStyle::PE_IndicatorRadioButton, button, QRect(2, -6, 40, 40));
+    comparePrimitive("pushbutton-0", QStyle::PE_PanelButtonCommand, button, button.rect);
+    button.features = QStyleOptionButton::DefaultButton;
+    comparePrimitive("pushbutton-1", QStyle::PE_PanelButtonCommand, button, button.rect);
+
+    const auto progress = makeOption<QStyleOptionProgressBar>(button.rect);
+    compare("progressgroove", progress, QRect(2, 1, 40, 25), [&](QPainter &painter) {
+        style->drawControl(QStyle::CE_ProgressBarGroove, &progress, &painter);
+    });
+    compare("progressbusy", progress, progress.rect, [&](QPainter &painter) {
+        style->drawControl(QStyle::CE_ProgressBarContents, &progress, &painter);
+    });
 }
 
 void tst_StyleHelpers::cachedDrawingIsPaintedOnce()
@@ -285,42 +295,31 @@ void tst_StyleHelpers::colorizedChannels()
              80);
 }
 
-void tst_StyleHelpers::arrowDrawing_data()
-{
-    QTest::addColumn<QRect>("rect");
-    QTest::addColumn<bool>("drawn");
-    QTest::newRow("usual") << QRect(3, 4, 11, 11) << true;
-    QTest::newRow("wide") << QRect(2, 2, 30, 10) << true;
-    QTest::newRow("small") << QRect(5, 5, 5, 5) << true;
-    QTest::newRow("one high") << QRect(5, 5, 9, 1) << false;
-    QTest::newRow("one wide") << QRect(5, 5, 1, 9) << false;
-    QTest::newRow("empty") << QRect() << false;
-}
-
 void tst_StyleHelpers::arrowDrawing()
 {
-    QFETCH(QRect, rect);
-    QFETCH(bool, drawn);
-    for (QStyle::PrimitiveElement element :
-         {QStyle::PE_IndicatorArrowUp, QStyle::PE_IndicatorArrowDown, QStyle::PE_IndicatorArrowLeft,
-          QStyle::PE_IndicatorArrowRight})
-    {
+    const QVector<QPair<QStyle::PrimitiveElement, Qt::ArrowType>> arrows = {
+        {QStyle::PE_IndicatorArrowUp, Qt::UpArrow},
+        {QStyle::PE_IndicatorArrowDown, Qt::DownArrow},
+        {QStyle::PE_IndicatorArrowLeft, Qt::LeftArrow},
+        {QStyle::PE_IndicatorArrowRight, Qt::RightArrow}};
+    for (const auto &arrow : arrows) {
         QStyleOption option;
-        option.rect = rect;
         option.palette.setColor(QPalette::WindowText, Qt::white);
-        const QImage image = TestSupport::paintOn(QSize(40, 24), Qt::black, [&](QPainter &painter) {
-            StyleHelpers::drawArrowImage(element, &painter, &option);
-        });
-        const QRect bounds = StylePainting::painted(image, Qt::black).boundingRect();
-        QCOMPARE(!bounds.isNull(), drawn);
-        QVERIFY(rect.contains(bounds) || !drawn);
-        if (drawn) {
-            const bool upright =
-                element == QStyle::PE_IndicatorArrowUp || element == QStyle::PE_IndicatorArrowDown;
-            QCOMPARE(bounds.width() > bounds.height(), upright);
+        const auto draw = [&](const QRect &rect) {
+            option.rect = rect;
+            return TestSupport::paintOn(QSize(40, 24), Qt::black, [&](QPainter &painter) {
+                StyleHelpers::drawArrowImage(arrow.first, &painter, &option);
+            });
+        };
+        for (const QRect &rect : {QRect(3, 4, 11, 11), QRect(2, 2, 30, 10), QRect(5, 5, 5, 5)}) {
+            const QImage image = draw(rect);
+            const QRegion drawn = painted(image, Qt::black);
+            QVERIFY(rect.contains(drawn.boundingRect()));
+            QCOMPARE(directionOf(drawn), arrow.second);
             COMPARE_PIXEL(image, rect.center().x(), rect.center().y(), Qt::white);
-            QCOMPARE(pointsTo(image.copy(bounds)), element);
         }
+        for (const QRect &rect : {QRect(5, 5, 9, 1), QRect(5, 5, 1, 9), QRect()})
+            QVERIFY(painted(draw(rect), Qt::black).isEmpty());
     }
     StyleHelpers::drawArrowImage(QStyle::PE_IndicatorArrowUp, nullptr, nullptr);
 }
