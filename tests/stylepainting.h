@@ -198,6 +198,33 @@ inline void beginSharp(QPainter &painter)
     painter.translate(0.5, 0.5);
 }
 
+template <typename Rect>
+void drawBox(QPainter &painter, const Rect &rect, const QPen &pen, const QBrush &brush,
+             int radius = 0)
+{
+    painter.setPen(pen);
+    painter.setBrush(brush);
+    if (radius > 0)
+        painter.drawRoundedRect(rect, radius, radius);
+    else
+        painter.drawRect(rect);
+}
+
+template <typename Point>
+void drawDisc(QPainter &painter, const Point &centre, qreal radius, const QPen &pen,
+              const QBrush &brush)
+{
+    painter.setPen(pen);
+    painter.setBrush(brush);
+    painter.drawEllipse(QPointF(centre), radius, radius);
+}
+
+inline void drawLine(QPainter &painter, const QColor &color, int x1, int y1, int x2, int y2)
+{
+    painter.setPen(color);
+    painter.drawLine(x1, y1, x2, y2);
+}
+
 inline QLinearGradient gradientDown(const QRect &rect, const QGradientStops &stops)
 {
     QLinearGradient gradient(rect.topLeft(), rect.bottomLeft());

@@ -151,9 +151,7 @@ void TestStyleComplexPainting::spinBox()
             return;
         painter.save();
         beginSharp(painter);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(shifted(window, -11));
-        painter.drawRoundedRect(2, 2, 96, 26, 6, 6);
+        drawBox(painter, QRect(2, 2, 96, 26), Qt::NoPen, shifted(window, -11), 6);
         painter.restore();
     };
     QCOMPARE(paint(QStyle::CC_SpinBox, option), keptPicture(option.rect.size(), drawWell));
@@ -176,15 +174,15 @@ void TestStyleComplexPainting::spinBox()
         } else if (pressed == QStyle::SC_SpinBoxDown) {
             painter.drawLine(left, down.top(), up.right(), down.top());
             painter.drawLine(left, down.top(), left, down.bottom() + 1);
-            painter.setPen(button.darker(110));
-            painter.drawLine(left, down.bottom() + 1, up.right(), down.bottom() + 1);
+            drawLine(painter, button.darker(110), left, down.bottom() + 1, up.right(),
+                     down.bottom() + 1);
         }
         const QColor text = option.palette.color(QPalette::WindowText);
         const QPoint plus = up.center() + QPoint(1, 0);
+        const QPoint minus = down.center() + QPoint(1, 0);
         painter.setPen(withAlpha(text, 220));
         painter.drawLine(plus - QPoint(2, 0), plus + QPoint(2, 0));
         painter.drawLine(plus - QPoint(0, 2), plus + QPoint(0, 2));
-        const QPoint minus = down.center() + QPoint(1, 0);
         painter.setPen(withAlpha(merged(text, option.palette.color(QPalette::Button)), 220));
         painter.drawLine(minus - QPoint(2, 0), minus + QPoint(2, 0));
     };
@@ -255,8 +253,7 @@ void TestStyleComplexPainting::editableComboBox()
         const QRect arrow = place(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxArrow);
         const auto draw = [&](QPainter &painter) {
             const int x = direction == Qt::LeftToRight ? arrow.left() : arrow.right() - 1 + open;
-            painter.setPen(line);
-            painter.drawLine(x, arrow.top() + 1 + open, x, arrow.bottom() - 1 - open);
+            drawLine(painter, line, x, arrow.top() + 1 + open, x, arrow.bottom() - 1 - open);
             if (!(option.subControls & QStyle::SC_ComboBoxArrow))
                 return;
             const QPointF tip(arrow.right() - 8, arrow.height() / 2 + 4);
@@ -298,9 +295,8 @@ void TestStyleComplexPainting::transientScrollBar()
             if (shift == 0)
                 return;
             painter.setRenderHint(QPainter::Antialiasing);
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(shifted(window, shift));
-            painter.drawRoundedRect(handle, 3, 3); // half of the six units it had before
+            drawBox(painter, handle, Qt::NoPen, shifted(window, shift),
+                    3); // half of the six units it had before
         });
     };
     QCOMPARE(paint(QStyle::CC_ScrollBar, option), expected(20));
@@ -379,11 +375,6 @@ QImage TestStyleComplexPainting::solidBar(const QStyleOptionSlider &option) cons
     const QBrush lighted = gradient(start.darker(102), button.lighter(102));
     const QColor rim = withAlpha(outline, 180);
     return picture(option.rect.size(), [&](QPainter &painter) {
-        const auto drawBox = [&](const QRect &rect, const QColor &pen, const QBrush &brush) {
-            painter.setPen(pen);
-            painter.setBrush(brush);
-            painter.drawRect(rect);
-        };
         const auto drawButton = [&](const QRect &rect, const QRect &inner, const QBrush &brush,
                                     bool isFirst) {
             const QPoint across = isHorizontal ? QPoint(0, 13) : QPoint(13, 0);
@@ -391,13 +382,14 @@ QImage TestStyleComplexPainting::solidBar(const QStyleOptionSlider &option) cons
             painter.fillRect(rect & option.rect.adjusted(!isHorizontal, isHorizontal, 0, 0), brush);
             painter.setPen(rim);
             painter.drawLine(edge, edge + across);
-            drawBox(inner, contrast, Qt::NoBrush);
+            drawBox(painter, inner, contrast, Qt::NoBrush);
         };
         painter.fillRect(part(QStyle::SC_ScrollBarGroove), shifted(window, -12));
         const QRect slider = part(QStyle::SC_ScrollBarSlider);
-        drawBox(isHorizontal ? slider.adjusted(-1, 0, 0, 1) : slider.adjusted(0, -1, 1, 0), rim,
-                fill(QStyle::SC_ScrollBarSlider, lighted, middle));
-        drawBox(isHorizontal ? slider.adjusted(0, 1, -1, -1) : slider.adjusted(1, 0, -1, -1),
+        drawBox(painter, isHorizontal ? slider.adjusted(-1, 0, 0, 1) : slider.adjusted(0, -1, 1, 0),
+                rim, fill(QStyle::SC_ScrollBarSlider, lighted, middle));
+        drawBox(painter,
+                isHorizontal ? slider.adjusted(0, 1, -1, -1) : slider.adjusted(1, 0, -1, -1),
                 contrast, Qt::NoBrush);
         const bool isMirrored = option.direction == Qt::RightToLeft;
         const QRect sub = part(QStyle::SC_ScrollBarSubLine);
@@ -468,9 +460,7 @@ void TestStyleComplexPainting::slider()
         return layer(option.rect.size(), [&](QPainter &painter) {
             painter.setClipRect(groove);
             beginSharp(painter);
-            painter.setPen(pen);
-            painter.setBrush(brush);
-            painter.drawRoundedRect(rect, radius, radius);
+            drawBox(painter, rect, pen, brush, radius);
         });
     };
     for (const bool isHovered : {false, true}) {
@@ -622,8 +612,7 @@ void TestStyleComplexPainting::titleBar()
                                                         {0.5, color.lighter(102)},
                                                         {0.51, color.darker(104)},
                                                         {1.0, color}}));
-            painter.setPen(isActive ? highlight.darker(180) : outline.darker(110));
-            painter.drawLine(5, 0, 294, 0);
+            drawLine(painter, isActive ? highlight.darker(180) : outline.darker(110), 5, 0, 294, 0);
             painter.drawLine(299, 23, 0, 23);
             for (const int x : {0, 299})
                 painter.drawLine(x, 4, x, 23);
@@ -632,8 +621,7 @@ void TestStyleComplexPainting::titleBar()
                 painter.drawPoint(corner);
                 painter.drawPoint(299 - corner.x(), corner.y());
             }
-            painter.setPen(color.lighter(120));
-            painter.drawLine(6, 1, 293, 1);
+            drawLine(painter, color.lighter(120), 6, 1, 293, 1);
         });
         QCOMPARE(paint(QStyle::CC_TitleBar, option), expected);
 

@@ -9,7 +9,6 @@
 using namespace StylePainting;
 
 Q_DECLARE_METATYPE(QStyle::State)
-Q_DECLARE_METATYPE(QStyleOptionHeader::SectionPosition)
 
 namespace {
 
@@ -35,8 +34,6 @@ private slots:
     void tab_data();
     void tab();
     void tabOverlap();
-    void triangularTab();
-    void headerSection_data();
     void headerSection();
     void progressGroove();
     void progressContents_data();
@@ -235,15 +232,13 @@ void TestStyleControls::tab()
             beginSharp(painter);
             const QRect r = rect.adjusted(0, isSelected ? 0 : 2, 0, 3);
             painter.setClipRect(rect.adjusted(-1, -1, 1, isSelected ? -2 : -3));
-            painter.setPen(isSelected ? outline : outline.lighter(110));
-            painter.setBrush(gradientDown(
-                rect, isSelected
-                          ? QGradientStops{{0.0, frame.lighter(104)}, {1.0, frame}}
-                          : QGradientStops{{0.85, frame.darker(108)}, {1.0, frame.darker(116)}}));
-            painter.drawRoundedRect(r.adjusted(0, 0, -1, -1), 2, 2);
-            painter.setBrush(Qt::NoBrush);
-            painter.setPen(contrast);
-            painter.drawRoundedRect(r.adjusted(1, 1, -2, -1), 2, 2);
+            drawBox(painter, r.adjusted(0, 0, -1, -1), isSelected ? outline : outline.lighter(110),
+                    gradientDown(rect, isSelected
+                                           ? QGradientStops{{0.0, frame.lighter(104)}, {1.0, frame}}
+                                           : QGradientStops{{0.85, frame.darker(108)},
+                                                            {1.0, frame.darker(116)}}),
+                    2);
+            drawBox(painter, r.adjusted(1, 1, -2, -1), contrast, Qt::NoBrush, 2);
         });
         const QImage expected = picture([&](QPainter &painter) {
             painter.drawImage(0, 0, body);
@@ -278,33 +273,9 @@ void TestStyleControls::tabOverlap()
     QVERIFY(reachesOver(QStyleOptionTab::End, Qt::RightToLeft));
 }
 
-void TestStyleControls::triangularTab()
-{
-    auto option =
-        makeOption<QStyleOptionTab>(QRect(0, 0, 60, 30), enabled | QStyle::State_Selected);
-    option.shape = QTabBar::TriangularSouth;
-    QCOMPARE(paint(QStyle::CE_TabBarTabShape, option), picture([&](QPainter &painter) {
-                 m_style->QCommonStyle::drawControl(QStyle::CE_TabBarTabShape, &option, &painter);
-             }));
-}
-
-void TestStyleControls::headerSection_data()
-{
-    QTest::addColumn<Qt::Orientation>("orientation");
-    QTest::addColumn<QStyleOptionHeader::SectionPosition>("position");
-    QTest::newRow("first") << Qt::Horizontal << QStyleOptionHeader::Beginning;
-    QTest::newRow("last") << Qt::Horizontal << QStyleOptionHeader::End;
-    QTest::newRow("only one") << Qt::Horizontal << QStyleOptionHeader::OnlyOneSection;
-    QTest::newRow("vertical") << Qt::Vertical << QStyleOptionHeader::Beginning;
-}
-
 void TestStyleControls::headerSection()
 {
-    QFETCH(Qt::Orientation, orientation);
-    QFETCH(QStyleOptionHeader::SectionPosition, position);
     auto option = makeOption<QStyleOptionHeader>(QRect(10, 5, 40, 25));
-    option.orientation = orientation;
-    option.position = position;
     const QColor start = button.lighter(104);
     const QColor stop = button.darker(102);
     QGradientStops stops = {{0.0, start},
@@ -316,20 +287,24 @@ void TestStyleControls::headerSection()
         painter.translate(10, 5);
         painter.setClipRect(0, 0, 40, 25);
         painter.fillRect(0, 0, 40, 25, gradientDown(QRect(0, 0, 40, 25), stops));
-        painter.setPen(contrast);
-        painter.drawLine(0, 0, 39, 0);
-        painter.setPen(outline);
-        painter.drawLine(0, 24, 39, 24);
-        if (orientation == Qt::Vertical) {
+        drawLine(painter, contrast, 0, 0, 39, 0);
+        drawLine(painter, outline, 0, 24, 39, 24);
+        if (option.orientation == Qt::Vertical) {
             painter.drawLine(39, 0, 39, 24);
-        } else if (position == QStyleOptionHeader::Beginning) {
-            painter.setPen(QColor(0, 0, 0, 40));
-            painter.drawLine(39, 0, 39, 23);
-            painter.setPen(contrast);
-            painter.drawLine(38, 0, 38, 23);
+        } else if (option.position == QStyleOptionHeader::Beginning) {
+            drawLine(painter, QColor(0, 0, 0, 40), 39, 0, 39, 23);
+            drawLine(painter, contrast, 38, 0, 38, 23);
         }
     };
-    QCOMPARE(paint(QStyle::CE_HeaderSection, option), keptPicture(draw));
+    for (const Qt::Orientation orientation : {Qt::Vertical, Qt::Horizontal}) {
+        for (const auto position : {QStyleOptionHeader::OnlyOneSection, QStyleOptionHeader::End,
+                                    QStyleOptionHeader::Beginning})
+        {
+            option.orientation = orientation;
+            option.position = position;
+            QCOMPARE(paint(QStyle::CE_HeaderSection, option), keptPicture(draw));
+        }
+    }
 
     stops = {{0.0, Qt::green}, {1.0, Qt::red}};
     option.palette.setBrush(QPalette::Window, gradientDown(QRect(), stops));
@@ -342,13 +317,9 @@ void TestStyleControls::progressGroove()
     const QRect r(4, 5, 60, 20);
     const QImage expected = keptPicture([&](QPainter &painter) {
         beginSharp(painter);
-        painter.setPen(QColor(0, 0, 0, 16));
-        painter.drawLine(4, 4, 63, 4);
-        painter.setPen(outline);
-        painter.setBrush(base);
-        painter.drawRoundedRect(r.adjusted(0, 0, -1, -1), 2, 2);
-        painter.setPen(QColor(0, 0, 0, 18));
-        painter.drawLine(5, 6, 62, 6);
+        drawLine(painter, QColor(0, 0, 0, 16), 4, 4, 63, 4);
+        drawBox(painter, r.adjusted(0, 0, -1, -1), outline, base, 2);
+        drawLine(painter, QColor(0, 0, 0, 18), 5, 6, 62, 6);
     });
     QCOMPARE(paint(QStyle::CE_ProgressBarGroove, makeOption<QStyleOptionProgressBar>(r)), expected);
 }
@@ -416,9 +387,7 @@ void TestStyleControls::progressContents()
             painter.drawRoundedRect(
                 bar.adjusted(isReversed ? -extra : 0, 0, isReversed ? 0 : extra, 0), 2, 2);
             painter.restore();
-            painter.setBrush(Qt::NoBrush);
-            painter.setPen(QColor(255, 255, 255, 50));
-            painter.drawRoundedRect(bar.adjusted(1, 1, -1, -1), 1, 1);
+            drawBox(painter, bar.adjusted(1, 1, -1, -1), QColor(255, 255, 255, 50), Qt::NoBrush, 1);
         });
         QCOMPARE(paint(QStyle::CE_ProgressBarContents, option), expected);
     }
@@ -431,13 +400,9 @@ void TestStyleControls::busyProgress()
     const QRect bar(0, 0, 99, 19);
     const QImage expected = keptPicture([&](QPainter &painter) {
         beginSharp(painter);
-        painter.setPen(outline);
-        painter.setBrush(
-            gradientDown(option.rect, {{0.0, highlight.lighter(120)}, {1.0, highlight}}));
-        painter.drawRoundedRect(bar, 2, 2);
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QColor(255, 255, 255, 50));
-        painter.drawRoundedRect(bar.adjusted(1, 1, -1, -1), 1, 1);
+        drawBox(painter, bar, outline,
+                gradientDown(option.rect, {{0.0, highlight.lighter(120)}, {1.0, highlight}}), 2);
+        drawBox(painter, bar.adjusted(1, 1, -1, -1), QColor(255, 255, 255, 50), Qt::NoBrush, 1);
         painter.setPen(QPen(withAlpha(highlight.lighter(120), 120), 9));
         painter.setClipRect(bar.adjusted(1, 1, -1, -1));
         for (int x = -20; x < 99; x += 22)
@@ -613,9 +578,7 @@ void TestStyleControls::menuItemRadioDot()
     const auto dot = [&](const QColor &color) {
         return picture([&](QPainter &painter) {
             painter.setRenderHint(QPainter::Antialiasing);
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(color);
-            painter.drawEllipse(11, 12, 6, 6);
+            drawDisc(painter, QPoint(14, 15), 3, Qt::NoPen, color);
         });
     };
     QCOMPARE(paint(QStyle::CE_MenuItem, option), dot(QColor(0xbb, 0xbb, 0xbb)));

@@ -30,14 +30,12 @@ void drawMenuPanel(QPainter &painter, const QRect &rect)
     fillRing(painter, rect, window.darker(160));
 }
 
-void drawBox(QPainter &painter, const QRect &rect, const QColor &pen,
-             const QGradientStops &stops = {{0.0, base.darker(115)}, {0.15, base}})
+void drawCheckBox(QPainter &painter, const QRect &rect, const QColor &pen,
+                  const QGradientStops &stops = {{0.0, base.darker(115)}, {0.15, base}})
 {
     const QRect box = rect.adjusted(0, 0, -1, -1);
     beginSharp(painter);
-    painter.setPen(pen);
-    painter.setBrush(gradientDown(box, stops));
-    painter.drawRect(box);
+    drawBox(painter, box, pen, gradientDown(box, stops));
 }
 
 void drawCheckMark(QPainter &painter, const QRect &rect, const QColor &color)
@@ -55,18 +53,14 @@ qreal drawCircle(QPainter &painter, const QRect &rect, const QColor &pen, const 
 {
     const qreal radius = (rect.width() + (rect.width() + 1) % 2) * 0.5 - 1;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(pen);
-    painter.setBrush(fill);
-    painter.drawEllipse(QPointF(rect.center() + QPoint(1, 1)), radius, radius);
+    drawDisc(painter, QPointF(rect.center() + QPoint(1, 1)), radius, pen, fill);
     return radius;
 }
 
 void drawField(QPainter &painter, const QRect &rect, int shift, qreal radius)
 {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(shifted(window, shift));
-    painter.drawRoundedRect(rect, radius, radius);
+    drawBox(painter, rect, Qt::NoPen, shifted(window, shift), radius);
 }
 
 /// The panel of a button whose Window colour is \a color; without one it is down.
@@ -86,11 +80,11 @@ void drawButton(QPainter &painter, const QRect &rect, const QColor &color = QCol
     painter.setBrush(gradient);
     painter.drawRect(r);
     if (color.isValid()) {
-        painter.setPen(shifted(color, 33));
-        painter.drawLine(r.left() + 2, r.top() + 1, r.right() - 1, r.top() + 1);
+        drawLine(painter, shifted(color, 33), r.left() + 2, r.top() + 1, r.right() - 1,
+                 r.top() + 1);
     }
-    painter.setPen(shifted(color.isValid() ? color : window, 29, 128));
-    painter.drawLine(r.left() + 2, r.bottom() + 2, r.right() - 1, r.bottom() + 2);
+    drawLine(painter, shifted(color.isValid() ? color : window, 29, 128), r.left() + 2,
+             r.bottom() + 2, r.right() - 1, r.bottom() + 2);
 }
 
 void drawFlatDefaultButton(QPainter &painter, const QRect &rect)
@@ -192,18 +186,14 @@ void TestStylePrimitives::addFrames()
         fillRing(painter, r, Qt::black);
     });
     addRow("menu panel", QStyle::PE_PanelMenu, option, drawMenuPanel);
-    addRow("corner", QStyle::PE_PanelScrollAreaCorner, option, [](QPainter &p, const QRect &r) {
-        p.setPen(withAlpha(outline, 180));
-        p.setBrush(window);
-        p.drawRect(r);
-    });
+    addRow("corner", QStyle::PE_PanelScrollAreaCorner, option,
+           [](QPainter &p, const QRect &r) { drawBox(p, r, withAlpha(outline, 180), window); });
 
     const PlacedDrawing drawFocus = [](QPainter &painter, const QRect &r) {
         const QColor fill = withAlpha(focusOutline(), 30);
         beginSharp(painter);
-        painter.setPen(withAlpha(focusOutline(), 80).darker(120));
-        painter.setBrush(gradientDown(r, {{0.0, fill.lighter(160)}, {1.0, fill}}));
-        painter.drawRoundedRect(r.adjusted(0, 0, -1, -1), 1, 1);
+        drawBox(painter, r.adjusted(0, 0, -1, -1), withAlpha(focusOutline(), 80).darker(120),
+                gradientDown(r, {{0.0, fill.lighter(160)}, {1.0, fill}}), 1);
     };
     const auto drawNothing = [](QPainter &, const QRect &) {};
     auto focus = makeOption<QStyleOptionFocusRect>(QRect(), enabled | QStyle::State_HasFocus);
@@ -287,24 +277,24 @@ void TestStylePrimitives::addIndicators()
                                QStyle::PrimitiveElement element = QStyle::PE_IndicatorCheckBox) {
         addRow(name, element, makeOption<QStyleOptionButton>(QRect(), state), expected, true);
     };
-    addBox("box", enabled | QStyle::State_HasFocus,
-           [](QPainter &painter, const QRect &r) { drawBox(painter, r, outline.lighter(110)); });
+    addBox("box", enabled | QStyle::State_HasFocus, [](QPainter &painter, const QRect &r) {
+        drawCheckBox(painter, r, outline.lighter(110));
+    });
     addBox("box, focused", enabled | keyboardFocus,
-           [](QPainter &painter, const QRect &r) { drawBox(painter, r, focusOutline()); });
+           [](QPainter &painter, const QRect &r) { drawCheckBox(painter, r, focusOutline()); });
     addBox("box, pressed", enabled | QStyle::State_Sunken, [](QPainter &painter, const QRect &r) {
-        drawBox(painter, r, outline.lighter(110), {{0.0, QColor(49, 50, 53)}});
+        drawCheckBox(painter, r, outline.lighter(110), {{0.0, QColor(49, 50, 53)}});
     });
     addBox("box, half", enabled | QStyle::State_NoChange | QStyle::State_On,
            [](QPainter &painter, const QRect &r) {
                const QRect box = r.adjusted(0, 0, -1, -1);
-               drawBox(painter, r, outline.lighter(110));
-               painter.setPen(withAlpha(check, 180));
-               painter.setBrush(
+               drawCheckBox(painter, r, outline.lighter(110));
+               drawBox(
+                   painter, box.adjusted(3, 3, -3, -3), withAlpha(check, 180),
                    gradientDown(box, {{0.0, withAlpha(check, 80)}, {1.0, withAlpha(check, 140)}}));
-               painter.drawRect(box.adjusted(3, 3, -3, -3));
            });
     addBox("box, checked", enabled | QStyle::State_On, [](QPainter &painter, const QRect &r) {
-        drawBox(painter, r, outline.lighter(110));
+        drawCheckBox(painter, r, outline.lighter(110));
         drawCheckMark(painter, r, check);
     });
 
@@ -312,9 +302,8 @@ void TestStylePrimitives::addIndicators()
     const auto drawChosen = [](const QColor &fill, const QColor &dot) {
         return [=](QPainter &painter, const QRect &r) {
             const qreal radius = drawCircle(painter, r, window.darker(150), fill) / 2.32;
-            painter.setPen(withAlpha(dot, 200));
-            painter.setBrush(withAlpha(dot, 180));
-            painter.drawEllipse(QPointF(r.center() + QPoint(1, 1)), radius, radius);
+            drawDisc(painter, QPointF(r.center() + QPoint(1, 1)), radius, withAlpha(dot, 200),
+                     withAlpha(dot, 180));
         };
     };
     addBox(
