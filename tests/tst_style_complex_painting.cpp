@@ -77,7 +77,6 @@ private slots:
     void comboBox();
     void editableComboBox_data();
     void editableComboBox();
-    void transientScrollBar_data();
     void transientScrollBar();
     void rememberedScrollBar();
     void solidScrollBar_data();
@@ -85,7 +84,6 @@ private slots:
     void slider_data();
     void slider();
     void sliderInAClip();
-    void sliderTicks_data();
     void sliderTicks();
     void sliderTickInterval_data();
     void sliderTickInterval();
@@ -271,39 +269,31 @@ void TestStyleComplexPainting::editableComboBox()
     }
 }
 
-void TestStyleComplexPainting::transientScrollBar_data()
-{
-    QTest::addColumn<Qt::Orientation>("orientation");
-    QTest::addColumn<QRect>("groove");
-    QTest::addColumn<QRect>("handle");
-    // The handle is a unit wider to the left, whichever way the bar runs.
-    QTest::newRow("horizontal") << Qt::Horizontal << QRect(0, 5, 200, 9) << QRect(50, 7, 99, 6);
-    QTest::newRow("vertical") << Qt::Vertical << QRect(5, 0, 9, 200) << QRect(6, 51, 7, 98);
-}
-
 void TestStyleComplexPainting::transientScrollBar()
 {
-    QFETCH(Qt::Orientation, orientation);
-    QFETCH(QRect, groove);
-    QFETCH(QRect, handle);
-    auto option = makeSlider(orientation, 200, 14);
-    option.pageStep = 100;
-    option.sliderPosition = 50;
-    const auto expected = [&](int shift) {
-        return picture(option.rect.size(), [&](QPainter &painter) {
-            painter.fillRect(groove, shifted(window, -12));
-            if (shift == 0)
-                return;
-            painter.setRenderHint(QPainter::Antialiasing);
-            drawBox(painter, handle, Qt::NoPen, shifted(window, shift),
-                    3); // half of the six units it had before
-        });
-    };
-    QCOMPARE(paint(QStyle::CC_ScrollBar, option), expected(20));
-    option.state |= QStyle::State_MouseOver;
-    QCOMPARE(paint(QStyle::CC_ScrollBar, option), expected(40));
-    option.subControls = QStyle::SC_ScrollBarGroove;
-    QCOMPARE(paint(QStyle::CC_ScrollBar, option), expected(0));
+    for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+        auto option = makeSlider(orientation, 200, 14);
+        option.pageStep = 100;
+        option.sliderPosition = 50;
+        const bool isHorizontal = orientation == Qt::Horizontal;
+        const auto expected = [&](int shift) {
+            return picture(option.rect.size(), [&](QPainter &painter) {
+                painter.fillRect(
+                    option.rect.adjusted(isHorizontal ? 0 : 5, isHorizontal ? 5 : 0, 0, 0),
+                    shifted(window, -12));
+                // A unit wider to the left, whichever way the bar runs, after it was six across.
+                painter.setRenderHint(QPainter::Antialiasing);
+                if (shift > 0)
+                    drawBox(painter, isHorizontal ? QRect(50, 7, 99, 6) : QRect(6, 51, 7, 98),
+                            Qt::NoPen, shifted(window, shift), 3);
+            });
+        };
+        QCOMPARE(paint(QStyle::CC_ScrollBar, option), expected(20));
+        option.state |= QStyle::State_MouseOver;
+        QCOMPARE(paint(QStyle::CC_ScrollBar, option), expected(40));
+        option.subControls = QStyle::SC_ScrollBarGroove;
+        QCOMPARE(paint(QStyle::CC_ScrollBar, option), expected(0));
+    }
 }
 
 /// A transient bar notes what it showed, whatever changes alone; a solid one notes nothing.
@@ -501,32 +491,19 @@ void TestStyleComplexPainting::sliderInAClip()
     QCOMPARE(shown.boundingRect().right(), 59);
 }
 
-void TestStyleComplexPainting::sliderTicks_data()
-{
-    QTest::addColumn<Qt::Orientation>("orientation");
-    QTest::addColumn<bool>("upsideDown");
-    QTest::newRow("horizontal") << Qt::Horizontal << false;
-    QTest::newRow("mirrored") << Qt::Horizontal << true;
-    QTest::newRow("vertical") << Qt::Vertical << false;
-}
-
 void TestStyleComplexPainting::sliderTicks()
 {
-    QFETCH(Qt::Orientation, orientation);
-    QFETCH(bool, upsideDown);
-    auto option = makeSlider(orientation, 200, 40);
+    auto option = makeSlider(Qt::Horizontal, 200, 40);
     option.subControls = QStyle::SC_SliderTickmarks;
-    option.tickPosition = QSlider::TicksBothSides;
     option.tickInterval = 40;
-    option.upsideDown = upsideDown;
     const auto expected = [&](const QColor &color, bool hasLower) {
         return picture(option.rect.size(), [&](QPainter &painter) {
             painter.setPen(color);
-            if (orientation == Qt::Vertical)
+            if (option.orientation == Qt::Vertical)
                 painter.setTransform(QTransform(0, 1, 1, 0, 0, 0), true);
             // 0, 40 and 80 of 100 on 185 units; the mark at an end is longer.
             for (const int along :
-                 upsideDown ? QVector<int>{192, 118, 44} : QVector<int>{7, 81, 155}) {
+                 option.upsideDown ? QVector<int>{192, 118, 44} : QVector<int>{7, 81, 155}) {
                 const int outer = along == 7 || along == 192 ? 1 : 2;
                 painter.drawLine(along, outer, along, 4);
                 if (hasLower)
@@ -534,9 +511,15 @@ void TestStyleComplexPainting::sliderTicks()
             }
         });
     };
+    option.tickPosition = QSlider::TicksBothSides;
     QCOMPARE(paint(QStyle::CC_Slider, option), expected(outline, true));
-    option.state |= keyboardFocus;
+    option.upsideDown = true;
+    QCOMPARE(paint(QStyle::CC_Slider, option), expected(outline, true));
     option.tickPosition = QSlider::TicksAbove;
+    option.state |= keyboardFocus;
+    QCOMPARE(paint(QStyle::CC_Slider, option), expected(focusOutline(), false));
+    option.orientation = Qt::Vertical;
+    option.rect = QRect(0, 0, 40, 200);
     QCOMPARE(paint(QStyle::CC_Slider, option), expected(focusOutline(), false));
 }
 

@@ -12,6 +12,8 @@ Q_DECLARE_METATYPE(QStyle::State)
 
 namespace {
 
+const QGradientStops progressStops = {{0.0, highlight.lighter(120)}, {1.0, highlight}};
+
 constexpr int plainMenuItem = 0;
 constexpr int comboBoxMenuItem = 1; // of the list that a combo box opens
 constexpr int popupMenuItem = 2;    // the same, known by a property
@@ -27,7 +29,6 @@ private slots:
     void cleanupTestCase() { delete m_style; }
 
     void pushButton();
-    void pushButtonTextColor();
     void pushButtonLabel();
     void toolButtonLabel();
     void comboBoxLabel();
@@ -80,24 +81,20 @@ private:
 void TestStyleControls::pushButton()
 {
     auto option = makeOption<QStyleOptionButton>(QRect(0, 0, 80, 30));
-    option.text = QStringLiteral("Go");
     record(QStyle::CE_PushButton, option);
     QCOMPARE(m_recorder.controls, (QVector<int>{QStyle::CE_PushButton, QStyle::CE_PushButtonBevel,
                                                 QStyle::CE_PushButtonLabel}));
     const QRect contents = m_style->subElementRect(QStyle::SE_PushButtonContents, &option);
     QCOMPARE(m_recorder.texts.first().rect, contents.adjusted(0, 0, 0, -2));
-}
 
-void TestStyleControls::pushButtonTextColor()
-{
     QToolButton toolButton;
     QPushButton plain;
     QPushButton checked;
     checked.setCheckable(true);
     checked.setChecked(true);
     const auto roleOn = [&](const QWidget *widget, QStyle::State state) {
-        record(QStyle::CE_PushButtonLabel,
-               makeOption<QStyleOptionButton>(QRect(0, 0, 100, 30), enabled | state), widget);
+        option.state = enabled | state;
+        record(QStyle::CE_PushButtonLabel, option, widget);
         return m_recorder.texts.first().role;
     };
     QCOMPARE(roleOn(nullptr, QStyle::State_Sunken), QPalette::ButtonText);
@@ -326,37 +323,31 @@ void TestStyleControls::progressGroove()
 
 void TestStyleControls::progressContents_data()
 {
-    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<bool>("isVertical");
     QTest::addColumn<Qt::LayoutDirection>("direction");
     QTest::addColumn<bool>("isInverted");
     QTest::addColumn<bool>("isReversed");
-    const auto row = [](const char *name, Qt::Orientation orientation,
-                        Qt::LayoutDirection direction, bool isInverted, bool isReversed) {
-        QTest::newRow(name) << orientation << direction << isInverted << isReversed;
-    };
-    row("left to right", Qt::Horizontal, Qt::LeftToRight, false, false);
-    row("left to right, inverted", Qt::Horizontal, Qt::LeftToRight, true, true);
-    row("right to left", Qt::Horizontal, Qt::RightToLeft, false, true);
-    row("right to left, inverted", Qt::Horizontal, Qt::RightToLeft, true, false);
-    row("upwards", Qt::Vertical, Qt::LeftToRight, false, true);
-    row("downwards", Qt::Vertical, Qt::LeftToRight, true, false);
+    QTest::newRow("left to right") << false << Qt::LeftToRight << false << false;
+    QTest::newRow("left to right, inverted") << false << Qt::LeftToRight << true << true;
+    QTest::newRow("right to left") << false << Qt::RightToLeft << false << true;
+    QTest::newRow("right to left, inverted") << false << Qt::RightToLeft << true << false;
+    QTest::newRow("upwards") << true << Qt::LeftToRight << false << true;
+    QTest::newRow("downwards") << true << Qt::LeftToRight << true << false;
 }
 
 void TestStyleControls::progressContents()
 {
-    QFETCH(Qt::Orientation, orientation);
+    QFETCH(bool, isVertical);
     QFETCH(Qt::LayoutDirection, direction);
     QFETCH(bool, isInverted);
     QFETCH(bool, isReversed);
-    const bool isVertical = orientation == Qt::Vertical;
-    auto option =
-        makeOption<QStyleOptionProgressBar>(isVertical ? QRect(0, 0, 20, 50) : QRect(5, 4, 90, 20));
-    option.orientation = orientation;
+    const QRect r = isVertical ? QRect(0, 0, 50, 20) : QRect(5, 4, 90, 20); // as it lies
+    auto option = makeOption<QStyleOptionProgressBar>(isVertical ? QRect(0, 0, 20, 50) : r);
+    option.orientation = isVertical ? Qt::Vertical : Qt::Horizontal;
     option.direction = direction;
     option.invertedAppearance = isInverted;
     option.minimum = 10;
     option.maximum = 47;
-    const QRect r = isVertical ? QRect(0, 0, 50, 20) : option.rect;
     for (const int progress : {3, 10, 11, 23, 46, 47, 99}) {
         option.progress = progress;
         const bool isComplete = progress == 47;
@@ -370,23 +361,21 @@ void TestStyleControls::progressContents()
             QRect bar(r.left(), r.top(), width - 1, r.height() - 1);
             if (isReversed)
                 bar = QRect(r.right() - width - 1, r.top(), width + 2, r.height() - 1);
-            const int edge = isReversed ? bar.left() : bar.right();
-            for (const int distance : isComplete ? QVector<int>() : QVector<int>{2, 1}) {
-                painter.setPen(distance == 2 ? QColor(0, 0, 0, 35) : highlight.darker(140));
-                const int x = edge + (isReversed ? -distance : distance);
-                painter.drawLine(x, bar.top() + 1, x, bar.bottom());
+            if (!isComplete) {
+                const int outwards = isReversed ? -1 : 1;
+                const int x = outwards + (isReversed ? bar.left() : bar.right());
+                drawLine(painter, QColor(0, 0, 0, 35), x + outwards, bar.top() + 1, x + outwards,
+                         bar.bottom());
+                drawLine(painter, highlight.darker(140), x, bar.top() + 1, x, bar.bottom());
             }
             if (progress <= 10)
                 return;
-            painter.setPen(outline); // darker than the highlight at 140
-            painter.setBrush(gradientDown(r, {{0.0, highlight.lighter(120)}, {1.0, highlight}}));
-            painter.save();
+            const int extra = isComplete ? 0 : 2; // which is cut off
             if (!isComplete)
                 painter.setClipRect(bar.adjusted(-1, -1, -1, 1));
-            const int extra = isComplete ? 0 : 2;
-            painter.drawRoundedRect(
-                bar.adjusted(isReversed ? -extra : 0, 0, isReversed ? 0 : extra, 0), 2, 2);
-            painter.restore();
+            drawBox(painter, bar.adjusted(isReversed ? -extra : 0, 0, isReversed ? 0 : extra, 0),
+                    outline, gradientDown(r, progressStops), 2);
+            painter.setClipping(false);
             drawBox(painter, bar.adjusted(1, 1, -1, -1), QColor(255, 255, 255, 50), Qt::NoBrush, 1);
         });
         QCOMPARE(paint(QStyle::CE_ProgressBarContents, option), expected);
@@ -400,8 +389,7 @@ void TestStyleControls::busyProgress()
     const QRect bar(0, 0, 99, 19);
     const QImage expected = keptPicture([&](QPainter &painter) {
         beginSharp(painter);
-        drawBox(painter, bar, outline,
-                gradientDown(option.rect, {{0.0, highlight.lighter(120)}, {1.0, highlight}}), 2);
+        drawBox(painter, bar, outline, gradientDown(option.rect, progressStops), 2);
         drawBox(painter, bar.adjusted(1, 1, -1, -1), QColor(255, 255, 255, 50), Qt::NoBrush, 1);
         painter.setPen(QPen(withAlpha(highlight.lighter(120), 120), 9));
         painter.setClipRect(bar.adjusted(1, 1, -1, -1));
