@@ -78,6 +78,33 @@ Option makeOption(const QRect &rect, QStyle::State state = enabled)
     return option;
 }
 
+template <typename Option>
+Option makeComplex(const QRect &rect, QStyle::State state = enabled)
+{
+    auto option = makeOption<Option>(rect, state);
+    option.subControls = QStyle::SC_All;
+    return option;
+}
+
+inline QStyleOptionSlider makeSlider(Qt::Orientation orientation, int length, int thickness)
+{
+    const bool isHorizontal = orientation == Qt::Horizontal;
+    auto option = makeComplex<QStyleOptionSlider>(isHorizontal ? QRect(0, 0, length, thickness)
+                                                               : QRect(0, 0, thickness, length));
+    option.orientation = orientation;
+    option.maximum = 100;
+    option.state.setFlag(QStyle::State_Horizontal, isHorizontal);
+    return option;
+}
+
+inline QStyleOptionTitleBar makeTitleBar(int state, Qt::WindowFlags buttons)
+{
+    auto option = makeComplex<QStyleOptionTitleBar>(QRect(0, 0, 300, 24));
+    option.titleBarFlags = Qt::WindowTitleHint | buttons;
+    option.titleBarState = state;
+    return option;
+}
+
 inline QIcon redIcon(int extent = 16)
 {
     QPixmap pixmap(extent, extent);
@@ -324,24 +351,6 @@ inline Qt::ArrowType directionOf(const QRegion &arrow)
     return first < last ? Qt::LeftArrow : Qt::RightArrow;
 }
 
-inline QString unitDifference(const QImage &image, int x, int y, const QColor &expected)
-{
-    const QColor actual = unitColor(image, x, y);
-    if (actual.rgba() == expected.rgba())
-        return QString();
-    return QStringLiteral("unit (%1, %2) is %3, expected %4")
-        .arg(x)
-        .arg(y)
-        .arg(actual.name(QColor::HexArgb), expected.name(QColor::HexArgb));
-}
-
 } // namespace StylePainting
-
-/// Fails with both colours and the place when the unit at x, y differs.
-#define COMPARE_UNIT(image, x, y, expected) \
-    do { \
-        const QString difference = StylePainting::unitDifference(image, x, y, expected); \
-        QVERIFY2(difference.isEmpty(), qPrintable(difference)); \
-    } while (false)
 
 #endif

@@ -14,33 +14,8 @@ namespace {
 const QColor accentBlue(65, 155, 249);
 const QColor ink(11, 11, 11);
 
-template <typename Option>
-Option makeComplex(const QRect &rect, QStyle::State state = enabled)
-{
-    auto option = makeOption<Option>(rect, state);
-    option.subControls = QStyle::SC_All;
-    return option;
-}
-
-QStyleOptionSlider makeSlider(Qt::Orientation orientation, int length, int thickness)
-{
-    const bool isHorizontal = orientation == Qt::Horizontal;
-    auto option = makeComplex<QStyleOptionSlider>(isHorizontal ? QRect(0, 0, length, thickness)
-                                                               : QRect(0, 0, thickness, length));
-    option.orientation = orientation;
-    option.maximum = 100;
-    option.state.setFlag(QStyle::State_Horizontal, isHorizontal);
-    return option;
-}
-
-QStyleOptionTitleBar makeTitleBar(int state)
-{
-    auto option = makeComplex<QStyleOptionTitleBar>(QRect(0, 0, 300, 24));
-    option.titleBarFlags = Qt::WindowTitleHint | Qt::WindowSystemMenuHint
-                           | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
-    option.titleBarState = state;
-    return option;
-}
+const Qt::WindowFlags usualButtons =
+    Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
 
 /// One letter a unit of \a area: # where \a image has \a color, or a space.
 QStringList unitsOf(const QImage &image, const QRect &area, const QColor &color)
@@ -586,7 +561,7 @@ void TestStyleComplexPainting::groupBox()
 void TestStyleComplexPainting::titleBar()
 {
     for (const bool isActive : {true, false}) {
-        auto option = makeTitleBar(isActive ? int(QStyle::State_Active) : 0);
+        auto option = makeTitleBar(isActive ? int(QStyle::State_Active) : 0, usualButtons);
         option.subControls = QStyle::SC_TitleBarLabel;
         const QColor color = isActive ? highlight : window;
         const QImage expected = picture(option.rect.size(), [&](QPainter &painter) {
@@ -610,17 +585,18 @@ void TestStyleComplexPainting::titleBar()
 
         // The two differ in more than the state, which the cache goes by: the cross of the close
         // button.
-        paint(QStyle::CC_TitleBar, makeTitleBar(isActive ? 0 : int(QStyle::State_Active)));
+        paint(QStyle::CC_TitleBar,
+              makeTitleBar(isActive ? 0 : int(QStyle::State_Active), usualButtons));
         option.subControls = QStyle::SC_All;
         const QImage image = paint(QStyle::CC_TitleBar, option);
-        COMPARE_UNIT(image, 282, 9, isActive ? QColor(Qt::white) : QColor(Qt::black));
+        QCOMPARE(unitColor(image, 282, 9), isActive ? QColor(Qt::white) : QColor(Qt::black));
     }
 }
 
 void TestStyleComplexPainting::titleBarText()
 {
     for (const bool isActive : {true, false}) {
-        auto option = makeTitleBar(isActive ? int(QStyle::State_Active) : 0);
+        auto option = makeTitleBar(isActive ? int(QStyle::State_Active) : 0, usualButtons);
         const QRect label = place(QStyle::CC_TitleBar, option, QStyle::SC_TitleBarLabel);
         const QString text(100, QLatin1Char('i'));
         const QImage expected = picture(option.rect.size(), [&](QPainter &painter) {
@@ -673,16 +649,14 @@ void TestStyleComplexPainting::titleBarSymbols()
 {
     QFETCH(int, flag);
     QFETCH(int, state);
-    auto option = makeTitleBar(state | int(QStyle::State_Active));
-    option.titleBarFlags = Qt::WindowTitleHint | Qt::WindowFlags(flag);
+    auto option = makeTitleBar(state | int(QStyle::State_Active), Qt::WindowFlags(flag));
     // The only button is (276, 3, 18, 18).
     QTEST(unitsOf(paint(QStyle::CC_TitleBar, option), QRect(281, 8, 8, 8), Qt::white), "rows");
 }
 
 void TestStyleComplexPainting::titleBarArrows()
 {
-    auto option = makeTitleBar(int(QStyle::State_Active));
-    option.titleBarFlags = Qt::WindowTitleHint | Qt::WindowShadeButtonHint;
+    auto option = makeTitleBar(int(QStyle::State_Active), Qt::WindowShadeButtonHint);
     const auto arrow = [&] {
         return unitsWhere(paint(QStyle::CC_TitleBar, option),
                           [](const QColor &color) { return color == Qt::white; });
@@ -695,7 +669,7 @@ void TestStyleComplexPainting::titleBarArrows()
 
 void TestStyleComplexPainting::titleBarButtonStates()
 {
-    auto option = makeTitleBar(int(QStyle::State_Active));
+    auto option = makeTitleBar(int(QStyle::State_Active), usualButtons);
     const auto change = [&](QStyle::SubControl active, QStyle::State state) {
         option.activeSubControls = active;
         option.state = QStyle::State_Enabled | QStyle::State_MouseOver | state;
@@ -714,10 +688,9 @@ void TestStyleComplexPainting::dial_data()
 {
     QTest::addColumn<int>("extent");
     QTest::addColumn<QStyle::State>("state");
-    const QStyle::State enabled = QStyle::State_Enabled;
-    QTest::newRow("small") << 40 << enabled;
-    QTest::newRow("large, with a pointer") << 160 << enabled;
-    QTest::newRow("focused") << 61 << (enabled | QStyle::State_HasFocus);
+    QTest::newRow("small") << 40 << QStyle::State(QStyle::State_Enabled);
+    QTest::newRow("large, with a pointer") << 160 << QStyle::State(QStyle::State_Enabled);
+    QTest::newRow("focused") << 61 << (QStyle::State_Enabled | QStyle::State_HasFocus);
     QTest::newRow("disabled") << 50 << QStyle::State(QStyle::State_None);
 }
 

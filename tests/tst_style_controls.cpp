@@ -306,7 +306,7 @@ void TestStyleControls::headerSection()
     stops = {{0.0, Qt::green}, {1.0, Qt::red}};
     option.palette.setBrush(QPalette::Window, gradientDown(QRect(), stops));
     const QImage image = paint(QStyle::CE_HeaderSection, option);
-    COMPARE_UNIT(image, 20, 15, unitColor(keptPicture(draw), 20, 15));
+    QCOMPARE(unitColor(image, 20, 15), unitColor(keptPicture(draw), 20, 15));
 }
 
 void TestStyleControls::progressGroove()

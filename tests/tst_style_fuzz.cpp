@@ -15,7 +15,7 @@
 
 // Options that no widget makes: every type in the place of every other, with anything in its
 // fields. The style must come back, in time, with the painter as it was, having painted nothing
-// where there is no option, no room or an option of the wrong type.
+// where there is no option or no room.
 
 using namespace StylePainting;
 
@@ -57,17 +57,6 @@ struct Own : QStyle
     // A dial has no parts to ask for, and stands last.
     static constexpr ComplexControl complexControls[] = {
         CC_SpinBox, CC_ComboBox, CC_ScrollBar, CC_Slider, CC_GroupBox, CC_TitleBar, CC_Dial};
-
-    // Those of them that paint nothing with a plain option.
-    static constexpr PrimitiveElement typedPrimitives[] = {
-        PE_FrameFocusRect, PE_PanelLineEdit, PE_FrameTabBarBase, PE_IndicatorHeaderArrow,
-        PE_IndicatorCheckBox};
-    static constexpr ControlElement typedControls[] = {
-        CE_PushButton,       CE_PushButtonLabel,     CE_TabBarTabShape,
-        CE_ProgressBarLabel, CE_ProgressBarContents, CE_MenuItem,
-        CE_MenuBarItem,      CE_ToolButtonLabel,     CE_HeaderSection,
-        CE_RubberBand,       CE_DockWidgetTitle,     CE_ComboBoxLabel,
-        CE_ToolBar};
 };
 
 /// Palettes from which sums and factors leave the range of a colour, or that hold no colours.
@@ -369,7 +358,6 @@ private slots:
     void primitives();
     void controls();
     void complexControls();
-    void wrongTypes();
     void geometry();
     void hugeRange();
 
@@ -456,22 +444,6 @@ void TestStyleFuzz::complexControls()
 {
     QCOMPARE(firstFault(Own::complexControls, &OptionMaker::complex, &QStyle::drawComplexControl),
              QString());
-}
-
-void TestStyleFuzz::wrongTypes()
-{
-    const auto plain = makeOption<QStyleOption>(QRect(0, 0, 40, 30), enabled | keyboardFocus);
-    auto complex = makeOption<QStyleOptionComplex>(plain.rect);
-    complex.subControls = QStyle::SC_All;
-    const QImage image = picture([&](QPainter &painter) {
-        for (const auto element : Own::typedPrimitives)
-            m_style->drawPrimitive(element, &plain, &painter);
-        for (const auto element : Own::typedControls)
-            m_style->drawControl(element, &plain, &painter);
-        for (const auto control : Own::complexControls)
-            m_style->drawComplexControl(control, &complex, &painter);
-    });
-    QVERIFY(painted(image).isEmpty());
 }
 
 /// The questions that layouts and mouse events ask.

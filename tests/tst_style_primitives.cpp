@@ -413,8 +413,8 @@ void TestStylePrimitives::buttonPanelsFor()
     // Too dark for a border of 18 less, and too bright for a light of 33 more.
     option.palette.setColor(QPalette::Window, QColor(3, 30, 250));
     const QImage image = paint(QStyle::PE_PanelButtonCommand, option);
-    COMPARE_UNIT(image, 2, 11, QColor(0, 12, 232));
-    COMPARE_UNIT(image, 15, 2, QColor(36, 63, 255));
+    QCOMPARE(unitColor(image, 2, 11), QColor(0, 12, 232));
+    QCOMPARE(unitColor(image, 15, 2), QColor(36, 63, 255));
 }
 
 void TestStylePrimitives::tabCloseButton()
@@ -487,7 +487,7 @@ void TestStylePrimitives::toolBarSeparator()
     const bool isExact = qApp->devicePixelRatio() == 1.0;
     const QImage image = paint(QStyle::PE_IndicatorToolBarSeparator, option);
     QVERIFY(!isExact || image == lines(QRect(6, 20, 29, 1), QPoint(0, 1)));
-    COMPARE_UNIT(image, 20, 20, window.darker(110));
+    QCOMPARE(unitColor(image, 20, 20).rgba(), window.darker(110).rgba());
     option.state |= QStyle::State_Horizontal;
     QVERIFY(!isExact
             || paint(QStyle::PE_IndicatorToolBarSeparator, option)
