@@ -12,6 +12,7 @@
 
 #include <limits>
 #include <memory>
+#include <type_traits>
 
 // Options that no widget makes: every type in the place of every other, with anything in its
 // fields. The style must come back, in time, with the painter as it was, having painted nothing
@@ -95,45 +96,12 @@ struct PainterState
     QVariantList values;
 };
 
-/// The same values in the same order in every run.
-class Chance
+/// Options of every type with random fields, the same in the same order in every run. The last one
+/// made stays until the next.
+class OptionMaker
 {
 public:
-    Chance()
-        : m_generator(seed)
-        , m_palettes(extremePalettes())
-        , m_rects(extremeRects())
-        , m_icon(redIcon())
-    {}
-
     int below(int limit) { return m_generator.bounded(limit); }
-    bool coin() { return below(2) == 0; }
-
-    /// Mostly small, sometimes at an end of the range.
-    int number()
-    {
-        const int numbers[] = {std::numeric_limits<int>::max(), std::numeric_limits<int>::min(),
-                               static_cast<int>(m_generator.generate())};
-        const int which = below(8);
-        return which < 3 ? numbers[which] : below(120) - 20;
-    }
-    void fillNumbers(std::initializer_list<int *> numbers)
-    {
-        for (int *value : numbers)
-            *value = number();
-    }
-
-    QString text()
-    {
-        static const QString texts[] = {QString(),
-                                        QStringLiteral("Text"),
-                                        QStringLiteral("&Item\tCtrl+I"),
-                                        QStringLiteral("\t"),
-                                        QStringLiteral("two\nlines"),
-                                        QString(400, QLatin1Char('w'))};
-        return texts[below(6)];
-    }
-    QIcon icon() { return coin() ? QIcon() : m_icon; }
     QSize size() { return QSize(below(60) - 10, below(60) - 10); }
     QRect rect()
     {
@@ -141,44 +109,10 @@ public:
             return m_rects.at(below(m_rects.size()));
         return QRect(below(30) - 10, below(30) - 10, below(120), below(60));
     }
-    QPalette palette()
-    {
-        QPalette palette = m_palettes.at(below(m_palettes.size()));
-        palette.setCurrentColorGroup(static_cast<QPalette::ColorGroup>(below(3)));
-        return palette;
-    }
-    Qt::Orientation orientation() { return coin() ? Qt::Horizontal : Qt::Vertical; }
-
-    /// One of the first \a count values of an enumeration.
-    template <typename Enum>
-    void pick(Enum *value, int count)
-    {
-        *value = static_cast<Enum>(below(count));
-    }
-    template <typename Flags>
-    void pickFlags(Flags *flags)
-    {
-        *flags = Flags(static_cast<int>(m_generator.generate() & 0x7fffffff));
-    }
-
-private:
-    QRandomGenerator m_generator;
-    QVector<QPalette> m_palettes;
-    QVector<QRect> m_rects;
-    QIcon m_icon;
-};
-
-/// Options of every type with random fields. The last one made stays until the next.
-class OptionMaker
-{
-public:
-    explicit OptionMaker(Chance &chance)
-        : m_chance(chance)
-    {}
 
     const QStyleOption *simple()
     {
-        if (m_chance.below(3) == 0)
+        if (below(3) == 0)
             return complex();
         return anyOf<QStyleOption, QStyleOptionButton, QStyleOptionFrame, QStyleOptionTab,
                      QStyleOptionTabWidgetFrame, QStyleOptionTabBarBase, QStyleOptionProgressBar,
@@ -199,151 +133,147 @@ private:
     const QStyleOption *anyOf()
     {
         static constexpr void (OptionMaker::*makers[])() = {&OptionMaker::make<Options>...};
-        if (m_chance.below(20) == 0)
+        if (below(20) == 0)
             return nullptr;
-        (this->*makers[m_chance.below(int(sizeof...(Options)))])();
+        (this->*makers[below(int(sizeof...(Options)))])();
         return m_option.get();
     }
     template <typename Option>
     void make()
     {
         auto option = std::make_shared<Option>();
-        m_chance.pickFlags(&option->state);
-        option->direction = m_chance.coin() ? Qt::LeftToRight : Qt::RightToLeft;
-        option->rect = m_chance.rect();
-        option->palette = m_chance.palette();
+        pick(option->state, option->rect);
+        option->direction = below(2) ? Qt::LeftToRight : Qt::RightToLeft;
+        option->palette = m_palettes.at(below(m_palettes.size()));
+        option->palette.setCurrentColorGroup(static_cast<QPalette::ColorGroup>(below(3)));
         fill(*option);
         m_option = option;
     }
 
+    template <typename... Values>
+    void pick(Values &...values)
+    {
+        (pickOne(values), ...);
+    }
+    /// Mostly small, sometimes at an end of the range.
+    void pickOne(int &value)
+    {
+        const int numbers[] = {std::numeric_limits<int>::max(), std::numeric_limits<int>::min(),
+                               static_cast<int>(m_generator.generate())};
+        const int which = below(8);
+        value = which < 3 ? numbers[which] : below(120) - 20;
+    }
+    void pickOne(bool &value) { value = below(2) == 0; }
+    void pickOne(QIcon &value) { value = below(2) ? QIcon() : m_icon; }
+    void pickOne(QSize &value) { value = size(); }
+    void pickOne(QRect &value) { value = rect(); }
+    void pickOne(QString &value)
+    {
+        static const char *const texts[] = {"", "Text", "&Item\tCtrl+I", "\t", "two\nlines"};
+        const int which = below(6);
+        value = which < 5 ? QString::fromLatin1(texts[which]) : QString(400, QLatin1Char('w'));
+    }
+    template <typename Enum, typename = std::enable_if_t<std::is_enum_v<Enum>>>
+    void pickOne(Enum &value)
+    {
+        value = static_cast<Enum>(below(4)); // in the range of each of them
+    }
+    template <typename Enum>
+    void pickOne(QFlags<Enum> &value)
+    {
+        value = QFlags<Enum>(static_cast<int>(m_generator.generate() & 0x7fffffff));
+    }
+
+    template <typename... Enums>
+    void pickOfEight(Enums &...values)
+    {
+        ((values = static_cast<Enums>(below(8))), ...);
+    }
+
     void fill(QStyleOption &) {}
-    void fill(QStyleOptionButton &option)
+    void fill(QStyleOptionButton &o) { pick(o.features, o.text, o.icon, o.iconSize); }
+    void fill(QStyleOptionFrame &o) { pick(o.lineWidth, o.midLineWidth); }
+    void fill(QStyleOptionTab &o)
     {
-        m_chance.pickFlags(&option.features);
-        fillLabel(option);
-        option.iconSize = m_chance.size();
+        pick(o.position, o.selectedPosition, o.features);
+        pickOfEight(o.shape);
     }
-    void fill(QStyleOptionFrame &option)
+    void fill(QStyleOptionTabWidgetFrame &o)
     {
-        m_chance.fillNumbers({&option.lineWidth, &option.midLineWidth});
+        pick(o.selectedTabRect);
+        pickOfEight(o.shape);
     }
-    void fill(QStyleOptionTab &option)
+    void fill(QStyleOptionTabBarBase &o)
     {
-        m_chance.pick(&option.shape, 8);
-        m_chance.pick(&option.position, 4);
-        m_chance.pick(&option.selectedPosition, 3);
-        m_chance.pickFlags(&option.features);
+        pick(o.selectedTabRect, o.tabBarRect);
+        pickOfEight(o.shape);
     }
-    void fill(QStyleOptionTabWidgetFrame &option)
+    void fill(QStyleOptionProgressBar &o)
     {
-        m_chance.pick(&option.shape, 8);
-        option.selectedTabRect = m_chance.rect();
+        pick(o.minimum, o.maximum, o.progress, o.text, o.orientation, o.invertedAppearance);
+        if (below(2))
+            o.minimum = o.maximum = 0;
     }
-    void fill(QStyleOptionTabBarBase &option)
+    void fill(QStyleOptionMenuItem &o)
     {
-        m_chance.pick(&option.shape, 8);
-        option.selectedTabRect = m_chance.rect();
-        option.tabBarRect = m_chance.rect();
+        pick(o.checkType, o.checked, o.text, o.icon);
+        pickOfEight(o.menuItemType);
+        o.maxIconWidth = below(60);
+        o.tabWidth = below(200) - 50;
     }
-    void fill(QStyleOptionProgressBar &option)
+    void fill(QStyleOptionHeader &o)
     {
-        m_chance.fillNumbers({&option.minimum, &option.maximum, &option.progress});
-        if (m_chance.coin())
-            option.minimum = option.maximum = 0;
-        option.text = m_chance.text();
-        option.orientation = m_chance.orientation();
-        option.invertedAppearance = m_chance.coin();
+        pick(o.text, o.icon, o.position, o.sortIndicator, o.orientation);
     }
-    void fill(QStyleOptionMenuItem &option)
+    void fill(QStyleOptionDockWidget &o) { pick(o.title, o.verticalTitleBar); }
+    void fill(QStyleOptionToolBar &o)
     {
-        m_chance.pick(&option.menuItemType, 8);
-        m_chance.pick(&option.checkType, 3);
-        option.checked = m_chance.coin();
-        fillLabel(option);
-        option.maxIconWidth = m_chance.below(60);
-        option.tabWidth = m_chance.below(200) - 50;
-    }
-    void fill(QStyleOptionHeader &option)
-    {
-        fillLabel(option);
-        m_chance.pick(&option.position, 4);
-        m_chance.pick(&option.sortIndicator, 3);
-        option.orientation = m_chance.orientation();
-    }
-    void fill(QStyleOptionDockWidget &option)
-    {
-        option.title = m_chance.text();
-        option.verticalTitleBar = m_chance.coin();
-    }
-    void fill(QStyleOptionToolBar &option)
-    {
-        m_chance.pick(&option.positionOfLine, 4);
-        option.toolBarArea = static_cast<Qt::ToolBarArea>(1 << m_chance.below(4));
+        pick(o.positionOfLine);
+        o.toolBarArea = static_cast<Qt::ToolBarArea>(1 << below(4));
     }
 
-    void fill(QStyleOptionComplex &option)
+    void fill(QStyleOptionComplex &o)
     {
-        m_chance.pickFlags(&option.subControls);
-        option.activeSubControls =
-            QStyle::SubControls(m_chance.coin() ? 0 : 1 << m_chance.below(10));
+        pick(o.subControls);
+        o.activeSubControls = QStyle::SubControls(below(2) ? 0 : 1 << below(10));
     }
-    void fill(QStyleOptionSlider &option)
+    void fill(QStyleOptionSlider &o)
     {
-        fill(static_cast<QStyleOptionComplex &>(option));
-        m_chance.fillNumbers({&option.minimum, &option.maximum, &option.sliderPosition,
-                              &option.sliderValue, &option.singleStep, &option.pageStep,
-                              &option.tickInterval});
-        option.orientation = m_chance.orientation();
-        m_chance.pick(&option.tickPosition, 4);
-        option.upsideDown = m_chance.coin();
-        option.dialWrapping = m_chance.coin();
+        fill(static_cast<QStyleOptionComplex &>(o));
+        pick(o.minimum, o.maximum, o.sliderPosition, o.sliderValue, o.singleStep, o.pageStep);
+        pick(o.orientation, o.tickInterval, o.tickPosition, o.upsideDown, o.dialWrapping);
     }
-    void fill(QStyleOptionSpinBox &option)
+    void fill(QStyleOptionSpinBox &o)
     {
-        fill(static_cast<QStyleOptionComplex &>(option));
-        m_chance.pick(&option.buttonSymbols, 3);
-        m_chance.pickFlags(&option.stepEnabled);
-        option.frame = m_chance.coin();
+        fill(static_cast<QStyleOptionComplex &>(o));
+        pick(o.buttonSymbols, o.stepEnabled, o.frame);
     }
-    void fill(QStyleOptionToolButton &option)
+    void fill(QStyleOptionToolButton &o)
     {
-        fill(static_cast<QStyleOptionComplex &>(option));
-        m_chance.pickFlags(&option.features);
-        m_chance.pick(&option.arrowType, 5);
-        m_chance.pick(&option.toolButtonStyle, 5);
-        fillLabel(option);
-        option.iconSize = m_chance.size();
+        fill(static_cast<QStyleOptionComplex &>(o));
+        pick(o.features, o.text, o.icon, o.iconSize);
+        pickOfEight(o.arrowType, o.toolButtonStyle);
     }
-    void fill(QStyleOptionComboBox &option)
+    void fill(QStyleOptionComboBox &o)
     {
-        fill(static_cast<QStyleOptionComplex &>(option));
-        option.editable = m_chance.coin();
-        option.currentText = m_chance.text();
-        option.currentIcon = m_chance.icon();
-        option.iconSize = m_chance.size();
+        fill(static_cast<QStyleOptionComplex &>(o));
+        pick(o.editable, o.currentText, o.currentIcon, o.iconSize);
     }
-    void fill(QStyleOptionTitleBar &option)
+    void fill(QStyleOptionTitleBar &o)
     {
-        fill(static_cast<QStyleOptionComplex &>(option));
-        fillLabel(option);
-        option.titleBarState = m_chance.number();
-        m_chance.pickFlags(&option.titleBarFlags);
+        fill(static_cast<QStyleOptionComplex &>(o));
+        pick(o.text, o.icon, o.titleBarState, o.titleBarFlags);
     }
-    void fill(QStyleOptionGroupBox &option)
+    void fill(QStyleOptionGroupBox &o)
     {
-        fill(static_cast<QStyleOptionComplex &>(option));
-        option.text = m_chance.text();
-        m_chance.pickFlags(&option.textAlignment);
-        option.lineWidth = m_chance.number();
-    }
-    template <typename Option>
-    void fillLabel(Option &option)
-    {
-        option.text = m_chance.text();
-        option.icon = m_chance.icon();
+        fill(static_cast<QStyleOptionComplex &>(o));
+        pick(o.text, o.textAlignment, o.lineWidth);
     }
 
-    Chance &m_chance;
+    QRandomGenerator m_generator{seed};
+    const QVector<QPalette> m_palettes = extremePalettes();
+    const QVector<QRect> m_rects = extremeRects();
+    const QIcon m_icon = redIcon();
     std::shared_ptr<QStyleOption> m_option;
 };
 
@@ -414,12 +344,11 @@ QString TestStyleFuzz::fault(const QStyleOption *option, const Drawing &paint)
 template <typename Element, std::size_t Count, typename Make, typename Paint>
 QString TestStyleFuzz::firstFault(const Element (&elements)[Count], Make make, Paint paint)
 {
-    Chance chance;
-    OptionMaker maker(chance);
+    OptionMaker maker;
     for (int round = 0; round < rounds; ++round) {
-        const Element element = elements[chance.below(int(Count))];
+        const Element element = elements[maker.below(int(Count))];
         const auto *option = (maker.*make)();
-        const QWidget *widget = m_widgets.at(chance.below(m_widgets.size()));
+        const QWidget *widget = m_widgets.at(maker.below(m_widgets.size()));
         const QString message = fault(option, [&](QPainter &painter) {
             (m_style.get()->*paint)(element, option, &painter, widget);
         });
@@ -449,24 +378,22 @@ void TestStyleFuzz::complexControls()
 /// The questions that layouts and mouse events ask.
 void TestStyleFuzz::geometry()
 {
-    Chance chance;
-    OptionMaker maker(chance);
+    OptionMaker maker;
     QElapsedTimer timer;
     timer.start();
     for (int round = 0; round < rounds; ++round) {
-        const QWidget *widget = m_widgets.at(chance.below(m_widgets.size()));
+        const QWidget *widget = m_widgets.at(maker.below(m_widgets.size()));
         const auto control =
-            Own::complexControls[chance.below(int(std::size(Own::complexControls)) - 1)];
+            Own::complexControls[maker.below(int(std::size(Own::complexControls)) - 1)];
         const QStyleOptionComplex *complex = maker.complex();
-        m_style->subControlRect(control, complex, QStyle::SubControl(1 << chance.below(14)),
-                                widget);
-        m_style->hitTestComplexControl(control, complex, chance.rect().topLeft(), widget);
+        m_style->subControlRect(control, complex, QStyle::SubControl(1 << maker.below(14)), widget);
+        m_style->hitTestComplexControl(control, complex, maker.rect().topLeft(), widget);
 
         // Beyond the last of each kind, too.
         const QStyleOption *option = maker.simple();
-        const int question = chance.below(140) - 1;
+        const int question = maker.below(140) - 1;
         m_style->subElementRect(QStyle::SubElement(question), option, widget);
-        m_style->sizeFromContents(QStyle::ContentsType(question), option, chance.size(), widget);
+        m_style->sizeFromContents(QStyle::ContentsType(question), option, maker.size(), widget);
         m_style->pixelMetric(QStyle::PixelMetric(question), option, widget);
         m_style->styleHint(QStyle::StyleHint(question), option, widget);
         if (round % 50 == 0) {
