@@ -206,7 +206,6 @@ void TestStyleComplexPainting::editableComboBox_data()
 {
     QTest::addColumn<QStyle::State>("state");
     QTest::addColumn<QColor>("line");
-    const QStyle::State enabled = QStyle::State_Enabled;
     QTest::newRow("resting") << enabled << outline.lighter(110);
     QTest::newRow("clicked focus") << (enabled | QStyle::State_HasFocus) << outline.lighter(110);
     QTest::newRow("focus") << (enabled | keyboardFocus) << highlight;
@@ -421,35 +420,28 @@ void TestStyleComplexPainting::slider()
     option.sliderPosition = 30;
     const bool isHorizontal = orientation == Qt::Horizontal;
     const QRect groove = isHorizontal ? QRect(0, 16, 200, 7) : QRect(16, 0, 7, 200);
-    const auto shape = [&](const QPen &pen, const QColor &brush, const QRect &rect, int radius) {
-        return layer(option.rect.size(), [&](QPainter &painter) {
+    // Insets of a groove that lies and one that stands.
+    const auto drawShape = [&](QPainter &target, const QPen &pen, const QColor &brush,
+                               const QMargins &lying, const QMargins &standing, int radius) {
+        const QImage shape = layer(option.rect.size(), [&](QPainter &painter) {
             painter.setClipRect(groove);
             beginSharp(painter);
-            drawBox(painter, rect, pen, brush, radius);
+            drawBox(painter, groove - (isHorizontal ? lying : standing), pen, brush, radius);
         });
+        target.drawImage(0, 0, shape);
     };
     for (const bool isHovered : {false, true}) {
         option.state.setFlag(QStyle::State_MouseOver, isHovered);
         const QImage expected = picture(option.rect.size(), [&](QPainter &painter) {
-            painter.drawImage(
-                0, 0,
-                shape(Qt::NoPen, withAlpha(ink, 128),
-                      isHorizontal ? groove.adjusted(1, 2, -2, -1) : groove.adjusted(0, 1, -2, -2),
-                      3));
+            drawShape(painter, Qt::NoPen, withAlpha(ink, 128), {1, 2, 2, 1}, {0, 1, 2, 2}, 3);
             painter.setClipRect(filled);
-            painter.drawImage(
-                0, 0,
-                shape(ink, withAlpha(accentBlue, isHovered ? 255 : 200),
-                      isHorizontal ? groove.adjusted(1, 1, -2, -1) : groove.adjusted(0, 0, -2, -2),
-                      2));
+            drawShape(painter, ink, withAlpha(accentBlue, isHovered ? 255 : 200), {1, 1, 2, 1},
+                      {0, 0, 2, 2}, 2);
             painter.setClipping(false);
             painter.setRenderHint(QPainter::Antialiasing);
-            painter.setPen(Qt::NoPen);
             const QPoint centre = handle.center() + QPoint(0, 1);
-            painter.setBrush(Qt::gray);
-            painter.drawEllipse(centre, 6, 6);
-            painter.setBrush(ink);
-            painter.drawEllipse(centre, 2, 2);
+            drawDisc(painter, centre, 6, Qt::NoPen, Qt::gray);
+            drawDisc(painter, centre, 2, Qt::NoPen, ink);
         });
         QCOMPARE(paint(QStyle::CC_Slider, option), expected);
     }
@@ -738,13 +730,10 @@ void TestStyleComplexPainting::dial()
         }
         painter.setPen(tone.darker(280));
         painter.drawEllipse(disc);
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(tone.lighter(110));
-        painter.drawEllipse(disc.adjusted(1, 1, -1, -1));
-        if (state & QStyle::State_HasFocus) {
-            painter.setPen(QPen(colored(highlight, 160, 230, 127), 2));
-            painter.drawEllipse(disc.adjusted(-1, -1, 1, 1));
-        }
+        drawDisc(painter, disc.center(), side / 2.0 - 1, tone.lighter(110), Qt::NoBrush);
+        const QPen focus(colored(highlight, 160, 230, 127), 2);
+        if (state & QStyle::State_HasFocus)
+            drawDisc(painter, disc.center(), side / 2.0 + 1, focus, Qt::NoBrush);
     });
     // 30 of 100 from 240 degrees down to -60; the dial counts from its other end.
     const qreal angle = qDegreesToRadians(240 - 300 * 0.7);
@@ -763,15 +752,11 @@ void TestStyleComplexPainting::dial()
         }
         const qreal size = r / 7;
         const QPointF at = outwards(0.70);
-        const QRectF knob(at.x() - size, at.y() - size, 2 * size, 2 * size);
         const QColor dark = withAlpha(tone.lighter(104), 204);
-        QRadialGradient shade(knob.center() + QPointF(size, 2 * size), 4 * size, knob.center());
+        QRadialGradient shade(at + QPointF(size, 2 * size), 4 * size, at);
         shade.setStops({{0.0, dark.darker(110)}, {0.4, dark.darker(120)}, {1.0, dark.darker(140)}});
-        painter.setBrush(shade);
-        painter.setPen(QColor(255, 255, 255, 150));
-        painter.drawEllipse(knob.adjusted(-1, -1, 1, 1));
-        painter.setPen(QColor(0, 0, 0, 80));
-        painter.drawEllipse(knob);
+        drawDisc(painter, at, size + 1, QColor(255, 255, 255, 150), shade);
+        drawDisc(painter, at, size, QColor(0, 0, 0, 80), shade);
     });
     QCOMPARE(paint(QStyle::CC_Dial, option), expected);
     QCOMPARE(paint(QStyle::CC_Dial, option), expected); // from the cache

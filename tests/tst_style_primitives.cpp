@@ -148,6 +148,8 @@ private:
         QTest::newRow(name) << actual << expected << isKept;
     }
     void addFrames();
+    void addFields();
+    void addTabFrames();
     void addButtons();
     void addIndicators();
 
@@ -188,7 +190,10 @@ void TestStylePrimitives::addFrames()
     addRow("menu panel", QStyle::PE_PanelMenu, option, drawMenuPanel);
     addRow("corner", QStyle::PE_PanelScrollAreaCorner, option,
            [](QPainter &p, const QRect &r) { drawBox(p, r, withAlpha(outline, 180), window); });
+}
 
+void TestStylePrimitives::addFields()
+{
     const PlacedDrawing drawFocus = [](QPainter &painter, const QRect &r) {
         const QColor fill = withAlpha(focusOutline(), 30);
         beginSharp(painter);
@@ -215,7 +220,10 @@ void TestStylePrimitives::addFrames()
         drawField(painter, r.adjusted(0, 1, 0, -1), -15, 9);
     };
     addRow("search", QStyle::PE_PanelLineEdit, frame, drawSearch, false, &m_search);
+}
 
+void TestStylePrimitives::addTabFrames()
+{
     auto page = makeOption<QStyleOptionTabWidgetFrame>(QRect());
     addRow("page", QStyle::PE_FrameTabWidget, page, [](QPainter &painter, const QRect &r) {
         painter.fillRect(r.adjusted(0, 0, -1, -1), window);
@@ -343,6 +351,8 @@ void TestStylePrimitives::drawnPieceByPiece_data()
     QTest::addColumn<PlacedDrawing>("expected");
     QTest::addColumn<bool>("isKept");
     addFrames();
+    addFields();
+    addTabFrames();
     addButtons();
     addIndicators();
 }
