@@ -12,7 +12,10 @@ Q_DECLARE_METATYPE(QStyle::State)
 
 namespace {
 
-const QGradientStops progressStops = {{0.0, highlight.lighter(120)}, {1.0, highlight}};
+QGradientStops progressStops()
+{
+    return {{0.0, highlight.lighter(120)}, {1.0, highlight}};
+}
 
 constexpr int plainMenuItem = 0;
 constexpr int comboBoxMenuItem = 1; // of the list that a combo box opens
@@ -374,7 +377,7 @@ void TestStyleControls::progressContents()
             if (!isComplete)
                 painter.setClipRect(bar.adjusted(-1, -1, -1, 1));
             drawBox(painter, bar.adjusted(isReversed ? -extra : 0, 0, isReversed ? 0 : extra, 0),
-                    outline, gradientDown(r, progressStops), 2);
+                    outline, gradientDown(r, progressStops()), 2);
             painter.setClipping(false);
             drawBox(painter, bar.adjusted(1, 1, -1, -1), QColor(255, 255, 255, 50), Qt::NoBrush, 1);
         });
@@ -389,7 +392,7 @@ void TestStyleControls::busyProgress()
     const QRect bar(0, 0, 99, 19);
     const QImage expected = keptPicture([&](QPainter &painter) {
         beginSharp(painter);
-        drawBox(painter, bar, outline, gradientDown(option.rect, progressStops), 2);
+        drawBox(painter, bar, outline, gradientDown(option.rect, progressStops()), 2);
         drawBox(painter, bar.adjusted(1, 1, -1, -1), QColor(255, 255, 255, 50), Qt::NoBrush, 1);
         painter.setPen(QPen(withAlpha(highlight.lighter(120), 120), 9));
         painter.setClipRect(bar.adjusted(1, 1, -1, -1));
