@@ -591,7 +591,7 @@
     </message>
     <message>
         <source>Unchecked</source>
-        <translation>Nicht angekreuzt</translation>
+        <translation>Ohne Kreuz</translation>
     </message>
     <message>
         <source>Up hovered</source>

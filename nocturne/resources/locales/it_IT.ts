@@ -591,7 +591,7 @@
     </message>
     <message>
         <source>Unchecked</source>
-        <translation>Non selezionato</translation>
+        <translation>Non scelto</translation>
     </message>
     <message>
         <source>Up hovered</source>

@@ -571,7 +571,7 @@
     </message>
     <message>
         <source>Title only</source>
-        <translation>Apenas título</translation>
+        <translation>Só título</translation>
     </message>
     <message>
         <source>Titles</source>
@@ -591,7 +591,7 @@
     </message>
     <message>
         <source>Unchecked</source>
-        <translation>Não marcado</translation>
+        <translation>Sem marca</translation>
     </message>
     <message>
         <source>Up hovered</source>

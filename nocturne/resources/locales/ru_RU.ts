@@ -571,7 +571,7 @@
     </message>
     <message>
         <source>Title only</source>
-        <translation>Только заголовок</translation>
+        <translation>Без флажка</translation>
     </message>
     <message>
         <source>Titles</source>
@@ -591,7 +591,7 @@
     </message>
     <message>
         <source>Unchecked</source>
-        <translation>Не отмечено</translation>
+        <translation>Снято</translation>
     </message>
     <message>
         <source>Up hovered</source>
