@@ -4,6 +4,7 @@
 #include <nocturne/SpinBox>
 
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QDialog>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLineEdit>
 
@@ -271,7 +272,7 @@ private slots:
 
         QTest::newRow("hidden") << 0;
         QTest::newRow("disabled") << 1;
-        QTest::newRow("window deactivated") << 2;
+        QTest::newRow("modal window") << 2;
         QTest::newRow("destroyed") << 3;
         QTest::newRow("released outside") << 4;
     }
@@ -284,6 +285,7 @@ private slots:
         f.press({30, 10});
         f.move({35, 10});
         QVERIFY(QApplication::overrideCursor());
+        QDialog dialog;
         switch (interruption) {
         case 0:
             f.box->hide();
@@ -291,11 +293,12 @@ private slots:
         case 1:
             f.box->setEnabled(false);
             break;
-        case 2: {
-            QEvent deactivate(QEvent::WindowDeactivate);
-            QCoreApplication::sendEvent(f.box, &deactivate);
+        case 2:
+            dialog.setModal(true);
+            dialog.show();
+            dialog.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&dialog));
             break;
-        }
         case 3:
             delete f.box;
             break;
@@ -306,6 +309,20 @@ private slots:
         QVERIFY(!QWidget::mouseGrabber());
         QVERIFY(!QApplication::overrideCursor());
         QCOMPARE(f.changes, Changes({{5, true}}));
+    }
+
+    void aDragGoesOnWhenTheWindowLosesTheFocus()
+    {
+        Fixture f;
+        f.press({30, 10});
+        f.move({35, 10});
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        f.move({37, 10});
+        f.release({37, 10});
+        QCOMPARE(f.changes, Changes({{5, true}, {7, false}}));
     }
 
     void aReceiverMayDeleteTheSpinBox()
