@@ -315,6 +315,20 @@ private slots:
         QCOMPARE(f.editor.getSliderNum(), 3);
     }
 
+    void aLostReleaseRemovesNothingLater()
+    {
+        Fixture f;
+        f.editor.setRamp({{0, Qt::red}, {0.5, Qt::green}, {1, Qt::blue}});
+        const QImage before = f.editor.grab().toImage();
+        f.press({105, 50});
+        f.move({105, 100});
+        f.press(firstMarker);
+        f.release(firstMarker);
+        QCOMPARE(f.editor.getSliderNum(), 3);
+        const QImage after = f.editor.grab().toImage();
+        QCOMPARE(after.pixelColor(105, 53), before.pixelColor(105, 53));
+    }
+
     void aRampSetWhileAStopIsDraggedAwayKeepsItsStops()
     {
         Fixture f;

@@ -7,6 +7,7 @@
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
 
 namespace {
 
@@ -274,6 +275,7 @@ private slots:
         QTest::newRow("disabled") << 1;
         QTest::newRow("modal window") << 2;
         QTest::newRow("destroyed") << 3;
+        QTest::newRow("popup") << 5;
         QTest::newRow("released outside") << 4;
     }
 
@@ -283,9 +285,12 @@ private slots:
         Fixture f;
         f.enter();
         f.press({30, 10});
+        f.box->setFocus(Qt::MouseFocusReason);
         f.move({35, 10});
         QVERIFY(QApplication::overrideCursor());
         QDialog dialog;
+        QMenu menu;
+        menu.addAction(QStringLiteral("Action"));
         switch (interruption) {
         case 0:
             f.box->hide();
@@ -304,6 +309,9 @@ private slots:
             break;
         case 4:
             f.release({500, 300});
+            break;
+        case 5:
+            menu.popup(QPoint(300, 300));
             break;
         }
         QVERIFY(!QWidget::mouseGrabber());

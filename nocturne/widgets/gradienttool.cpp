@@ -332,6 +332,7 @@ void GradientTool::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
+    abandonDrag(); // A popup may have taken the last release.
     m_firstChange = true;
     m_pressed = true;
     if (bar().contains(event->pos(), true))

@@ -155,6 +155,9 @@ bool SpinBox::filterOwnEvent(QEvent *event)
             lineEdit()->setReadOnly(false);
         break;
     case QEvent::FocusOut:
+        // A popup takes the release.
+        if (m_dragging && static_cast<QFocusEvent *>(event)->reason() == Qt::PopupFocusReason)
+            abandonDrag();
         if (!isCursorInside())
             lineEdit()->setReadOnly(true);
         break;
