@@ -43,8 +43,12 @@ CheckComboBox *createCheckCombo(const QVector<Qt::CheckState> &states)
     combo->setNoneCheckedText(Gallery::tr("No output"));
     combo->setAllCheckedText(Gallery::tr("All outputs"));
     combo->setUndeterminedText(Gallery::tr("Undetermined"));
-    for (int i = 0; i < states.size(); ++i)
-        combo->addCheckItem(Gallery::tr(outputs[i]), i, states.at(i));
+    int output = 0;
+    for (const char *name : outputs) {
+        if (output < states.size())
+            combo->addCheckItem(Gallery::tr(name), output, states.at(output));
+        ++output;
+    }
     return combo;
 }
 
