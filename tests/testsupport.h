@@ -61,7 +61,7 @@ inline QColor blended(const QColor &top, const QColor &bottom)
 #define COMPARE_PIXEL(image, x, y, expected) \
     do { \
         const QColor actualColor = (image).pixelColor(x, y); \
-        const QColor expectedColor(expected); \
+        const QColor expectedColor = QColor(expected); \
         QVERIFY2(actualColor.rgba() == expectedColor.rgba(), \
                  qPrintable(QStringLiteral("pixel (%1, %2) is %3, expected %4") \
                                 .arg(x) \

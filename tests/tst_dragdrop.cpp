@@ -6,12 +6,14 @@
 #include <nocturne/DarkUX>
 #include <nocturne/ListWidget>
 #include <nocturne/SimpleListWidget>
+#include <nocturne/SpinBox>
 
 #include <QtCore/QMimeData>
 #include <QtCore/QUrl>
 #include <QtGui/QDrag>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QScreen>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollBar>
 
 #include <cstdio>
@@ -272,6 +274,46 @@ private slots:
         // Dragged out and back again, a colour has not changed.
         pointer(drag(sourceGeometry.center(), sourceGeometry.center() + QPoint(60, 40)) + drop);
         QCOMPARE(clicked.count() + left.count(), 0);
+    }
+
+    void acrossASpinBox()
+    {
+        QWidget window;
+        window.setGeometry(listGeometry);
+        QLineEdit other(&window);
+        other.move(20, 100);
+        SpinBox box(&window);
+        box.setGeometry(20, 20, 120, 24);
+        box.setRange(-1000, 1000);
+        QVector<QPair<double, bool>> changes;
+        connect(&box, QOverload<double, bool>::of(&SpinBox::valueChanged), this,
+                [&changes](double value, bool first) {
+                    changes.append({value, first});
+                });
+        other.setFocus();
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+
+        // Far out of the window and back is one drag.
+        const QPoint start = box.mapToGlobal(box.rect().center());
+        const QStringList moves{at(start),
+                                QStringLiteral("mousedown 1 sleep 0.1"),
+                                at(start + QPoint(10, 0)),
+                                at(start + QPoint(10, -100)),
+                                at(start + QPoint(400, -100)),
+                                at(start + QPoint(5, 0)),
+                                QStringLiteral("mouseup 1")};
+        pointer(moves.join(QLatin1Char(' ')));
+        const decltype(changes) dragged{{10, true}, {110, false}, {500, false}, {5, false}};
+        QCOMPARE(changes, dragged);
+        QVERIFY(!QWidget::mouseGrabber());
+
+        pointer(QStringLiteral("click 1 sleep 0.1 type 7"));
+        QCOMPARE(box.value(), 7);
+        pointer(at(other.mapToGlobal(QPoint(5, 5))) + QStringLiteral(" click 1"));
+        QVERIFY(other.hasFocus());
+        QVERIFY(!QApplication::overrideCursor());
     }
 
     void itemsWithinTheList_data()

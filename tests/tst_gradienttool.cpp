@@ -276,19 +276,69 @@ private slots:
         QCOMPARE(f.editor.getSliderNum(), 3);
     }
 
+    void anInterruptedRemovalKeepsTheStop_data()
+    {
+        QTest::addColumn<QString>("how");
+        QTest::newRow("hidden") << QStringLiteral("hide");
+        QTest::newRow("disabled") << QStringLiteral("disable");
+        QTest::newRow("modal window") << QStringLiteral("modal");
+    }
+
     void anInterruptedRemovalKeepsTheStop()
     {
+        QFETCH(QString, how);
         Fixture f;
+        f.editor.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&f.editor));
         f.editor.setRamp({{0, Qt::red}, {0.5, Qt::green}, {1, Qt::blue}});
         f.editor.setActiveSlider(1);
         const QImage before = f.editor.grab().toImage();
         f.press({105, 50});
         f.move({105, 100});
-        f.editor.hide();
-        f.editor.show();
+        QVERIFY(f.editor.grab().toImage() != before);
+
+        QDialog dialog;
+        if (how == QLatin1String("hide")) {
+            f.editor.hide();
+            f.editor.show();
+        } else if (how == QLatin1String("disable")) {
+            f.editor.setEnabled(false);
+            f.editor.setEnabled(true);
+        } else {
+            dialog.setModal(true);
+            dialog.show();
+            dialog.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        }
         QCOMPARE(f.editor.grab().toImage(), before);
         f.release({105, 100});
         QCOMPARE(f.editor.getSliderNum(), 3);
+    }
+
+    void aLostReleaseRemovesNothingLater()
+    {
+        Fixture f;
+        f.editor.setRamp({{0, Qt::red}, {0.5, Qt::green}, {1, Qt::blue}});
+        const QImage before = f.editor.grab().toImage();
+        f.press({105, 50});
+        f.move({105, 100});
+        f.press(firstMarker);
+        f.release(firstMarker);
+        QCOMPARE(f.editor.getSliderNum(), 3);
+        const QImage after = f.editor.grab().toImage();
+        QCOMPARE(after.pixelColor(105, 53), before.pixelColor(105, 53));
+    }
+
+    void aRampSetWhileAStopIsDraggedAwayKeepsItsStops()
+    {
+        Fixture f;
+        const Ramp ramp{{0, Qt::red}, {0.5, Qt::green}, {1, Qt::blue}};
+        f.editor.setRamp(ramp);
+        f.press({105, 50});
+        f.move({105, 100});
+        f.editor.setRamp(ramp);
+        f.release({105, 100});
+        QCOMPARE(f.editor.getRamp(), ramp);
     }
 
     void receiversMayReplaceOrDeleteEverything()
@@ -314,6 +364,18 @@ private slots:
         QTest::mouseClick(editor, Qt::LeftButton, {}, {105, 20});
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!guard);
+
+        for (const QPoint &point : {QPoint(105, 20), firstMarker}) {
+            const QPointer<GradientTool> deleted(new GradientTool);
+            deleted->resize(210, 60);
+            deleted->show();
+            connect(deleted, &GradientTool::opacityValueChange, this,
+                    [deleted] { delete deleted; });
+            QMouseEvent press(QEvent::MouseButtonPress, point, deleted->mapToGlobal(point),
+                              Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(deleted, &press);
+            QVERIFY(!deleted);
+        }
     }
 
     void dialogAcceptedAndCancelled()

@@ -299,13 +299,13 @@ private slots:
         }
     }
 
-    /// Every text that the library's code asks for is in every language.
+    /// Every text that the code of the library and of the examples asks for is in every language.
     void textsOfTheCode()
     {
         const QTemporaryDir scratch;
         const QString collected = scratch.filePath("code.ts");
-        QProcess::execute("lupdate",
-                          {"-silent", NOCTURNE_SOURCE_DIR "/nocturne", "-ts", collected});
+        QProcess::execute("lupdate", {"-silent", NOCTURNE_SOURCE_DIR "/nocturne",
+                                      NOCTURNE_SOURCE_DIR "/examples", "-ts", collected});
         const QVector<Message> texts = messagesOf(collected);
         QVERIFY(!texts.isEmpty());
         for (const QString &catalogue : split(catalogues)) {

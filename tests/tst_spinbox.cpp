@@ -4,8 +4,10 @@
 #include <nocturne/SpinBox>
 
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QDialog>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
 
 namespace {
 
@@ -271,8 +273,9 @@ private slots:
 
         QTest::newRow("hidden") << 0;
         QTest::newRow("disabled") << 1;
-        QTest::newRow("window deactivated") << 2;
+        QTest::newRow("modal window") << 2;
         QTest::newRow("destroyed") << 3;
+        QTest::newRow("popup") << 5;
         QTest::newRow("released outside") << 4;
     }
 
@@ -282,8 +285,12 @@ private slots:
         Fixture f;
         f.enter();
         f.press({30, 10});
+        f.box->setFocus(Qt::MouseFocusReason);
         f.move({35, 10});
         QVERIFY(QApplication::overrideCursor());
+        QDialog dialog;
+        QMenu menu;
+        menu.addAction(QStringLiteral("Action"));
         switch (interruption) {
         case 0:
             f.box->hide();
@@ -291,21 +298,39 @@ private slots:
         case 1:
             f.box->setEnabled(false);
             break;
-        case 2: {
-            QEvent deactivate(QEvent::WindowDeactivate);
-            QCoreApplication::sendEvent(f.box, &deactivate);
+        case 2:
+            dialog.setModal(true);
+            dialog.show();
+            dialog.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&dialog));
             break;
-        }
         case 3:
             delete f.box;
             break;
         case 4:
             f.release({500, 300});
             break;
+        case 5:
+            menu.popup(QPoint(300, 300));
+            break;
         }
         QVERIFY(!QWidget::mouseGrabber());
         QVERIFY(!QApplication::overrideCursor());
         QCOMPARE(f.changes, Changes({{5, true}}));
+    }
+
+    void aDragGoesOnWhenTheWindowLosesTheFocus()
+    {
+        Fixture f;
+        f.press({30, 10});
+        f.move({35, 10});
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        f.move({37, 10});
+        f.release({37, 10});
+        QCOMPARE(f.changes, Changes({{5, true}, {7, false}}));
     }
 
     void aReceiverMayDeleteTheSpinBox()

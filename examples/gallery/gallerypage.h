@@ -7,6 +7,13 @@
 
 class QWidget;
 
+/// Texts of the gallery: Gallery::tr("Hovered"). Stored ones are marked with
+/// QT_TRANSLATE_NOOP("Gallery", "Hovered") and given to Gallery::tr() when they are shown.
+class Gallery
+{
+    Q_DECLARE_TR_FUNCTIONS(Gallery)
+};
+
 /// One page of the gallery. A page lives in a file of its own under pages/ and adds itself with
 /// GALLERY_PAGE; the window creates it when it is first shown.
 struct GalleryPage
@@ -18,7 +25,7 @@ struct GalleryPage
     const char *title; ///< for people; translated in the context "Gallery"
     Create create;
 
-    QString translatedTitle() const { return QCoreApplication::translate("Gallery", title); }
+    QString translatedTitle() const { return Gallery::tr(title); }
 };
 
 /// All pages in their order.

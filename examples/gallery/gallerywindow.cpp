@@ -81,9 +81,9 @@ void GalleryWindow::showRow(int row)
 
 void GalleryWindow::retranslate()
 {
-    setWindowTitle(QCoreApplication::translate("Gallery", "libnocturne gallery"));
-    m_rightToLeft->setText(QCoreApplication::translate("Gallery", "Right to left"));
-    m_enabled->setText(QCoreApplication::translate("Gallery", "Enabled"));
+    setWindowTitle(Gallery::tr("libnocturne gallery"));
+    m_rightToLeft->setText(Gallery::tr("Right to left"));
+    m_enabled->setText(Gallery::tr("Enabled"));
     for (int row = 0; row < m_pages.size(); ++row)
         m_list->item(row)->setText(m_pages.at(row).translatedTitle());
 }

@@ -1,3 +1,4 @@
+#include "gallerylanguage.h"
 #include "gallerywindow.h"
 #include "screenshots.h"
 
@@ -36,6 +37,21 @@ bool renderAgainAtRatio2()
            && process.exitCode() == 0;
 }
 
+/// Runs the gallery in the catalogue of that name, such as "de_DE".
+bool useLanguage(const QString &name)
+{
+    const QFileInfoList known = galleryCatalogues();
+    for (const QFileInfo &catalogue : known) {
+        if (catalogue.completeBaseName() == name)
+            return setGalleryCatalogue(catalogue.filePath());
+    }
+    std::fprintf(stderr, "there is no language named %s; there are:", qPrintable(name));
+    for (const QFileInfo &catalogue : known)
+        std::fprintf(stderr, " %s", qPrintable(catalogue.completeBaseName()));
+    std::fprintf(stderr, "\n");
+    return false;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -58,8 +74,14 @@ int main(int argc, char *argv[])
         QStringLiteral("screenshots"),
         QStringLiteral("Renders the pages to PNG files without a display, and ends."),
         QStringLiteral("directory"));
-    parser.addOptions({pageOption, screenshotsOption});
+    const QCommandLineOption languageOption(QStringLiteral("language"),
+                                            QStringLiteral("Begins in a language, such as de_DE."),
+                                            QStringLiteral("name"));
+    parser.addOptions({pageOption, screenshotsOption, languageOption});
     parser.process(app);
+
+    if (parser.isSet(languageOption) && !useLanguage(parser.value(languageOption)))
+        return 1;
 
     const QString page = parser.value(pageOption);
     if (parser.isSet(screenshotsOption)) {

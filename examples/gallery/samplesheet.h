@@ -1,19 +1,14 @@
 #ifndef SAMPLESHEET_H
 #define SAMPLESHEET_H
 
-#include <QtCore/QCoreApplication>
+#include "gallerypage.h"
+
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
 #include <QtWidgets/QWidget>
 
 class QGridLayout;
 class QIcon;
-
-/// Texts of the gallery: Gallery::tr("Hovered").
-class Gallery
-{
-    Q_DECLARE_TR_FUNCTIONS(Gallery)
-};
 
 /// A page of labelled rows, each with one or more samples, under headings.
 class SampleSheet : public QWidget

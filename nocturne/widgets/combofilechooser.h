@@ -52,7 +52,7 @@ public:
 public slots:
     /// Makes the item with that text the current one.
     void setFileName(QString fn);
-    void setMode(Mode m);
+    void setMode(ComboFileChooser::Mode m);
 
 signals:
     /// Another item has become current, once for each choice of a file or folder.

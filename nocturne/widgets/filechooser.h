@@ -36,7 +36,7 @@ public:
 public slots:
     /// Puts \a fn into the line edit.
     void setFileName(QString fn);
-    void setMode(Mode m);
+    void setMode(FileChooser::Mode m);
 
 signals:
     /// The text has changed, by typing or by setFileName(); and once more after each choice, so

@@ -22,7 +22,7 @@ QString pickedPath(QFileDialog *fileDialog)
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!dialog)
         return QString();
-    const QString path = accepted ? dialog->selectedFiles().value(0) : QString();
+    QString path = accepted ? dialog->selectedFiles().value(0) : QString();
     delete dialog;
     return path;
 }

@@ -1,8 +1,8 @@
 #include "gradienttool.h"
 
+#include "gestureend_p.h"
 #include "gradienttoolslider_p.h"
 
-#include <QtCore/QEvent>
 #include <QtGui/QLinearGradient>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
@@ -82,6 +82,7 @@ void GradientTool::setRamp(const QVector<QPair<double, QColor>> &ramp)
     }
     m_stops.clear();
     m_dragIndex = -1;
+    m_verticalFraction = 0.0;
     for (const auto &entry : ramp)
         addStop(boundedPosition(entry.first), entry.second);
     update();
@@ -331,6 +332,7 @@ void GradientTool::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
+    abandonDrag(); // A popup may have taken the last release.
     m_firstChange = true;
     m_pressed = true;
     if (bar().contains(event->pos(), true))
@@ -348,8 +350,10 @@ void GradientTool::pressMarker(const QPoint &point)
         if (!grabArea.contains(point))
             continue;
         m_dragIndex = i;
+        const QPointer<GradientTool> self(this);
         setActiveSlider(i);
-        emit sliderChanged(0.0, false);
+        if (self)
+            emit sliderChanged(0.0, false);
         return;
     }
 }
@@ -359,9 +363,11 @@ void GradientTool::pressBar(const QPoint &point)
     const double position = positionAt(point.x());
     addStop(position, colorAt(position));
     m_dragIndex = m_stops.size() - 1;
-    setActiveSlider(m_dragIndex);
     updateBar();
-    emit rampChanged(0.0, true);
+    const QPointer<GradientTool> self(this);
+    setActiveSlider(m_dragIndex);
+    if (self)
+        emit rampChanged(0.0, true);
 }
 
 void GradientTool::mouseMoveEvent(QMouseEvent *event)
@@ -473,17 +479,11 @@ void GradientTool::chooseColor(GradientToolSlider *target)
     emit rampChanged(0.0, true);
 }
 
-void GradientTool::changeEvent(QEvent *event)
+bool GradientTool::event(QEvent *event)
 {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange && !isEnabled())
+    if (endsGesture(event, this))
         abandonDrag();
-}
-
-void GradientTool::hideEvent(QHideEvent *event)
-{
-    abandonDrag();
-    QWidget::hideEvent(event);
+    return QWidget::event(event);
 }
 
 /// A drag that no release will end keeps its stop.

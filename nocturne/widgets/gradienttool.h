@@ -117,8 +117,7 @@ protected:
     static bool colorRampSort(const QPair<double, GradientToolSlider *> &a,
                               const QPair<double, GradientToolSlider *> &b);
 
-    void changeEvent(QEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
+    bool event(QEvent *event) override;
 
 protected slots:
     void paintEvent(QPaintEvent *event) override;

@@ -34,6 +34,20 @@ int pixelSize(const QFont &font)
     return qMax(1, size);
 }
 
+/// \a font with nothing left open that a painter would take from the font of its widget instead.
+QFont settled(const QFont &font)
+{
+    QFont result(font);
+    result.setFamily(font.family());
+    if (font.pixelSize() > 0)
+        result.setPixelSize(font.pixelSize());
+    else
+        result.setPointSizeF(font.pointSizeF());
+    result.setWeight(font.weight());
+    result.setStyle(font.style());
+    return result;
+}
+
 QRectF shrunk(const QRectF &rect, double margin)
 {
     return rect.adjusted(margin, margin, -margin, -margin);
@@ -110,7 +124,7 @@ void RoundProgressBar::setBarStyle(BarStyle style)
 
 void RoundProgressBar::setOutlinePenWidth(double width)
 {
-    if (width == m_outlinePenWidth)
+    if (!(width >= 0.0) || width == m_outlinePenWidth)
         return;
     m_outlinePenWidth = width;
     update();
@@ -118,7 +132,7 @@ void RoundProgressBar::setOutlinePenWidth(double width)
 
 void RoundProgressBar::setDataPenWidth(double width)
 {
-    if (width == m_dataPenWidth)
+    if (!(width >= 0.0) || width == m_dataPenWidth)
         return;
     m_dataPenWidth = width;
     update();
@@ -341,7 +355,7 @@ void RoundProgressBar::drawText(QPainter &painter, const QRectF &innerRect, doub
         return;
     const auto draw = [&](const QFont &font, const QColor &color, double shift,
                           const QString &text) {
-        painter.setFont(font);
+        painter.setFont(settled(font));
         painter.setPen(color);
         painter.drawText(innerRect.translated(0, shift), Qt::AlignCenter, text);
     };
@@ -363,7 +377,8 @@ void RoundProgressBar::drawText(QPainter &painter, const QRectF &innerRect, doub
 QString RoundProgressBar::accessibleValue()
 {
     const QString text = valueToText(m_value);
-    return m_unitMode ? text + QLatin1Char(' ') + m_unitText : text;
+    const bool hasUnitLine = m_unitMode && !text.isEmpty() && !m_unitText.isEmpty();
+    return hasUnitLine ? text + QLatin1Char(' ') + m_unitText : text;
 }
 
 void RoundProgressBar::invalidateDataBrush()

@@ -16,7 +16,8 @@
 /// KB/s, MB/s or GB/s. In unit mode (setTitle()) the unit has a line of its own under the value.
 ///
 /// The picture is the largest square that fits the top left corner of the widget. A subclass may
-/// replace each of its layers.
+/// replace each of its layers. Assistive technology finds a progress bar that is named by the
+/// title, unless it has an accessible name, and whose value reads as the ring shows it.
 ///
 /// \code
 /// auto *rate = new RoundProgressBar(panel);
@@ -63,11 +64,13 @@ public:
     BarStyle barStyle() const { return m_barStyle; }
     void setBarStyle(BarStyle style);
 
-    /// The width of the line style's circle, in units. 1 at first.
+    /// The width of the line style's circle, in units. 1 at first. Negative widths are
+    /// ignored.
     double outlinePenWidth() const { return m_outlinePenWidth; }
     void setOutlinePenWidth(double width);
 
-    /// The width of the line style's arc, in units. 1 at first.
+    /// The width of the line style's arc, in units. 1 at first. Negative widths are
+    /// ignored.
     double dataPenWidth() const { return m_dataPenWidth; }
     void setDataPenWidth(double width);
 
@@ -86,8 +89,9 @@ public:
     int decimals() const { return m_decimals; }
     void setDecimals(int count);
 
-    /// Sets the title and the fonts of title and value, for the next repaint. The title font's
-    /// height in pixels is also the thickness of the ring. \a titleFactor places title and unit,
+    /// Sets the title and the fonts of title and value, for the next repaint; the font of the
+    /// widget has no part in it. The title font's height in pixels is also the thickness of the
+    /// ring. \a titleFactor places title and unit,
     /// in multiples of the value font's height, above and below the value. \a unitMode gives the
     /// unit a line of its own.
     void setTitle(const QString &title, const QFont &titleFont, const QFont &valueFont,

@@ -1,5 +1,7 @@
 #include "spinbox.h"
 
+#include "gestureend_p.h"
+
 #include <QtCore/QPointer>
 #include <QtGui/QCursor>
 #include <QtGui/QMouseEvent>
@@ -153,6 +155,9 @@ bool SpinBox::filterOwnEvent(QEvent *event)
             lineEdit()->setReadOnly(false);
         break;
     case QEvent::FocusOut:
+        // A popup takes the release.
+        if (m_dragging && static_cast<QFocusEvent *>(event)->reason() == Qt::PopupFocusReason)
+            abandonDrag();
         if (!isCursorInside())
             lineEdit()->setReadOnly(true);
         break;
@@ -199,7 +204,7 @@ void SpinBox::startEditing()
     lineEdit()->selectAll();
 }
 
-/// A drag that no release will end: the spin box is hidden, disabled or its window loses focus.
+/// Gives up the mouse and the cursor; the value stays where the drag has brought it.
 void SpinBox::abandonDrag()
 {
     m_dragging = false;
@@ -211,13 +216,10 @@ void SpinBox::abandonDrag()
 
 void SpinBox::returnUnfocusedSiblingsToDragging()
 {
-    if (!parentWidget()) {
-        lineEdit()->setReadOnly(lineEdit()->isReadOnly() || !lineEdit()->hasFocus());
-        return;
-    }
-    const auto siblings =
-        parentWidget()->findChildren<SpinBox *>(QString(), Qt::FindDirectChildrenOnly);
-    for (SpinBox *sibling : siblings) {
+    QList<SpinBox *> siblings{this};
+    if (parentWidget())
+        siblings = parentWidget()->findChildren<SpinBox *>(QString(), Qt::FindDirectChildrenOnly);
+    for (SpinBox *sibling : qAsConst(siblings)) {
         if (!sibling->lineEdit()->hasFocus())
             sibling->lineEdit()->setReadOnly(true);
     }
@@ -233,22 +235,9 @@ void SpinBox::paintEvent(QPaintEvent *event)
     QAbstractSpinBox::paintEvent(event);
 }
 
-void SpinBox::changeEvent(QEvent *event)
-{
-    QSpinBox::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange && !isEnabled())
-        abandonDrag();
-}
-
-void SpinBox::hideEvent(QHideEvent *event)
-{
-    abandonDrag();
-    QSpinBox::hideEvent(event);
-}
-
 bool SpinBox::event(QEvent *event)
 {
-    if (event->type() == QEvent::WindowDeactivate && m_dragging)
+    if (endsGesture(event, this))
         abandonDrag();
     return QSpinBox::event(event);
 }

@@ -68,8 +68,6 @@ signals:
 protected:
     QString textFromValue(int value) const override;
     void paintEvent(QPaintEvent *event) override;
-    void changeEvent(QEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
     bool event(QEvent *event) override;
 
 private:

@@ -14,11 +14,6 @@
 
 namespace {
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Gallery", source);
-}
-
 /// A row of widgets in a cell of the page.
 QWidget *rowOf(const QVector<QWidget *> &widgets)
 {
@@ -34,7 +29,7 @@ QWidget *rowOf(const QVector<QWidget *> &widgets)
 CheckBox *checkBox(const char *caption, Qt::CheckState state)
 {
     auto *box = new CheckBox;
-    box->setText(text(caption));
+    box->setText(Gallery::tr(caption));
     box->setTristate(state == Qt::PartiallyChecked);
     box->setCheckState(state);
     return box;
@@ -62,8 +57,7 @@ QWidget *createRadioButtons()
     QVector<QWidget *> widgets;
     for (int id = 0; id < 3; ++id) {
         auto *button = new RadioButton;
-        button->setText(
-            text(QT_TRANSLATE_NOOP("Gallery", "Bus %1")).arg(QChar::fromLatin1(char('A' + id))));
+        button->setText(Gallery::tr("Bus %1").arg(QChar::fromLatin1(char('A' + id))));
         group->addButton(button, id);
         widgets << button;
     }
@@ -71,7 +65,7 @@ QWidget *createRadioButtons()
     QObject::connect(slider, &QSlider::valueChanged, group, &ButtonGroup::setValue);
 
     auto *disabled = new RadioButton;
-    disabled->setText(text(QT_TRANSLATE_NOOP("Gallery", "Disabled")));
+    disabled->setText(Gallery::tr("Disabled"));
     disabled->setEnabled(false);
     widgets << disabled << slider;
     return rowOf(widgets);
@@ -92,27 +86,27 @@ QWidget *createSwitches()
 QWidget *createDelayButtons()
 {
     auto *button = new DelayButton;
-    button->setText(text(QT_TRANSLATE_NOOP("Gallery", "Half a second")));
+    button->setText(Gallery::tr("Half a second"));
     button->setCheckable(true);
 
     auto *slow = new DelayButton;
-    slow->setText(text(QT_TRANSLATE_NOOP("Gallery", "Two seconds")));
+    slow->setText(Gallery::tr("Two seconds"));
     slow->setCheckable(true);
     slow->setDelay(2000);
 
     auto *tool = new DelayToolButton;
-    tool->setText(text(QT_TRANSLATE_NOOP("Gallery", "Tool button")));
+    tool->setText(Gallery::tr("Tool button"));
     tool->setCheckable(true);
 
     auto *plain = new DelayButton;
-    plain->setText(text(QT_TRANSLATE_NOOP("Gallery", "Not checkable: no delay")));
+    plain->setText(Gallery::tr("Not checkable: no delay"));
     return rowOf({button, slow, tool, plain});
 }
 
 QWidget *createLabels()
 {
     auto *label = new ClickableLabel;
-    label->setText(text(QT_TRANSLATE_NOOP("Gallery", "Click this label")));
+    label->setText(Gallery::tr("Click this label"));
     auto *counter = new QLabel(QStringLiteral("0"));
     QObject::connect(label, &ClickableLabel::clicked, counter,
                      [counter] { counter->setNum(counter->text().toInt() + 1); });
@@ -125,7 +119,7 @@ QWidget *createButtonsPage(QWidget *parent)
     auto *grid = new QGridLayout(page);
     int line = 0;
     const auto add = [grid, &line](const char *caption, QWidget *row) {
-        grid->addWidget(new QLabel(text(caption)), line, 0);
+        grid->addWidget(new QLabel(Gallery::tr(caption)), line, 0);
         grid->addWidget(row, line++, 1);
     };
     add(QT_TRANSLATE_NOOP("Gallery", "Check boxes"), createCheckBoxes());

@@ -18,11 +18,6 @@
 
 namespace {
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Gallery", source);
-}
-
 /// A landscape in shades of grey, tinted by a table of 256 colours.
 class TintedPicture : public QWidget
 {
@@ -66,8 +61,8 @@ private:
 
 QWidget *createRamp()
 {
-    auto *box = new QGroupBox(text("Ramp: press to add, drag to move, drag away to remove, "
-                                   "double-click for a colour"));
+    auto *box = new QGroupBox(Gallery::tr("Ramp: press to add, drag to move, drag away to remove, "
+                                          "double-click for a colour"));
     auto *column = new QVBoxLayout(box);
     auto *ramp = new GradientTool;
     ramp->setRamp({{0.0, QColor(12, 16, 48)},
@@ -89,7 +84,7 @@ QWidget *createRamp()
                      [ramp](int percent) { ramp->setOpacity(percent); });
     QObject::connect(ramp, &GradientTool::opacityValueChange, opacity,
                      [opacity](double percent) { opacity->setValue(qRound(percent)); });
-    row->addWidget(new QLabel(text("Opacity of the chosen colour")));
+    row->addWidget(new QLabel(Gallery::tr("Opacity of the chosen colour")));
     row->addWidget(opacity);
     row->addStretch();
 
@@ -101,18 +96,20 @@ QWidget *createRamp()
 
 QWidget *createButtons()
 {
-    auto *box = new QGroupBox(text("Buttons: click for a dialog, drag a colour onto another"));
+    auto *box =
+        new QGroupBox(Gallery::tr("Buttons: click for a dialog, drag a colour onto another"));
     auto *row = new QHBoxLayout(box);
     auto *heard = new QLabel(QStringLiteral("-"));
     const QColor colors[] = {QColor(230, 60, 50), QColor(60, 190, 90), QColor(65, 155, 249),
                              QColor(240, 200, 60)};
     for (const QColor &color : colors) {
         auto *button = new ColorButton(color);
-        QObject::connect(
-            button, &ColorButton::colorChanged, heard, [heard, button](double, bool complete) {
-                heard->setText(QStringLiteral("%1 %2").arg(
-                    button->color().name(), complete ? text("(accepted)") : text("(preview)")));
-            });
+        QObject::connect(button, &ColorButton::colorChanged, heard,
+                         [heard, button](double, bool complete) {
+                             heard->setText(QStringLiteral("%1 %2").arg(
+                                 button->color().name(),
+                                 complete ? Gallery::tr("(accepted)") : Gallery::tr("(preview)")));
+                         });
         row->addWidget(button);
     }
     auto *checked = new ColorButton(QColor(190, 90, 220));
@@ -120,7 +117,7 @@ QWidget *createButtons()
     checked->setChecked(true);
     row->addWidget(checked);
     auto *tool = new ColorToolButton;
-    tool->setText(text("Tool button"));
+    tool->setText(Gallery::tr("Tool button"));
     row->addWidget(tool);
     row->addWidget(heard);
     row->addStretch();
@@ -129,7 +126,7 @@ QWidget *createButtons()
 
 QWidget *createBars()
 {
-    auto *box = new QGroupBox(text("Bars and dots"));
+    auto *box = new QGroupBox(Gallery::tr("Bars and dots"));
     auto *row = new QHBoxLayout(box);
     const QColor colors[] = {QColor(230, 60, 50), QColor(60, 190, 90)};
     for (const QColor &color : colors) {
@@ -138,7 +135,7 @@ QWidget *createBars()
         bar->setColor(color);
         row->addWidget(bar);
     }
-    auto *blink = new QCheckBox(text("Blink"));
+    auto *blink = new QCheckBox(Gallery::tr("Blink"));
     for (const QColor &color : colors) {
         auto *dot = new ColorBar;
         dot->setFixedSize(24, 24);

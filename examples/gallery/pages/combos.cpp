@@ -12,20 +12,15 @@
 
 namespace {
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Gallery", source);
-}
-
 void addSources(ComboBox *combo)
 {
-    combo->addParentItem(text(QT_TRANSLATE_NOOP("Gallery", "Cameras")));
-    combo->addChildItem(text(QT_TRANSLATE_NOOP("Gallery", "Stage left")), 1);
-    combo->addChildItem(text(QT_TRANSLATE_NOOP("Gallery", "Stage right")), 2);
+    combo->addParentItem(Gallery::tr("Cameras"));
+    combo->addChildItem(Gallery::tr("Stage left"), 1);
+    combo->addChildItem(Gallery::tr("Stage right"), 2);
     combo->insertSeparator(combo->count());
-    combo->addParentItem(text(QT_TRANSLATE_NOOP("Gallery", "Clips")));
-    combo->addChildItem(text(QT_TRANSLATE_NOOP("Gallery", "Intro")), 3);
-    combo->addChildItem(text(QT_TRANSLATE_NOOP("Gallery", "Interview")), 4);
+    combo->addParentItem(Gallery::tr("Clips"));
+    combo->addChildItem(Gallery::tr("Intro"), 3);
+    combo->addChildItem(Gallery::tr("Interview"), 4);
     combo->setCurrentIndex(combo->findData(2));
 }
 
@@ -45,11 +40,15 @@ CheckComboBox *createCheckCombo(const QVector<Qt::CheckState> &states)
         QT_TRANSLATE_NOOP("Gallery", "Recorder"),
     };
     auto *combo = new CheckComboBox;
-    combo->setNoneCheckedText(text(QT_TRANSLATE_NOOP("Gallery", "No output")));
-    combo->setAllCheckedText(text(QT_TRANSLATE_NOOP("Gallery", "All outputs")));
-    combo->setUndeterminedText(text(QT_TRANSLATE_NOOP("Gallery", "Undetermined")));
-    for (int i = 0; i < states.size(); ++i)
-        combo->addCheckItem(text(outputs[i]), i, states.at(i));
+    combo->setNoneCheckedText(Gallery::tr("No output"));
+    combo->setAllCheckedText(Gallery::tr("All outputs"));
+    combo->setUndeterminedText(Gallery::tr("Undetermined"));
+    int output = 0;
+    for (const char *name : outputs) {
+        if (output < states.size())
+            combo->addCheckItem(Gallery::tr(name), output, states.at(output));
+        ++output;
+    }
     return combo;
 }
 
@@ -74,7 +73,7 @@ QWidget *createFontPreview()
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     auto *fonts = new FontComboBox;
-    auto *sample = new QLabel(text(QT_TRANSLATE_NOOP("Gallery", "Tonight live from the studio")));
+    auto *sample = new QLabel(Gallery::tr("Tonight live from the studio"));
     const auto show = [sample](QFont font) {
         font.setPointSize(16);
         sample->setFont(font);
@@ -93,7 +92,7 @@ QWidget *createCombosPage(QWidget *parent)
     auto *page = new QWidget(parent);
     auto *form = new QFormLayout(page);
     const auto add = [form](const char *caption, QWidget *field) {
-        form->addRow(text(caption), field);
+        form->addRow(Gallery::tr(caption), field);
     };
 
     add(QT_TRANSLATE_NOOP("Gallery", "Grouped"), createGroupedCombo());

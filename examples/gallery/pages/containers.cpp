@@ -20,11 +20,6 @@
 
 namespace {
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Gallery", source);
-}
-
 QLabel *centered(const QString &caption)
 {
     auto *label = new QLabel(caption);
@@ -57,7 +52,7 @@ QWidget *createFrames()
         frame->setFrameShadow(variety.shadow);
         frame->setMinimumHeight(56);
         auto *inside = new QVBoxLayout(frame);
-        inside->addWidget(centered(text(variety.caption)));
+        inside->addWidget(centered(Gallery::tr(variety.caption)));
         row->addWidget(frame);
     }
     return frames;
@@ -66,11 +61,11 @@ QWidget *createFrames()
 QWidget *createTabs()
 {
     auto *tabs = new TabWidget;
-    tabs->addTab(centered(text(QT_TRANSLATE_NOOP("Gallery", "Text tabs have one width; a tab "
-                                                            "without text fills the bar."))),
-                 text(QT_TRANSLATE_NOOP("Gallery", "Media")));
-    tabs->addTab(new QWidget, text(QT_TRANSLATE_NOOP("Gallery", "Effects")));
-    tabs->addTab(new QWidget, text(QT_TRANSLATE_NOOP("Gallery", "Audio")));
+    tabs->addTab(
+        centered(Gallery::tr("Text tabs have one width; a tab without text fills the bar.")),
+        Gallery::tr("Media"));
+    tabs->addTab(new QWidget, Gallery::tr("Effects"));
+    tabs->addTab(new QWidget, Gallery::tr("Audio"));
     tabs->addTab(new QWidget, QString());
     tabs->setMinimumHeight(90);
     return tabs;
@@ -79,8 +74,7 @@ QWidget *createTabs()
 QWidget *createSingleTab()
 {
     auto *tabs = new TabWidget;
-    tabs->addTab(centered(text(QT_TRANSLATE_NOOP("Gallery", "A single tab without text"))),
-                 QString());
+    tabs->addTab(centered(Gallery::tr("A single tab without text")), QString());
     tabs->setMinimumHeight(90);
     return tabs;
 }
@@ -92,13 +86,13 @@ QWidget *createGroups()
     row->setContentsMargins(0, 0, 0, 0);
     const auto add = [row](const char *title, bool checkable, bool checked) {
         auto *group = new GroupBox;
-        group->setTitle(text(title));
+        group->setTitle(Gallery::tr(title));
         group->setCheckable(checkable);
         group->setChecked(checked);
         auto *form = new QFormLayout(group);
         form->setContentsMargins(8, 38, 8, 8);
         auto *edit = new LineEdit;
-        edit->setPlaceholderText(text(QT_TRANSLATE_NOOP("Gallery", "Clip name")));
+        edit->setPlaceholderText(Gallery::tr("Clip name"));
         form->addRow(edit);
         row->addWidget(group);
     };
@@ -111,14 +105,12 @@ QWidget *createGroups()
 TreeWidget *createTree()
 {
     auto *tree = new TreeWidget;
-    tree->setHeaderLabels(
-        {text(QT_TRANSLATE_NOOP("Gallery", "Clip")), text(QT_TRANSLATE_NOOP("Gallery", "Length"))});
+    tree->setHeaderLabels({Gallery::tr("Clip"), Gallery::tr("Length")});
     tree->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     for (int bin = 1; bin <= 4; ++bin) {
-        auto *parent = new QTreeWidgetItem(
-            tree, {text(QT_TRANSLATE_NOOP("Gallery", "Bin %1")).arg(bin), QString()});
+        auto *parent = new QTreeWidgetItem(tree, {Gallery::tr("Bin %1").arg(bin), QString()});
         for (int clip = 1; clip <= 6; ++clip) {
-            const QString name = text(QT_TRANSLATE_NOOP("Gallery", "Clip %1")).arg(clip);
+            const QString name = Gallery::tr("Clip %1").arg(clip);
             new QTreeWidgetItem(parent, {name, QStringLiteral("00:0%1:00").arg(clip)});
         }
     }
@@ -150,10 +142,10 @@ QWidget *createDialAndMenu()
     dial->setValue(40);
     row->addWidget(dial);
 
-    auto *button = new QPushButton(text(QT_TRANSLATE_NOOP("Gallery", "Menu")));
+    auto *button = new QPushButton(Gallery::tr("Menu"));
     auto *menu = new Menu(button);
-    menu->addAction(text(QT_TRANSLATE_NOOP("Gallery", "Cut")));
-    menu->addAction(text(QT_TRANSLATE_NOOP("Gallery", "Dissolve")));
+    menu->addAction(Gallery::tr("Cut"));
+    menu->addAction(Gallery::tr("Dissolve"));
     QObject::connect(menu, &Menu::leaved, menu, &QMenu::close);
     button->setMenu(menu);
     row->addWidget(button);
@@ -164,7 +156,7 @@ QWidget *createDialAndMenu()
 QWidget *createStatusBar()
 {
     auto *bar = new StatusBar;
-    bar->addWidget(new QLabel(text(QT_TRANSLATE_NOOP("Gallery", "On air"))));
+    bar->addWidget(new QLabel(Gallery::tr("On air")));
     bar->addPermanentWidget(new QLabel(QStringLiteral("50p")));
     return bar;
 }

@@ -26,11 +26,6 @@ constexpr int frameMilliseconds = 40;
 constexpr int balloonMilliseconds = 8000;
 constexpr int cornerInset = 80;
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Gallery", source);
-}
-
 /// Stands in for a video preview: bars, and a ball that crosses them.
 class MovingPicture : public QWidget
 {
@@ -84,20 +79,21 @@ QWidget *createMessageBoxes()
         {QT_TRANSLATE_NOOP("Gallery", "Warning"), &QMessageBoxEx::warning},
         {QT_TRANSLATE_NOOP("Gallery", "Critical"), &QMessageBoxEx::critical},
     };
-    auto *box = new QGroupBox(text("Message boxes"));
+    auto *box = new QGroupBox(Gallery::tr("Message boxes"));
     auto *row = new QHBoxLayout(box);
     for (const Sample &sample : samples) {
-        auto *button = new QPushButton(text(sample.name));
+        auto *button = new QPushButton(Gallery::tr(sample.name));
         QObject::connect(button, &QPushButton::clicked, box, [box, sample] {
-            sample.open(box->window(), text(sample.name), text("Take the next cue live?"),
-                        QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+            sample.open(box->window(), Gallery::tr(sample.name),
+                        Gallery::tr("Take the next cue live?"), QMessageBox::Yes | QMessageBox::No,
+                        QMessageBox::Yes);
         });
         row->addWidget(button);
     }
-    auto *custom = new QPushButton(text("Use own button texts from now on"));
+    auto *custom = new QPushButton(Gallery::tr("Use own button texts from now on"));
     QObject::connect(custom, &QPushButton::clicked, box, [] {
-        QMessageBoxEx::setCustomTextForButton(QMessageBox::Yes, text("Take it live"));
-        QMessageBoxEx::setCustomTextForButton(QMessageBox::No, text("Hold"));
+        QMessageBoxEx::setCustomTextForButton(QMessageBox::Yes, Gallery::tr("Take it live"));
+        QMessageBoxEx::setCustomTextForButton(QMessageBox::No, Gallery::tr("Hold"));
     });
     row->addWidget(custom);
     row->addStretch();
@@ -106,9 +102,9 @@ QWidget *createMessageBoxes()
 
 QWidget *createBalloons()
 {
-    auto *box = new QGroupBox(text("Balloons"));
+    auto *box = new QGroupBox(Gallery::tr("Balloons"));
     auto *row = new QHBoxLayout(box);
-    auto *arrow = new QCheckBox(text("Arrow"));
+    auto *arrow = new QCheckBox(Gallery::tr("Arrow"));
     arrow->setChecked(true);
     row->addWidget(arrow);
     const char *const names[] = {
@@ -118,16 +114,16 @@ QWidget *createBalloons()
         QT_TRANSLATE_NOOP("Gallery", "Bottom right"),
     };
     for (int corner = 0; corner < 4; ++corner) {
-        auto *button = new QPushButton(text(names[corner]));
+        auto *button = new QPushButton(Gallery::tr(names[corner]));
         QObject::connect(button, &QPushButton::clicked, box, [arrow, corner, names] {
             const QRect screen = QGuiApplication::primaryScreen()->geometry().adjusted(
                 cornerInset, cornerInset, -cornerInset, -cornerInset);
             const QPoint positions[] = {screen.topLeft(), screen.topRight(), screen.bottomLeft(),
                                         screen.bottomRight()};
-            QBalloonTip::showBalloon(QSystemTrayIcon::Warning, text(names[corner]),
-                                     text("The recording disk has room for five more minutes."),
-                                     nullptr, positions[corner], balloonMilliseconds,
-                                     arrow->isChecked());
+            QBalloonTip::showBalloon(
+                QSystemTrayIcon::Warning, Gallery::tr(names[corner]),
+                Gallery::tr("The recording disk has room for five more minutes."), nullptr,
+                positions[corner], balloonMilliseconds, arrow->isChecked());
         });
         row->addWidget(button);
     }
@@ -137,28 +133,28 @@ QWidget *createBalloons()
 
 QWidget *createChoosers()
 {
-    auto *box = new QGroupBox(text("File choosers"));
+    auto *box = new QGroupBox(Gallery::tr("File choosers"));
     auto *form = new QFormLayout(box);
     auto *file = new FileChooser;
-    form->addRow(text("Media file"), file);
+    form->addRow(Gallery::tr("Media file"), file);
     auto *folder = new FileChooser;
     folder->setMode(FileChooser::OpenDirectory);
-    form->addRow(text("Folder"), folder);
+    form->addRow(Gallery::tr("Folder"), folder);
     auto *combo = new ComboFileChooser;
     combo->addItems({QStringLiteral("opener.mov"), QStringLiteral("loop.mp4")});
     combo->setOpenFileType(OpenVideoFile);
-    form->addRow(text("Recent videos"), combo);
+    form->addRow(Gallery::tr("Recent videos"), combo);
     auto *heard = new QLabel(QStringLiteral("-"));
     QObject::connect(file, &FileChooser::fileNameChanged, heard, &QLabel::setText);
     QObject::connect(folder, &FileChooser::fileNameChanged, heard, &QLabel::setText);
     QObject::connect(combo, &ComboFileChooser::fileNameChanged, heard, &QLabel::setText);
-    form->addRow(text("Reported"), heard);
+    form->addRow(Gallery::tr("Reported"), heard);
     return box;
 }
 
 QWidget *createLetterBox()
 {
-    auto *box = new QGroupBox(text("Letter box"));
+    auto *box = new QGroupBox(Gallery::tr("Letter box"));
     auto *column = new QVBoxLayout(box);
     auto *letterBox = new LetterBoxWidget;
     letterBox->setWidget(new MovingPicture);
@@ -176,9 +172,9 @@ QWidget *createLetterBox()
     margin->setValue(letterBox->margin());
     QObject::connect(margin, QOverload<int>::of(&QSpinBox::valueChanged), letterBox,
                      &LetterBoxWidget::setMargin);
-    row->addWidget(new QLabel(text("Resize delay")));
+    row->addWidget(new QLabel(Gallery::tr("Resize delay")));
     row->addWidget(delay);
-    row->addWidget(new QLabel(text("Margin")));
+    row->addWidget(new QLabel(Gallery::tr("Margin")));
     row->addWidget(margin);
     row->addStretch();
     column->addLayout(row);

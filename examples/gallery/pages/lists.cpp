@@ -11,14 +11,9 @@
 
 namespace {
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Gallery", source);
-}
-
 QString clipName(int number)
 {
-    return text(QT_TRANSLATE_NOOP("Gallery", "Clip %1")).arg(number);
+    return Gallery::tr("Clip %1").arg(number);
 }
 
 QWidget *captioned(const char *caption, const QList<QWidget *> &widgets)
@@ -26,7 +21,7 @@ QWidget *captioned(const char *caption, const QList<QWidget *> &widgets)
     auto *block = new QWidget;
     auto *column = new QVBoxLayout(block);
     column->setContentsMargins(4, 4, 4, 4);
-    column->addWidget(new QLabel(text(caption)));
+    column->addWidget(new QLabel(Gallery::tr(caption)));
     for (QWidget *widget : widgets)
         column->addWidget(widget);
     return block;
@@ -34,7 +29,7 @@ QWidget *captioned(const char *caption, const QList<QWidget *> &widgets)
 
 QLabel *hint(const char *source)
 {
-    auto *label = new QLabel(text(source));
+    auto *label = new QLabel(Gallery::tr(source));
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignTop | Qt::AlignLeading);
     return label;
@@ -63,11 +58,10 @@ QWidget *createDropTarget()
     auto *list = new ListWidget;
     list->setDragDropMode(QAbstractItemView::DropOnly);
     list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    list->addItem(text(QT_TRANSLATE_NOOP("Gallery", "Files you drop appear below")));
+    list->addItem(Gallery::tr("Files you drop appear below"));
     QObject::connect(list, &ListWidget::dragDropFiles, list, [list](const QStringList &files) {
         for (const QString &file : files) {
-            list->addItem(file.isEmpty() ? text(QT_TRANSLATE_NOOP("Gallery", "(not a local file)"))
-                                         : file);
+            list->addItem(file.isEmpty() ? Gallery::tr("(not a local file)") : file);
         }
         list->scrollToBottom();
     });
@@ -111,10 +105,9 @@ QWidget *createMoveLog()
                          list->takeItem(list->row(item));
                          list->insertItem(target ? list->row(target) : list->count(), item);
                          list->setCurrentItem(item);
-                         log->setText(text(QT_TRANSLATE_NOOP("Gallery", "%1 was dropped on %2."))
-                                          .arg(item->text(), target ? target->text()
-                                                                    : text(QT_TRANSLATE_NOOP(
-                                                                        "Gallery", "the end"))));
+                         const QString place = target ? target->text() : Gallery::tr("the end");
+                         log->setText(
+                             Gallery::tr("%1 was dropped on %2.").arg(item->text(), place));
                      });
     return captioned(QT_TRANSLATE_NOOP("Gallery", "Moves are reported, the host moves"),
                      {list, log});

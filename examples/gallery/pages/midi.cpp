@@ -21,18 +21,13 @@ constexpr int monitorInterval = 40; // ms between two updates of the list
 constexpr int streamInterval = 5;   // ms between two bursts of the simulated stream
 constexpr int streamBurst = 50;     // messages
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Gallery", source);
-}
-
 /// The last messages, as text. Takes any number of them: what arrives between two updates waits in
 /// a list that is no longer than the text can become.
 class Monitor : public QGroupBox
 {
 public:
     Monitor()
-        : QGroupBox(text("Received"))
+        : QGroupBox(Gallery::tr("Received"))
     {
         auto *layout = new QVBoxLayout(this);
         m_text->setReadOnly(true);
@@ -71,7 +66,7 @@ private:
         showTotal();
     }
 
-    void showTotal() { m_total->setText(text("%1 messages").arg(m_count)); }
+    void showTotal() { m_total->setText(Gallery::tr("%1 messages").arg(m_count)); }
 
     QPlainTextEdit *m_text = new QPlainTextEdit;
     QLabel *m_total = new QLabel;
@@ -98,7 +93,7 @@ private:
     Monitor *m_monitor = new Monitor;
     QMidiMessage m_binding;
     MidiSequenceEdit *m_field = new MidiSequenceEdit;
-    QPushButton *m_learn = new QPushButton(text("Learn"));
+    QPushButton *m_learn = new QPushButton(Gallery::tr("Learn"));
     QSlider *m_level = new QSlider(Qt::Horizontal);
     QTimer m_stream;
     int m_streamPosition = 0;
@@ -109,8 +104,8 @@ MidiPage::MidiPage(QWidget *parent)
 {
     auto *columns = new QHBoxLayout(this);
     auto *left = new QVBoxLayout;
-    left->addWidget(createPortBox(text("Input"), m_input, QStringLiteral("gallery in")));
-    left->addWidget(createPortBox(text("Output"), m_output, QStringLiteral("gallery out")));
+    left->addWidget(createPortBox(Gallery::tr("Input"), m_input, QStringLiteral("gallery in")));
+    left->addWidget(createPortBox(Gallery::tr("Output"), m_output, QStringLiteral("gallery out")));
     left->addWidget(createSendBox());
     left->addWidget(createLearnBox());
     left->addStretch(1);
@@ -128,9 +123,9 @@ QGroupBox *MidiPage::createPortBox(const QString &title, Port *port, const QStri
     auto *grid = new QGridLayout(box);
     auto *names = new QComboBox;
     auto *state = new QLabel;
-    auto *refresh = new QPushButton(text("Refresh"));
-    auto *open = new QPushButton(text("Open"));
-    auto *openVirtual = new QPushButton(text("Open a virtual port"));
+    auto *refresh = new QPushButton(Gallery::tr("Refresh"));
+    auto *open = new QPushButton(Gallery::tr("Open the port"));
+    auto *openVirtual = new QPushButton(Gallery::tr("Open a virtual port"));
 
     const auto list = [port, names, state, open] {
         names->clear();
@@ -138,18 +133,18 @@ QGroupBox *MidiPage::createPortBox(const QString &title, Port *port, const QStri
         const bool any = names->count() > 0;
         names->setEnabled(any);
         open->setEnabled(any);
-        state->setText(any ? text("No port is open.")
-                           : text("No MIDI service is running, or it has no port."));
+        state->setText(any ? Gallery::tr("No port is open.")
+                           : Gallery::tr("No MIDI service is running, or it has no port."));
     };
     connect(refresh, &QPushButton::clicked, box, list);
     connect(open, &QPushButton::clicked, box, [port, names, state] {
         const QString name = names->currentText();
-        state->setText(port->openPort(name) ? text("%1 is open.").arg(name)
-                                            : text("%1 is gone.").arg(name));
+        state->setText(port->openPort(name) ? Gallery::tr("%1 is open.").arg(name)
+                                            : Gallery::tr("%1 is gone.").arg(name));
     });
     connect(openVirtual, &QPushButton::clicked, box, [port, virtualName, state] {
         port->openVirtualPort(virtualName);
-        state->setText(text("Asked for the virtual port %1.").arg(virtualName));
+        state->setText(Gallery::tr("Asked for the virtual port %1.").arg(virtualName));
     });
 
     state->setWordWrap(true);
@@ -166,9 +161,9 @@ QGroupBox *MidiPage::createPortBox(const QString &title, Port *port, const QStri
 
 QGroupBox *MidiPage::createSendBox()
 {
-    auto *box = new QGroupBox(text("Send to the output"));
+    auto *box = new QGroupBox(Gallery::tr("Send to the output"));
     auto *layout = new QHBoxLayout(box);
-    auto *note = new QPushButton(text("Note (hold)"));
+    auto *note = new QPushButton(Gallery::tr("Note (hold)"));
     auto *controller = new QSlider(Qt::Horizontal);
     controller->setMaximum(127);
     connect(note, &QPushButton::pressed, this, [this] { m_output->sendNoteOn(1, 60, 100); });
@@ -176,18 +171,18 @@ QGroupBox *MidiPage::createSendBox()
     connect(controller, &QSlider::valueChanged, this,
             [this](int value) { m_output->sendControlChange(1, 7, static_cast<quint8>(value)); });
     layout->addWidget(note);
-    layout->addWidget(new QLabel(text("Controller 7")));
+    layout->addWidget(new QLabel(Gallery::tr("Controller 7")));
     layout->addWidget(controller, 1);
     return box;
 }
 
 QGroupBox *MidiPage::createLearnBox()
 {
-    auto *box = new QGroupBox(text("Learn a message for the level"));
+    auto *box = new QGroupBox(Gallery::tr("Learn a message for the level"));
     auto *grid = new QGridLayout(box);
-    auto *clear = new QPushButton(text("Clear"));
-    auto *undo = new QPushButton(text("Undo"));
-    auto *stream = new QPushButton(text("Simulate a stream of 10,000 messages a second"));
+    auto *clear = new QPushButton(Gallery::tr("Clear"));
+    auto *undo = new QPushButton(Gallery::tr("Undo"));
+    auto *stream = new QPushButton(Gallery::tr("Simulate a stream of 10,000 messages a second"));
     m_learn->setCheckable(true);
     stream->setCheckable(true);
     m_level->setMaximum(127);

@@ -17,11 +17,6 @@ namespace {
 constexpr int tickMilliseconds = 40;
 constexpr double startShare = 0.65;
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Gallery", source);
-}
-
 QFont fontOf(int pixels)
 {
     QFont font;
@@ -50,7 +45,7 @@ const RingSample ringSamples[] = {
 
 QWidget *createRings(QTimer *timer)
 {
-    auto *box = new QGroupBox(text("Rings"));
+    auto *box = new QGroupBox(Gallery::tr("Rings"));
     auto *row = new QHBoxLayout(box);
     for (const RingSample &sample : ringSamples) {
         auto *ring = new RoundProgressBar;
@@ -61,7 +56,7 @@ QWidget *createRings(QTimer *timer)
         ring->setBarStyle(sample.style);
         ring->setOutlinePenWidth(6);
         ring->setDataPenWidth(6);
-        ring->setTitle(text(sample.title), fontOf(13), fontOf(26), sample.unitMode ? 0.9 : 0,
+        ring->setTitle(Gallery::tr(sample.title), fontOf(13), fontOf(26), sample.unitMode ? 0.9 : 0,
                        sample.unitMode);
         const double step = sample.maximum / 200;
         QObject::connect(timer, &QTimer::timeout, ring, [ring, step] {
@@ -78,7 +73,7 @@ QWidget *createRings(QTimer *timer)
 
 QWidget *createBars(QTimer *timer)
 {
-    auto *box = new QGroupBox(text("Bars"));
+    auto *box = new QGroupBox(Gallery::tr("Bars"));
     auto *grid = new QGridLayout(box);
     const int shares[] = {0, 3, 50, 100};
     int row = 0;
@@ -103,7 +98,7 @@ QWidget *createBars(QTimer *timer)
 
 QWidget *createWheels()
 {
-    auto *box = new QGroupBox(text("Busy wheels"));
+    auto *box = new QGroupBox(Gallery::tr("Busy wheels"));
     auto *row = new QHBoxLayout(box);
     const int sides[] = {16, 20, 32, 40, 64};
     for (int side : sides) {
@@ -117,7 +112,7 @@ QWidget *createWheels()
     stopped->setFixedSize(40, 40);
     stopped->setColor(QColor(0xbb, 0xbb, 0xbb));
     row->addWidget(stopped);
-    auto *turn = new QCheckBox(text("Turn the grey one"));
+    auto *turn = new QCheckBox(Gallery::tr("Turn the grey one"));
     QObject::connect(turn, &QCheckBox::toggled, stopped, [stopped](bool on) {
         if (on)
             stopped->startAnimation();

@@ -32,13 +32,13 @@ QMenu *createMenu(QStyle *style, QWidget *parent)
     menu->setWindowFlags(Qt::Widget);
     menu->setStyle(style);
     for (const MenuEntry &entry : entries) {
-        QAction *action = menu->addAction(QCoreApplication::translate("Gallery", entry.text));
+        QAction *action = menu->addAction(Gallery::tr(entry.text));
         action->setShortcut(QKeySequence(QLatin1String(entry.shortcut)));
         action->setShortcutVisibleInContextMenu(true);
         action->setEnabled(entry.enabled);
     }
     menu->addSeparator();
-    menu->addAction(QCoreApplication::translate("Gallery", "Checked"))->setCheckable(true);
+    menu->addAction(Gallery::tr("Checked"))->setCheckable(true);
     menu->actions().constLast()->setChecked(true);
     // Higher than its items, so that the empty area shows.
     menu->setFixedHeight(menu->sizeHint().height() + 24);
@@ -51,7 +51,7 @@ QListWidget *createList(QStyle *style, QWidget *parent)
     list->setStyle(style);
     list->verticalScrollBar()->setStyle(style);
     for (int i = 1; i <= 30; ++i)
-        list->addItem(QCoreApplication::translate("Gallery", "Clip %1").arg(i));
+        list->addItem(Gallery::tr("Clip %1").arg(i));
     return list;
 }
 
@@ -63,9 +63,7 @@ QWidget *createProxyStylePage(QWidget *parent)
     for (const char *key : {"Fusion", "Windows"}) {
         auto *style = new DarkProxyStyle(QLatin1String(key));
         style->setParent(page);
-        grid->addWidget(
-            new QLabel(QCoreApplication::translate("Gallery", "Over %1").arg(QLatin1String(key))),
-            0, column);
+        grid->addWidget(new QLabel(Gallery::tr("Over %1").arg(QLatin1String(key))), 0, column);
         grid->addWidget(createMenu(style, page), 1, column, Qt::AlignTop | Qt::AlignLeading);
         grid->addWidget(createList(style, page), 2, column++);
     }

@@ -21,11 +21,6 @@ namespace {
 constexpr int longestLog = 500;
 constexpr int frameCount = 1500;
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Gallery", source);
-}
-
 /// Minutes, seconds and frames.
 QString timecode(int frame, double frameRate)
 {
@@ -141,7 +136,7 @@ void addPlayback(RangeSlider *slider, ClipStrip *strip, QPushButton *play)
 
 QCheckBox *addOption(QBoxLayout *layout, const char *name, bool checked)
 {
-    auto *box = new QCheckBox(text(name));
+    auto *box = new QCheckBox(Gallery::tr(name));
     box->setChecked(checked);
     layout->addWidget(box);
     return box;
@@ -149,18 +144,18 @@ QCheckBox *addOption(QBoxLayout *layout, const char *name, bool checked)
 
 QGroupBox *createTimeline(QPlainTextEdit *log)
 {
-    auto *box = new QGroupBox(text("Trim a clip"));
+    auto *box = new QGroupBox(Gallery::tr("Trim a clip"));
     auto *layout = new QVBoxLayout(box);
     auto *slider = new RangeSlider(Qt::Horizontal);
     slider->setRange(0, frameCount);
     slider->setEnableRange(true);
-    slider->setHandleToolTip(text("Frame %1"));
+    slider->setHandleToolTip(Gallery::tr("Frame %1"));
     slider->setValues(250, 1200, 600);
     auto *strip = new ClipStrip(slider);
     auto *times = new QLabel;
     const auto showTimes = [slider, times] {
         const double rate = slider->frameRate();
-        times->setText(text("In %1   Out %2   Length %3")
+        times->setText(Gallery::tr("In %1   Out %2   Length %3")
                            .arg(timecode(slider->minimumValue(), rate),
                                 timecode(slider->maximumValue(), rate),
                                 timecode(slider->maximumValue() - slider->minimumValue(), rate)));
@@ -170,7 +165,7 @@ QGroupBox *createTimeline(QPlainTextEdit *log)
     showTimes();
 
     auto *options = new QHBoxLayout;
-    auto *play = new QPushButton(text("Play"));
+    auto *play = new QPushButton(Gallery::tr("Play"));
     options->addWidget(play);
     QCheckBox *range = addOption(options, QT_TRANSLATE_NOOP("Gallery", "Range handles"), true);
     QCheckBox *symmetric =
@@ -211,7 +206,7 @@ SpanSlider *createSpan(SpanSlider::HandleMovementMode mode, Qt::Orientation orie
 
 QGroupBox *createSpans(QPlainTextEdit *log)
 {
-    auto *box = new QGroupBox(text("Spans"));
+    auto *box = new QGroupBox(Gallery::tr("Spans"));
     auto *form = new QFormLayout(box);
     struct Mode
     {
@@ -224,16 +219,16 @@ QGroupBox *createSpans(QPlainTextEdit *log)
         {SpanSlider::NoOverlapping, QT_TRANSLATE_NOOP("Gallery", "Handles keep apart")},
     };
     for (const Mode &mode : modes) {
-        const QString name = text(mode.name);
+        const QString name = Gallery::tr(mode.name);
         form->addRow(name, createSpan(mode.mode, Qt::Horizontal, name, log));
     }
-    const QString ticked = text("With tick marks");
+    const QString ticked = Gallery::tr("With tick marks");
     auto *ticks = createSpan(SpanSlider::FreeMovement, Qt::Horizontal, ticked, log);
     ticks->setTickPosition(QSlider::TicksBelow);
     form->addRow(ticked, ticks);
 
     auto *upright = new QHBoxLayout;
-    const QString vertical = text("Vertical");
+    const QString vertical = Gallery::tr("Vertical");
     upright->addWidget(createSpan(SpanSlider::FreeMovement, Qt::Vertical, vertical, log));
     for (bool range : {true, false}) {
         auto *slider = new RangeSlider(Qt::Vertical);

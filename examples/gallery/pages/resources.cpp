@@ -1,12 +1,11 @@
+#include "gallerylanguage.h"
 #include "gallerypage.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QLocale>
-#include <QtCore/QTranslator>
 #include <QtGui/QFont>
 #include <QtGui/QIcon>
 #include <QtGui/QPainter>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QHBoxLayout>
@@ -20,30 +19,7 @@ namespace {
 constexpr int pathRole = Qt::UserRole;
 constexpr QSize previewSize(320, 200);
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Gallery", source);
-}
-
 // -- Catalogues -------------------------------------------------------------------------------
-
-QTranslator *installedTranslator()
-{
-    return qApp->findChild<QTranslator *>(QString(), Qt::FindDirectChildrenOnly);
-}
-
-/// Replaces the catalogue the gallery runs in; an empty path is back to the source texts.
-void installCatalogue(const QString &path)
-{
-    delete installedTranslator();
-    if (path.isEmpty())
-        return;
-    auto *translator = new QTranslator(qApp);
-    if (translator->load(path))
-        QCoreApplication::installTranslator(translator);
-    else
-        delete translator;
-}
 
 /// "ko_KR-Heron" as "한국어 (Heron)".
 QString catalogueTitle(const QString &name)
@@ -57,13 +33,11 @@ QComboBox *createLanguageBox()
 {
     auto *box = new QComboBox;
     box->addItem(QStringLiteral("English"), QString());
-    const QDir locales(QStringLiteral(":/resources/locales"));
-    for (const QFileInfo &catalogue : locales.entryInfoList(QDir::Files, QDir::Name))
+    for (const QFileInfo &catalogue : galleryCatalogues())
         box->addItem(catalogueTitle(catalogue.completeBaseName()), catalogue.filePath());
-    if (const QTranslator *translator = installedTranslator())
-        box->setCurrentIndex(qMax(0, box->findData(translator->filePath())));
+    box->setCurrentIndex(qMax(0, box->findData(galleryCatalogue())));
     QObject::connect(box, QOverload<int>::of(&QComboBox::activated), box,
-                     [box](int index) { installCatalogue(box->itemData(index).toString()); });
+                     [box](int index) { setGalleryCatalogue(box->itemData(index).toString()); });
     return box;
 }
 
@@ -139,8 +113,7 @@ void showMatches(QListWidget *list, const QString &filter, QLabel *count)
         item->setHidden(!matches);
         shown += matches;
     }
-    count->setText(
-        text(QT_TRANSLATE_NOOP("Gallery", "%1 of %2 images")).arg(shown).arg(list->count()));
+    count->setText(Gallery::tr("%1 of %2 images").arg(shown).arg(list->count()));
 }
 
 void showDetails(const QListWidgetItem *item, QLabel *picture, QLabel *details)
@@ -157,7 +130,7 @@ QWidget *createResourcesPage(QWidget *parent)
 {
     auto *page = new QWidget(parent);
     auto *filter = new QLineEdit;
-    filter->setPlaceholderText(text(QT_TRANSLATE_NOOP("Gallery", "Filter by name")));
+    filter->setPlaceholderText(Gallery::tr("Filter by name"));
     filter->setClearButtonEnabled(true);
     auto *count = new QLabel;
     auto *list = createIconList();
@@ -167,8 +140,8 @@ QWidget *createResourcesPage(QWidget *parent)
     details->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     auto *form = new QFormLayout;
-    form->addRow(text(QT_TRANSLATE_NOOP("Gallery", "Language")), createLanguageBox());
-    form->addRow(text(QT_TRANSLATE_NOOP("Gallery", "Texts of the library")), createLibraryTexts());
+    form->addRow(Gallery::tr("Language"), createLanguageBox());
+    form->addRow(Gallery::tr("Texts of the library"), createLibraryTexts());
 
     auto *side = new QVBoxLayout;
     side->addLayout(form);

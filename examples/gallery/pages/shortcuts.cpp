@@ -14,14 +14,9 @@ namespace {
 
 constexpr int longestLog = 500;
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Gallery", source);
-}
-
 QPushButton *addButton(QGridLayout *grid, int row, int column, const char *name)
 {
-    auto *button = new QPushButton(text(name));
+    auto *button = new QPushButton(Gallery::tr(name));
     grid->addWidget(button, row, column);
     return button;
 }
@@ -31,14 +26,15 @@ KeySequenceEdit *addShortcut(QGridLayout *grid, const char *name, const char *ke
                              QPlainTextEdit *log)
 {
     const int row = grid->rowCount();
-    const QString title = text(name);
+    const QString title = Gallery::tr(name);
     const QKeySequence standard(QLatin1String{keys});
 
     auto *action = new QAction(title, page);
     action->setShortcut(standard);
     page->addAction(action);
-    QObject::connect(action, &QAction::triggered, log,
-                     [log, title] { log->appendPlainText(text("%1: triggered").arg(title)); });
+    QObject::connect(action, &QAction::triggered, log, [log, title] {
+        log->appendPlainText(Gallery::tr("%1: triggered").arg(title));
+    });
 
     auto *field = new KeySequenceEdit;
     field->setMinimumSize(160, 26);
@@ -78,7 +74,7 @@ QWidget *createShortcutsPage(QWidget *parent)
     log->setReadOnly(true);
     log->setMaximumBlockCount(longestLog);
 
-    auto *box = new QGroupBox(text("Click a field, then press the keys"));
+    auto *box = new QGroupBox(Gallery::tr("Click a field, then press the keys"));
     auto *grid = new QGridLayout(box);
     addShortcut(grid, QT_TRANSLATE_NOOP("Gallery", "Play"), "F5", page, log);
     addShortcut(grid, QT_TRANSLATE_NOOP("Gallery", "Stop"), "Shift+F5", page, log);
@@ -87,9 +83,9 @@ QWidget *createShortcutsPage(QWidget *parent)
     KeySequenceEdit *disabled =
         addShortcut(grid, QT_TRANSLATE_NOOP("Gallery", "Disabled"), "Ctrl+Alt+D", page, log);
     disabled->setEnabled(false);
-    auto *hint =
-        new QLabel(text("The shortcuts are those of this page. They work as long as no field has "
-                        "the focus."));
+    auto *hint = new QLabel(
+        Gallery::tr("The shortcuts are those of this page. They work as long as no field has "
+                    "the focus."));
     hint->setWordWrap(true);
     grid->addWidget(hint, grid->rowCount(), 0, 1, 5);
     grid->setRowStretch(grid->rowCount(), 1);

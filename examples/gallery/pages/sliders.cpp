@@ -14,11 +14,6 @@ namespace {
 
 constexpr int longestLog = 500;
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Gallery", source);
-}
-
 /// Lets \a log show what \a slider reports.
 void logSignals(Slider *slider, const QString &name, QPlainTextEdit *log)
 {
@@ -44,8 +39,8 @@ Slider *addSlider(QFormLayout *form, const char *name, int value, QPlainTextEdit
 {
     auto *slider = new Slider(Qt::Horizontal);
     slider->setValue(value);
-    form->addRow(text(name), slider);
-    logSignals(slider, text(name), log);
+    form->addRow(Gallery::tr(name), slider);
+    logSignals(slider, Gallery::tr(name), log);
     return slider;
 }
 
@@ -57,7 +52,7 @@ QWidget *createSlidersPage(QWidget *parent)
     log->setReadOnly(true);
     log->setMaximumBlockCount(longestLog);
 
-    auto *box = new QGroupBox(text("Click to jump, drag, hover"));
+    auto *box = new QGroupBox(Gallery::tr("Click to jump, drag, hover"));
     auto *form = new QFormLayout(box);
     Slider *level = addSlider(form, QT_TRANSLATE_NOOP("Gallery", "Level"), 60, log);
     addSlider(form, QT_TRANSLATE_NOOP("Gallery", "With tick marks"), 30, log)
@@ -67,7 +62,7 @@ QWidget *createSlidersPage(QWidget *parent)
         ->setEnableDirectJump(false);
     addSlider(form, QT_TRANSLATE_NOOP("Gallery", "Disabled"), 45, log)->setEnabled(false);
 
-    auto *silent = new QPushButton(text("Set the level to 30 without a signal"));
+    auto *silent = new QPushButton(Gallery::tr("Set the level to 30 without a signal"));
     QObject::connect(silent, &QPushButton::clicked, level, [level] { level->positionChange(30); });
     form->addRow(silent);
 
@@ -77,11 +72,11 @@ QWidget *createSlidersPage(QWidget *parent)
         fader->setValue(value);
         fader->setMinimumHeight(160);
         fader->setEnableDirectJump(false); // A jump would go by x.
-        logSignals(fader, text("Fader"), log);
+        logSignals(fader, Gallery::tr("Fader"), log);
         faders->addWidget(fader);
     }
     faders->addStretch();
-    form->addRow(text("Faders"), faders);
+    form->addRow(Gallery::tr("Faders"), faders);
 
     columns->addWidget(box, 1);
     columns->addWidget(log, 1);

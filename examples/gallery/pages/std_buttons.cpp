@@ -14,8 +14,10 @@ QStringList poseNames()
             Gallery::tr("Focused"), Gallery::tr("Disabled")};
 }
 
-const QVector<Pose> poses = {Poses::normal, Poses::hovered, Poses::pressed, Poses::focused,
-                             Poses::disabled};
+QVector<Pose> allPoses()
+{
+    return {Poses::normal, Poses::hovered, Poses::pressed, Poses::focused, Poses::disabled};
+}
 
 QMenu *sampleMenu(QWidget *parent)
 {
@@ -29,7 +31,7 @@ void addPushButtons(SampleSheet *sheet)
 {
     sheet->addHeading(Gallery::tr("Push buttons"), poseNames());
     const auto add = [sheet](const QString &label, auto setUp) {
-        addPoses<QPushButton>(sheet, label, poses, [setUp](QPushButton *button) {
+        addPoses<QPushButton>(sheet, label, allPoses(), [setUp](QPushButton *button) {
             button->setText(Gallery::tr("Take"));
             button->setAutoDefault(false);
             setUp(button);
@@ -54,7 +56,7 @@ void addToolButtons(SampleSheet *sheet)
 {
     sheet->addHeading(Gallery::tr("Tool buttons"), poseNames());
     const auto add = [sheet](const QString &label, auto setUp) {
-        addPoses<QToolButton>(sheet, label, poses, [setUp](QToolButton *button) {
+        addPoses<QToolButton>(sheet, label, allPoses(), [setUp](QToolButton *button) {
             button->setText(Gallery::tr("Record"));
             button->setIcon(sampleIcon());
             setUp(button);
@@ -94,7 +96,7 @@ void addCheckBoxes(SampleSheet *sheet)
 {
     sheet->addHeading(Gallery::tr("Check boxes and radio buttons"), poseNames());
     const auto addCheck = [sheet](const QString &label, Qt::CheckState state) {
-        addPoses<QCheckBox>(sheet, label, poses, [state](QCheckBox *box) {
+        addPoses<QCheckBox>(sheet, label, allPoses(), [state](QCheckBox *box) {
             box->setText(Gallery::tr("Loop"));
             box->setTristate(state == Qt::PartiallyChecked);
             box->setCheckState(state);
@@ -104,8 +106,8 @@ void addCheckBoxes(SampleSheet *sheet)
     addCheck(Gallery::tr("Partially checked"), Qt::PartiallyChecked);
     addCheck(Gallery::tr("Checked"), Qt::Checked);
     for (bool on : {false, true}) {
-        addPoses<QRadioButton>(sheet, on ? Gallery::tr("Chosen") : Gallery::tr("Not chosen"), poses,
-                               [on](QRadioButton *button) {
+        addPoses<QRadioButton>(sheet, on ? Gallery::tr("Chosen") : Gallery::tr("Not chosen"),
+                               allPoses(), [on](QRadioButton *button) {
                                    button->setText(Gallery::tr("Bus A"));
                                    button->setAutoExclusive(false);
                                    button->setChecked(on);

@@ -65,7 +65,7 @@ public:
         : m_text(text)
         , m_state(state)
     {
-        setFixedSize(90, 24);
+        setFixedSize(qMax(90, fontMetrics().horizontalAdvance(text) + 20), 24);
     }
 
 protected:

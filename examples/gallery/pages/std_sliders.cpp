@@ -5,7 +5,10 @@
 
 namespace {
 
-const QVector<Pose> poses = {Poses::normal, Poses::hovered, Poses::focused, Poses::disabled};
+QVector<Pose> allPoses()
+{
+    return {Poses::normal, Poses::hovered, Poses::focused, Poses::disabled};
+}
 
 QStringList poseNames()
 {
@@ -50,13 +53,13 @@ void addSliders(SampleSheet *sheet, Qt::Orientation orientation)
 {
     const auto &ticks = orientation == Qt::Horizontal ? horizontalTicks : verticalTicks;
     for (const Ticks &tick : ticks) {
-        addPoses<QSlider>(sheet, Gallery::tr(tick.name), poses, [&](QSlider *slider) {
+        addPoses<QSlider>(sheet, Gallery::tr(tick.name), allPoses(), [&](QSlider *slider) {
             setUpSlider(slider, orientation, tick.position);
         });
     }
     const QString inverted =
         orientation == Qt::Horizontal ? Gallery::tr("Inverted") : Gallery::tr("Vertical, inverted");
-    addPoses<QSlider>(sheet, inverted, poses, [&](QSlider *slider) {
+    addPoses<QSlider>(sheet, inverted, allPoses(), [&](QSlider *slider) {
         setUpSlider(slider, orientation, QSlider::NoTicks);
         slider->setInvertedAppearance(true);
     });
@@ -78,7 +81,7 @@ void addDials(SampleSheet *sheet)
 {
     sheet->addHeading(Gallery::tr("Dials"), poseNames());
     const auto add = [sheet](const QString &label, auto setUp) {
-        addPoses<QDial>(sheet, label, poses, [setUp](QDial *dial) {
+        addPoses<QDial>(sheet, label, allPoses(), [setUp](QDial *dial) {
             dial->setValue(30);
             dial->setFixedSize(70, 70);
             setUp(dial);

@@ -8,11 +8,6 @@
 
 namespace {
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Gallery", source);
-}
-
 CroppingLabel *createLabel(const QString &name, int width, Qt::TextElideMode mode)
 {
     auto *label = new CroppingLabel;
@@ -29,17 +24,17 @@ QWidget *createTextFieldsPage(QWidget *parent)
     auto *page = new QWidget(parent);
     auto *form = new QFormLayout(page);
     const auto add = [form](const char *caption, QWidget *field) {
-        form->addRow(text(caption), field);
+        form->addRow(Gallery::tr(caption), field);
     };
 
     auto *empty = new SearchLineEdit;
-    empty->setPlaceholderText(text(QT_TRANSLATE_NOOP("Gallery", "Search")));
+    empty->setPlaceholderText(Gallery::tr("Search"));
     add(QT_TRANSLATE_NOOP("Gallery", "Search field, empty"), empty);
     auto *filled = new SearchLineEdit;
-    filled->setText(text(QT_TRANSLATE_NOOP("Gallery", "interview")));
+    filled->setText(Gallery::tr("interview"));
     add(QT_TRANSLATE_NOOP("Gallery", "Search field, with text"), filled);
 
-    const QString name = text(QT_TRANSLATE_NOOP("Gallery", "Opening titles, second version"));
+    const QString name = Gallery::tr("Opening titles, second version");
     add(QT_TRANSLATE_NOOP("Gallery", "Label that fits"), createLabel(name, 300, Qt::ElideRight));
     add(QT_TRANSLATE_NOOP("Gallery", "Cropped at the right"),
         createLabel(name, 110, Qt::ElideRight));
@@ -53,10 +48,10 @@ QWidget *createTextFieldsPage(QWidget *parent)
 
     CroppingLabel *edited = createLabel(name, 300, Qt::ElideRight);
     add(QT_TRANSLATE_NOOP("Gallery", "Being edited"), edited);
-    auto *log = new QLabel(text(QT_TRANSLATE_NOOP("Gallery", "Click a name to edit it.")));
+    auto *log = new QLabel(Gallery::tr("Click a name to edit it."));
     for (CroppingLabel *label : page->findChildren<CroppingLabel *>()) {
         QObject::connect(label, &CroppingLabel::editFinished, log, [log](const QString &typed) {
-            log->setText(text(QT_TRANSLATE_NOOP("Gallery", "Renamed to \"%1\"")).arg(typed));
+            log->setText(Gallery::tr("Renamed to \"%1\"").arg(typed));
         });
     }
     form->addRow(QString(), log);

@@ -47,7 +47,7 @@ QWidget *createThemePage(QWidget *parent)
     };
     int column = 0;
     for (const char *heading : headings)
-        grid->addWidget(new QLabel(QCoreApplication::translate("Gallery", heading)), 0, column++);
+        grid->addWidget(new QLabel(Gallery::tr(heading)), 0, column++);
 
     int row = 1;
     const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
@@ -63,9 +63,7 @@ QWidget *createThemePage(QWidget *parent)
         ++row;
     }
     for (auto it = theme.backgroundColor().cbegin(); it != theme.backgroundColor().cend(); ++it) {
-        grid->addWidget(
-            new QLabel(QCoreApplication::translate("Gallery", "Background %1").arg(it.key())), row,
-            0);
+        grid->addWidget(new QLabel(Gallery::tr("Background %1").arg(it.key())), row, 0);
         grid->addWidget(new Swatch(it.value(), page), row++, 1);
     }
     grid->setRowStretch(row, 1);

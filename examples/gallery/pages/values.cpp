@@ -13,24 +13,20 @@ namespace {
 
 constexpr int longestLog = 500;
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Gallery", source);
-}
-
 SpinBox *addSpinBox(QFormLayout *form, const char *name, int minimum, int maximum, int value,
                     QPlainTextEdit *log)
 {
     auto *spinBox = new SpinBox;
     spinBox->setRange(minimum, maximum);
     spinBox->setValue(value);
-    const QString label = text(name);
+    const QString label = Gallery::tr(name);
     QObject::connect(spinBox, QOverload<double, bool>::of(&SpinBox::valueChanged), log,
                      [log, label](double changed, bool first) {
-                         log->appendPlainText(QStringLiteral("%1: %2 %3")
-                                                  .arg(label)
-                                                  .arg(changed)
-                                                  .arg(first ? text("(new edit)") : QString()));
+                         log->appendPlainText(
+                             QStringLiteral("%1: %2 %3")
+                                 .arg(label)
+                                 .arg(changed)
+                                 .arg(first ? Gallery::tr("(new edit)") : QString()));
                      });
     form->addRow(label, spinBox);
     return spinBox;
@@ -44,7 +40,7 @@ QWidget *createValuesPage(QWidget *parent)
     log->setReadOnly(true);
     log->setMaximumBlockCount(longestLog);
 
-    auto *box = new QGroupBox(text("Drag across a number; click it to type"));
+    auto *box = new QGroupBox(Gallery::tr("Drag across a number; click it to type"));
     auto *form = new QFormLayout(box);
     addSpinBox(form, QT_TRANSLATE_NOOP("Gallery", "Position X"), -1920, 1920, 0, log);
     addSpinBox(form, QT_TRANSLATE_NOOP("Gallery", "Position Y"), -1080, 1080, 120, log);
@@ -54,9 +50,9 @@ QWidget *createValuesPage(QWidget *parent)
     mixed->setValue(30, true);
     SpinBox *disabled = addSpinBox(form, QT_TRANSLATE_NOOP("Gallery", "Disabled"), 0, 255, 42, log);
     disabled->setEnabled(false);
-    form->addRow(new QLabel(text("Ctrl doubles the speed of a drag, Shift halves it.")));
+    form->addRow(new QLabel(Gallery::tr("Ctrl doubles the speed of a drag, Shift halves it.")));
 
-    auto *relative = new QPushButton(text("Show the mixed selection as --"));
+    auto *relative = new QPushButton(Gallery::tr("Show the mixed selection as --"));
     QObject::connect(relative, &QPushButton::clicked, mixed,
                      [mixed] { mixed->setValue(mixed->value(), true); });
     form->addRow(relative);

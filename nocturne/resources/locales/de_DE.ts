@@ -278,10 +278,6 @@
         <translation>Flach</translation>
     </message>
     <message>
-        <source>Flat default</source>
-        <translation>Flach, Standard</translation>
-    </message>
-    <message>
         <source>Focused</source>
         <translation>Mit Fokus</translation>
     </message>
@@ -595,7 +591,7 @@
     </message>
     <message>
         <source>Unchecked</source>
-        <translation>Nicht angekreuzt</translation>
+        <translation>Ohne Kreuz</translation>
     </message>
     <message>
         <source>Up hovered</source>
@@ -1010,6 +1006,530 @@ Nach Schwarz blenden.</translation>
     <message>
         <source>With an icon</source>
         <translation>Mit Symbol</translation>
+    </message>
+    <message>
+        <source>Ramp: press to add, drag to move, drag away to remove, double-click for a colour</source>
+        <translation>Verlauf: drücken zum Hinzufügen, ziehen zum Verschieben, wegziehen zum Entfernen, doppelklicken für eine Farbe</translation>
+    </message>
+    <message>
+        <source>Opacity of the chosen colour</source>
+        <translation>Deckkraft der gewählten Farbe</translation>
+    </message>
+    <message>
+        <source>Buttons: click for a dialog, drag a colour onto another</source>
+        <translation>Schaltflächen: klicken für einen Dialog, eine Farbe auf eine andere ziehen</translation>
+    </message>
+    <message>
+        <source>(accepted)</source>
+        <translation>(übernommen)</translation>
+    </message>
+    <message>
+        <source>(preview)</source>
+        <translation>(Vorschau)</translation>
+    </message>
+    <message>
+        <source>Bars and dots</source>
+        <translation>Balken und Punkte</translation>
+    </message>
+    <message>
+        <source>Blink</source>
+        <translation>Blinken</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kameras</translation>
+    </message>
+    <message>
+        <source>Stage left</source>
+        <translation>Bühne links</translation>
+    </message>
+    <message>
+        <source>Stage right</source>
+        <translation>Bühne rechts</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clips</translation>
+    </message>
+    <message>
+        <source>Intro</source>
+        <translation>Intro</translation>
+    </message>
+    <message>
+        <source>Interview</source>
+        <translation>Interview</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>Rekorder</translation>
+    </message>
+    <message>
+        <source>No output</source>
+        <translation>Kein Ausgang</translation>
+    </message>
+    <message>
+        <source>All outputs</source>
+        <translation>Alle Ausgänge</translation>
+    </message>
+    <message>
+        <source>Undetermined</source>
+        <translation>Unbestimmt</translation>
+    </message>
+    <message>
+        <source>Tonight live from the studio</source>
+        <translation>Heute Abend live aus dem Studio</translation>
+    </message>
+    <message>
+        <source>Grouped</source>
+        <translation>Gruppiert</translation>
+    </message>
+    <message>
+        <source>Its list</source>
+        <translation>Ihre Liste</translation>
+    </message>
+    <message>
+        <source>None checked</source>
+        <translation>Nichts angekreuzt</translation>
+    </message>
+    <message>
+        <source>Some checked</source>
+        <translation>Einige angekreuzt</translation>
+    </message>
+    <message>
+        <source>All checked</source>
+        <translation>Alle angekreuzt</translation>
+    </message>
+    <message>
+        <source>Without items</source>
+        <translation>Ohne Einträge</translation>
+    </message>
+    <message>
+        <source>Their list</source>
+        <translation>Deren Liste</translation>
+    </message>
+    <message>
+        <source>Font with preview</source>
+        <translation>Schrift mit Vorschau</translation>
+    </message>
+    <message>
+        <source>Grouped and check combo boxes</source>
+        <translation>Kombinationsfelder mit Gruppen und Kästchen</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Frage</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Kritisch</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Meldungsfenster</translation>
+    </message>
+    <message>
+        <source>Take the next cue live?</source>
+        <translation>Den nächsten Cue live nehmen?</translation>
+    </message>
+    <message>
+        <source>Use own button texts from now on</source>
+        <translation>Ab jetzt eigene Tastentexte verwenden</translation>
+    </message>
+    <message>
+        <source>Take it live</source>
+        <translation>Live nehmen</translation>
+    </message>
+    <message>
+        <source>Balloons</source>
+        <translation>Sprechblasen</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Pfeil</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>The recording disk has room for five more minutes.</source>
+        <translation>Auf dem Aufnahmelaufwerk ist Platz für noch fünf Minuten.</translation>
+    </message>
+    <message>
+        <source>File choosers</source>
+        <translation>Dateiwähler</translation>
+    </message>
+    <message>
+        <source>Media file</source>
+        <translation>Mediendatei</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Recent videos</source>
+        <translation>Letzte Videos</translation>
+    </message>
+    <message>
+        <source>Reported</source>
+        <translation>Gemeldet</translation>
+    </message>
+    <message>
+        <source>Letter box</source>
+        <translation>Letterbox</translation>
+    </message>
+    <message>
+        <source>Resize delay</source>
+        <translation>Verzögerung beim Ändern der Größe</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Rand</translation>
+    </message>
+    <message>
+        <source>Dialogs and pickers</source>
+        <translation>Dialoge und Auswahlfelder</translation>
+    </message>
+    <message>
+        <source>Files you drop appear below</source>
+        <translation>Abgelegte Dateien erscheinen unten</translation>
+    </message>
+    <message>
+        <source>(not a local file)</source>
+        <translation>(keine lokale Datei)</translation>
+    </message>
+    <message>
+        <source>Drop files here</source>
+        <translation>Dateien hier ablegen</translation>
+    </message>
+    <message>
+        <source>Icons with the item delegate</source>
+        <translation>Symbole mit dem Elementdelegaten</translation>
+    </message>
+    <message>
+        <source>Drag a clip onto another.</source>
+        <translation>Einen Clip auf einen anderen ziehen.</translation>
+    </message>
+    <message>
+        <source>the end</source>
+        <translation>Ende der Liste</translation>
+    </message>
+    <message>
+        <source>%1 was dropped on %2.</source>
+        <translation>%1 abgelegt auf: %2.</translation>
+    </message>
+    <message>
+        <source>Moves are reported, the host moves</source>
+        <translation>Verschieben wird gemeldet, die Anwendung verschiebt</translation>
+    </message>
+    <message>
+        <source>Rows dragged as they look</source>
+        <translation>Zeilen so gezogen, wie sie aussehen</translation>
+    </message>
+    <message>
+        <source>Drag the selected rows.</source>
+        <translation>Die ausgewählten Zeilen ziehen.</translation>
+    </message>
+    <message>
+        <source>Lists to drag and drop</source>
+        <translation>Listen zum Ziehen und Ablegen</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Empfangen</translation>
+    </message>
+    <message>
+        <source>%1 messages</source>
+        <translation>%1 Nachrichten</translation>
+    </message>
+    <message>
+        <source>Learn</source>
+        <translation>Lernen</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Eingang</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Open a virtual port</source>
+        <translation>Virtuellen Port öffnen</translation>
+    </message>
+    <message>
+        <source>No port is open.</source>
+        <translation>Kein Port ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>No MIDI service is running, or it has no port.</source>
+        <translation>Es läuft kein MIDI-Dienst, oder er hat keinen Port.</translation>
+    </message>
+    <message>
+        <source>%1 is open.</source>
+        <translation>%1 ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>%1 is gone.</source>
+        <translation>%1 ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>Asked for the virtual port %1.</source>
+        <translation>Virtueller Port %1 angefordert.</translation>
+    </message>
+    <message>
+        <source>Send to the output</source>
+        <translation>An den Ausgang senden</translation>
+    </message>
+    <message>
+        <source>Note (hold)</source>
+        <translation>Note (halten)</translation>
+    </message>
+    <message>
+        <source>Controller 7</source>
+        <translation>Controller 7</translation>
+    </message>
+    <message>
+        <source>Learn a message for the level</source>
+        <translation>Eine Nachricht für den Pegel lernen</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Simulate a stream of 10,000 messages a second</source>
+        <translation>Einen Strom von 10.000 Nachrichten pro Sekunde simulieren</translation>
+    </message>
+    <message>
+        <source>MIDI</source>
+        <translation>MIDI</translation>
+    </message>
+    <message>
+        <source>Rings</source>
+        <translation>Ringe</translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation>Balken</translation>
+    </message>
+    <message>
+        <source>Busy wheels</source>
+        <translation>Wartekreisel</translation>
+    </message>
+    <message>
+        <source>Turn the grey one</source>
+        <translation>Den grauen drehen</translation>
+    </message>
+    <message>
+        <source>Trim a clip</source>
+        <translation>Einen Clip trimmen</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>Bild %1</translation>
+    </message>
+    <message>
+        <source>In %1   Out %2   Length %3</source>
+        <translation>In %1   Out %2   Länge %3</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Range handles</source>
+        <translation>Bereichsgriffe</translation>
+    </message>
+    <message>
+        <source>Symmetric moves</source>
+        <translation>Symmetrisch bewegen</translation>
+    </message>
+    <message>
+        <source>Tracking</source>
+        <translation>Sofort melden</translation>
+    </message>
+    <message>
+        <source>Spans</source>
+        <translation>Spannen</translation>
+    </message>
+    <message>
+        <source>Handles pass</source>
+        <translation>Griffe überholen sich</translation>
+    </message>
+    <message>
+        <source>Handles meet</source>
+        <translation>Griffe treffen sich</translation>
+    </message>
+    <message>
+        <source>Handles keep apart</source>
+        <translation>Griffe halten Abstand</translation>
+    </message>
+    <message>
+        <source>With tick marks</source>
+        <translation>Mit Teilstrichen</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <translation>Bereiche</translation>
+    </message>
+    <message>
+        <source>%1: triggered</source>
+        <translation>%1: ausgelöst</translation>
+    </message>
+    <message>
+        <source>Click a field, then press the keys</source>
+        <translation>Ein Feld anklicken, dann die Tasten drücken</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation>Nächster Cue</translation>
+    </message>
+    <message>
+        <source>Blackout</source>
+        <translation>Blackout</translation>
+    </message>
+    <message>
+        <source>The shortcuts are those of this page. They work as long as no field has the focus.</source>
+        <translation>Die Tastenkürzel gehören zu dieser Seite. Sie wirken, solange kein Feld den Fokus hat.</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Click to jump, drag, hover</source>
+        <translation>Klicken zum Springen, ziehen, darüber zeigen</translation>
+    </message>
+    <message>
+        <source>Without jump</source>
+        <translation>Ohne Sprung</translation>
+    </message>
+    <message>
+        <source>Set the level to 30 without a signal</source>
+        <translation>Pegel ohne Signal auf 30 setzen</translation>
+    </message>
+    <message>
+        <source>Fader</source>
+        <translation>Fader</translation>
+    </message>
+    <message>
+        <source>Faders</source>
+        <translation>Fader</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Schieberegler</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search field, empty</source>
+        <translation>Suchfeld, leer</translation>
+    </message>
+    <message>
+        <source>interview</source>
+        <translation>interview</translation>
+    </message>
+    <message>
+        <source>Search field, with text</source>
+        <translation>Suchfeld, mit Text</translation>
+    </message>
+    <message>
+        <source>Opening titles, second version</source>
+        <translation>Vorspann, zweite Fassung</translation>
+    </message>
+    <message>
+        <source>Label that fits</source>
+        <translation>Beschriftung, die passt</translation>
+    </message>
+    <message>
+        <source>Cropped at the right</source>
+        <translation>Rechts gekürzt</translation>
+    </message>
+    <message>
+        <source>Cropped in the middle</source>
+        <translation>In der Mitte gekürzt</translation>
+    </message>
+    <message>
+        <source>Cropped at the left</source>
+        <translation>Links gekürzt</translation>
+    </message>
+    <message>
+        <source>Being edited</source>
+        <translation>Wird bearbeitet</translation>
+    </message>
+    <message>
+        <source>Click a name to edit it.</source>
+        <translation>Einen Namen anklicken, um ihn zu bearbeiten.</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>Umbenannt in „%1“</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>Textfelder</translation>
+    </message>
+    <message>
+        <source>(new edit)</source>
+        <translation>(neue Änderung)</translation>
+    </message>
+    <message>
+        <source>Drag across a number; click it to type</source>
+        <translation>Über eine Zahl ziehen; anklicken zum Tippen</translation>
+    </message>
+    <message>
+        <source>Ctrl doubles the speed of a drag, Shift halves it.</source>
+        <translation>Strg verdoppelt die Geschwindigkeit beim Ziehen, Umschalt halbiert sie.</translation>
+    </message>
+    <message>
+        <source>Show the mixed selection as --</source>
+        <translation>Gemischte Auswahl als -- zeigen</translation>
+    </message>
+    <message>
+        <source>Open the port</source>
+        <translation>Port öffnen</translation>
     </message>
 </context>
 <context>

@@ -278,10 +278,6 @@
         <translation>Plano</translation>
     </message>
     <message>
-        <source>Flat default</source>
-        <translation>Plano, predeterminado</translation>
-    </message>
-    <message>
         <source>Focused</source>
         <translation>Con foco</translation>
     </message>
@@ -1010,6 +1006,530 @@ Fundido a negro.</translation>
     <message>
         <source>With an icon</source>
         <translation>Con icono</translation>
+    </message>
+    <message>
+        <source>Ramp: press to add, drag to move, drag away to remove, double-click for a colour</source>
+        <translation>Rampa: pulse para añadir, arrastre para mover, arrastre fuera para quitar, doble clic para un color</translation>
+    </message>
+    <message>
+        <source>Opacity of the chosen colour</source>
+        <translation>Opacidad del color elegido</translation>
+    </message>
+    <message>
+        <source>Buttons: click for a dialog, drag a colour onto another</source>
+        <translation>Botones: haga clic para un diálogo, arrastre un color sobre otro</translation>
+    </message>
+    <message>
+        <source>(accepted)</source>
+        <translation>(aceptado)</translation>
+    </message>
+    <message>
+        <source>(preview)</source>
+        <translation>(vista previa)</translation>
+    </message>
+    <message>
+        <source>Bars and dots</source>
+        <translation>Barras y puntos</translation>
+    </message>
+    <message>
+        <source>Blink</source>
+        <translation>Parpadear</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Colores</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Cámaras</translation>
+    </message>
+    <message>
+        <source>Stage left</source>
+        <translation>Escenario, izquierda</translation>
+    </message>
+    <message>
+        <source>Stage right</source>
+        <translation>Escenario, derecha</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clips</translation>
+    </message>
+    <message>
+        <source>Intro</source>
+        <translation>Cabecera</translation>
+    </message>
+    <message>
+        <source>Interview</source>
+        <translation>Entrevista</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>Grabador</translation>
+    </message>
+    <message>
+        <source>No output</source>
+        <translation>Ninguna salida</translation>
+    </message>
+    <message>
+        <source>All outputs</source>
+        <translation>Todas las salidas</translation>
+    </message>
+    <message>
+        <source>Undetermined</source>
+        <translation>Indeterminado</translation>
+    </message>
+    <message>
+        <source>Tonight live from the studio</source>
+        <translation>Esta noche en directo desde el estudio</translation>
+    </message>
+    <message>
+        <source>Grouped</source>
+        <translation>Agrupado</translation>
+    </message>
+    <message>
+        <source>Its list</source>
+        <translation>Su lista</translation>
+    </message>
+    <message>
+        <source>None checked</source>
+        <translation>Ninguno marcado</translation>
+    </message>
+    <message>
+        <source>Some checked</source>
+        <translation>Algunos marcados</translation>
+    </message>
+    <message>
+        <source>All checked</source>
+        <translation>Todos marcados</translation>
+    </message>
+    <message>
+        <source>Without items</source>
+        <translation>Sin elementos</translation>
+    </message>
+    <message>
+        <source>Their list</source>
+        <translation>Su lista</translation>
+    </message>
+    <message>
+        <source>Font with preview</source>
+        <translation>Fuente con vista previa</translation>
+    </message>
+    <message>
+        <source>Grouped and check combo boxes</source>
+        <translation>Cuadros combinados con grupos y casillas</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Pregunta</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Crítico</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Cuadros de mensaje</translation>
+    </message>
+    <message>
+        <source>Take the next cue live?</source>
+        <translation>¿Pasar el próximo cue al aire?</translation>
+    </message>
+    <message>
+        <source>Use own button texts from now on</source>
+        <translation>Usar textos de botón propios desde ahora</translation>
+    </message>
+    <message>
+        <source>Take it live</source>
+        <translation>Pasar al aire</translation>
+    </message>
+    <message>
+        <source>Balloons</source>
+        <translation>Globos</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Flecha</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Arriba a la izquierda</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Arriba a la derecha</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Abajo a la izquierda</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Abajo a la derecha</translation>
+    </message>
+    <message>
+        <source>The recording disk has room for five more minutes.</source>
+        <translation>En el disco de grabación queda espacio para cinco minutos más.</translation>
+    </message>
+    <message>
+        <source>File choosers</source>
+        <translation>Selectores de archivo</translation>
+    </message>
+    <message>
+        <source>Media file</source>
+        <translation>Archivo multimedia</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Recent videos</source>
+        <translation>Vídeos recientes</translation>
+    </message>
+    <message>
+        <source>Reported</source>
+        <translation>Notificado</translation>
+    </message>
+    <message>
+        <source>Letter box</source>
+        <translation>Bandas negras</translation>
+    </message>
+    <message>
+        <source>Resize delay</source>
+        <translation>Retardo al redimensionar</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Margen</translation>
+    </message>
+    <message>
+        <source>Dialogs and pickers</source>
+        <translation>Diálogos y selectores</translation>
+    </message>
+    <message>
+        <source>Files you drop appear below</source>
+        <translation>Los archivos que suelte aparecen abajo</translation>
+    </message>
+    <message>
+        <source>(not a local file)</source>
+        <translation>(no es un archivo local)</translation>
+    </message>
+    <message>
+        <source>Drop files here</source>
+        <translation>Suelte archivos aquí</translation>
+    </message>
+    <message>
+        <source>Icons with the item delegate</source>
+        <translation>Iconos con el delegado de elementos</translation>
+    </message>
+    <message>
+        <source>Drag a clip onto another.</source>
+        <translation>Arrastre un clip sobre otro.</translation>
+    </message>
+    <message>
+        <source>the end</source>
+        <translation>final de la lista</translation>
+    </message>
+    <message>
+        <source>%1 was dropped on %2.</source>
+        <translation>%1 se soltó en: %2.</translation>
+    </message>
+    <message>
+        <source>Moves are reported, the host moves</source>
+        <translation>Se notifica el movimiento, la aplicación mueve</translation>
+    </message>
+    <message>
+        <source>Rows dragged as they look</source>
+        <translation>Filas arrastradas tal como se ven</translation>
+    </message>
+    <message>
+        <source>Drag the selected rows.</source>
+        <translation>Arrastre las filas seleccionadas.</translation>
+    </message>
+    <message>
+        <source>Lists to drag and drop</source>
+        <translation>Listas para arrastrar y soltar</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recibido</translation>
+    </message>
+    <message>
+        <source>%1 messages</source>
+        <translation>%1 mensajes</translation>
+    </message>
+    <message>
+        <source>Learn</source>
+        <translation>Aprender</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Entrada</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualizar</translation>
+    </message>
+    <message>
+        <source>Open a virtual port</source>
+        <translation>Abrir un puerto virtual</translation>
+    </message>
+    <message>
+        <source>No port is open.</source>
+        <translation>No hay ningún puerto abierto.</translation>
+    </message>
+    <message>
+        <source>No MIDI service is running, or it has no port.</source>
+        <translation>No hay ningún servicio MIDI en marcha, o no tiene puertos.</translation>
+    </message>
+    <message>
+        <source>%1 is open.</source>
+        <translation>%1 está abierto.</translation>
+    </message>
+    <message>
+        <source>%1 is gone.</source>
+        <translation>%1 ya no está.</translation>
+    </message>
+    <message>
+        <source>Asked for the virtual port %1.</source>
+        <translation>Se ha solicitado el puerto virtual %1.</translation>
+    </message>
+    <message>
+        <source>Send to the output</source>
+        <translation>Enviar a la salida</translation>
+    </message>
+    <message>
+        <source>Note (hold)</source>
+        <translation>Nota (mantener pulsado)</translation>
+    </message>
+    <message>
+        <source>Controller 7</source>
+        <translation>Controlador 7</translation>
+    </message>
+    <message>
+        <source>Learn a message for the level</source>
+        <translation>Aprender un mensaje para el nivel</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Simulate a stream of 10,000 messages a second</source>
+        <translation>Simular un flujo de 10 000 mensajes por segundo</translation>
+    </message>
+    <message>
+        <source>MIDI</source>
+        <translation>MIDI</translation>
+    </message>
+    <message>
+        <source>Rings</source>
+        <translation>Anillos</translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation>Barras</translation>
+    </message>
+    <message>
+        <source>Busy wheels</source>
+        <translation>Ruedas de espera</translation>
+    </message>
+    <message>
+        <source>Turn the grey one</source>
+        <translation>Girar la gris</translation>
+    </message>
+    <message>
+        <source>Trim a clip</source>
+        <translation>Recortar un clip</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>Fotograma %1</translation>
+    </message>
+    <message>
+        <source>In %1   Out %2   Length %3</source>
+        <translation>Entrada %1   Salida %2   Duración %3</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>Range handles</source>
+        <translation>Tiradores del intervalo</translation>
+    </message>
+    <message>
+        <source>Symmetric moves</source>
+        <translation>Movimiento simétrico</translation>
+    </message>
+    <message>
+        <source>Tracking</source>
+        <translation>Seguimiento continuo</translation>
+    </message>
+    <message>
+        <source>Spans</source>
+        <translation>Tramos</translation>
+    </message>
+    <message>
+        <source>Handles pass</source>
+        <translation>Los tiradores se cruzan</translation>
+    </message>
+    <message>
+        <source>Handles meet</source>
+        <translation>Los tiradores se encuentran</translation>
+    </message>
+    <message>
+        <source>Handles keep apart</source>
+        <translation>Los tiradores guardan distancia</translation>
+    </message>
+    <message>
+        <source>With tick marks</source>
+        <translation>Con marcas</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <translation>Intervalos</translation>
+    </message>
+    <message>
+        <source>%1: triggered</source>
+        <translation>%1: activado</translation>
+    </message>
+    <message>
+        <source>Click a field, then press the keys</source>
+        <translation>Haga clic en un campo y pulse las teclas</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation>Próximo cue</translation>
+    </message>
+    <message>
+        <source>Blackout</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>The shortcuts are those of this page. They work as long as no field has the focus.</source>
+        <translation>Los atajos son los de esta página. Funcionan mientras ningún campo tenga el foco.</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Atajos</translation>
+    </message>
+    <message>
+        <source>Click to jump, drag, hover</source>
+        <translation>Clic para saltar, arrastrar, pasar por encima</translation>
+    </message>
+    <message>
+        <source>Without jump</source>
+        <translation>Sin salto</translation>
+    </message>
+    <message>
+        <source>Set the level to 30 without a signal</source>
+        <translation>Poner el nivel en 30 sin señal</translation>
+    </message>
+    <message>
+        <source>Fader</source>
+        <translation>Fader</translation>
+    </message>
+    <message>
+        <source>Faders</source>
+        <translation>Faders</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Deslizadores</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Search field, empty</source>
+        <translation>Campo de búsqueda, vacío</translation>
+    </message>
+    <message>
+        <source>interview</source>
+        <translation>entrevista</translation>
+    </message>
+    <message>
+        <source>Search field, with text</source>
+        <translation>Campo de búsqueda, con texto</translation>
+    </message>
+    <message>
+        <source>Opening titles, second version</source>
+        <translation>Títulos de apertura, segunda versión</translation>
+    </message>
+    <message>
+        <source>Label that fits</source>
+        <translation>Etiqueta que cabe</translation>
+    </message>
+    <message>
+        <source>Cropped at the right</source>
+        <translation>Recortada a la derecha</translation>
+    </message>
+    <message>
+        <source>Cropped in the middle</source>
+        <translation>Recortada en el centro</translation>
+    </message>
+    <message>
+        <source>Cropped at the left</source>
+        <translation>Recortada a la izquierda</translation>
+    </message>
+    <message>
+        <source>Being edited</source>
+        <translation>En edición</translation>
+    </message>
+    <message>
+        <source>Click a name to edit it.</source>
+        <translation>Haga clic en un nombre para editarlo.</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>Se le cambió el nombre a «%1»</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>Campos de texto</translation>
+    </message>
+    <message>
+        <source>(new edit)</source>
+        <translation>(nueva edición)</translation>
+    </message>
+    <message>
+        <source>Drag across a number; click it to type</source>
+        <translation>Arrastre sobre un número; haga clic para escribirlo</translation>
+    </message>
+    <message>
+        <source>Ctrl doubles the speed of a drag, Shift halves it.</source>
+        <translation>Ctrl duplica la velocidad del arrastre, Mayús la reduce a la mitad.</translation>
+    </message>
+    <message>
+        <source>Show the mixed selection as --</source>
+        <translation>Mostrar la selección mixta como --</translation>
+    </message>
+    <message>
+        <source>Open the port</source>
+        <translation>Abrir el puerto</translation>
     </message>
 </context>
 <context>

@@ -278,10 +278,6 @@
         <translation>Plat</translation>
     </message>
     <message>
-        <source>Flat default</source>
-        <translation>Plat, par défaut</translation>
-    </message>
-    <message>
         <source>Focused</source>
         <translation>Avec le focus</translation>
     </message>
@@ -1010,6 +1006,530 @@ Fondu au noir.</translation>
     <message>
         <source>With an icon</source>
         <translation>Avec une icône</translation>
+    </message>
+    <message>
+        <source>Ramp: press to add, drag to move, drag away to remove, double-click for a colour</source>
+        <translation>Dégradé : appuyez pour ajouter, glissez pour déplacer, glissez au loin pour retirer, double-cliquez pour une couleur</translation>
+    </message>
+    <message>
+        <source>Opacity of the chosen colour</source>
+        <translation>Opacité de la couleur choisie</translation>
+    </message>
+    <message>
+        <source>Buttons: click for a dialog, drag a colour onto another</source>
+        <translation>Boutons : cliquez pour un dialogue, glissez une couleur sur une autre</translation>
+    </message>
+    <message>
+        <source>(accepted)</source>
+        <translation>(accepté)</translation>
+    </message>
+    <message>
+        <source>(preview)</source>
+        <translation>(aperçu)</translation>
+    </message>
+    <message>
+        <source>Bars and dots</source>
+        <translation>Barres et points</translation>
+    </message>
+    <message>
+        <source>Blink</source>
+        <translation>Clignoter</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Couleurs</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Caméras</translation>
+    </message>
+    <message>
+        <source>Stage left</source>
+        <translation>Scène, côté cour</translation>
+    </message>
+    <message>
+        <source>Stage right</source>
+        <translation>Scène, côté jardin</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clips</translation>
+    </message>
+    <message>
+        <source>Intro</source>
+        <translation>Intro</translation>
+    </message>
+    <message>
+        <source>Interview</source>
+        <translation>Interview</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>Enregistreur</translation>
+    </message>
+    <message>
+        <source>No output</source>
+        <translation>Aucune sortie</translation>
+    </message>
+    <message>
+        <source>All outputs</source>
+        <translation>Toutes les sorties</translation>
+    </message>
+    <message>
+        <source>Undetermined</source>
+        <translation>Indéterminé</translation>
+    </message>
+    <message>
+        <source>Tonight live from the studio</source>
+        <translation>Ce soir en direct du studio</translation>
+    </message>
+    <message>
+        <source>Grouped</source>
+        <translation>Groupée</translation>
+    </message>
+    <message>
+        <source>Its list</source>
+        <translation>Sa liste</translation>
+    </message>
+    <message>
+        <source>None checked</source>
+        <translation>Aucun élément coché</translation>
+    </message>
+    <message>
+        <source>Some checked</source>
+        <translation>Quelques éléments cochés</translation>
+    </message>
+    <message>
+        <source>All checked</source>
+        <translation>Tous les éléments cochés</translation>
+    </message>
+    <message>
+        <source>Without items</source>
+        <translation>Sans éléments</translation>
+    </message>
+    <message>
+        <source>Their list</source>
+        <translation>Leur liste</translation>
+    </message>
+    <message>
+        <source>Font with preview</source>
+        <translation>Police avec aperçu</translation>
+    </message>
+    <message>
+        <source>Grouped and check combo boxes</source>
+        <translation>Listes déroulantes à groupes et à cases</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Question</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Critique</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Boîtes de message</translation>
+    </message>
+    <message>
+        <source>Take the next cue live?</source>
+        <translation>Passer le prochain top à l’antenne ?</translation>
+    </message>
+    <message>
+        <source>Use own button texts from now on</source>
+        <translation>Utiliser désormais ses propres textes de bouton</translation>
+    </message>
+    <message>
+        <source>Take it live</source>
+        <translation>Passer à l’antenne</translation>
+    </message>
+    <message>
+        <source>Balloons</source>
+        <translation>Bulles</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Flèche</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>En bas à droite</translation>
+    </message>
+    <message>
+        <source>The recording disk has room for five more minutes.</source>
+        <translation>Le disque d’enregistrement a encore de la place pour cinq minutes.</translation>
+    </message>
+    <message>
+        <source>File choosers</source>
+        <translation>Sélecteurs de fichier</translation>
+    </message>
+    <message>
+        <source>Media file</source>
+        <translation>Fichier média</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Recent videos</source>
+        <translation>Vidéos récentes</translation>
+    </message>
+    <message>
+        <source>Reported</source>
+        <translation>Signalé</translation>
+    </message>
+    <message>
+        <source>Letter box</source>
+        <translation>Bandes noires</translation>
+    </message>
+    <message>
+        <source>Resize delay</source>
+        <translation>Délai de redimensionnement</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Marge</translation>
+    </message>
+    <message>
+        <source>Dialogs and pickers</source>
+        <translation>Dialogues et sélecteurs</translation>
+    </message>
+    <message>
+        <source>Files you drop appear below</source>
+        <translation>Les fichiers déposés apparaissent ci-dessous</translation>
+    </message>
+    <message>
+        <source>(not a local file)</source>
+        <translation>(pas un fichier local)</translation>
+    </message>
+    <message>
+        <source>Drop files here</source>
+        <translation>Déposez des fichiers ici</translation>
+    </message>
+    <message>
+        <source>Icons with the item delegate</source>
+        <translation>Icônes avec le délégué d’éléments</translation>
+    </message>
+    <message>
+        <source>Drag a clip onto another.</source>
+        <translation>Glissez un clip sur un autre.</translation>
+    </message>
+    <message>
+        <source>the end</source>
+        <translation>fin de la liste</translation>
+    </message>
+    <message>
+        <source>%1 was dropped on %2.</source>
+        <translation>%1 déposé sur : %2.</translation>
+    </message>
+    <message>
+        <source>Moves are reported, the host moves</source>
+        <translation>Le déplacement est signalé, l’application déplace</translation>
+    </message>
+    <message>
+        <source>Rows dragged as they look</source>
+        <translation>Lignes glissées telles qu’affichées</translation>
+    </message>
+    <message>
+        <source>Drag the selected rows.</source>
+        <translation>Glissez les lignes sélectionnées.</translation>
+    </message>
+    <message>
+        <source>Lists to drag and drop</source>
+        <translation>Listes à glisser-déposer</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Reçu</translation>
+    </message>
+    <message>
+        <source>%1 messages</source>
+        <translation>%1 message(s)</translation>
+    </message>
+    <message>
+        <source>Learn</source>
+        <translation>Apprendre</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <source>Open a virtual port</source>
+        <translation>Ouvrir un port virtuel</translation>
+    </message>
+    <message>
+        <source>No port is open.</source>
+        <translation>Aucun port n’est ouvert.</translation>
+    </message>
+    <message>
+        <source>No MIDI service is running, or it has no port.</source>
+        <translation>Aucun service MIDI n’est lancé, ou il n’a pas de port.</translation>
+    </message>
+    <message>
+        <source>%1 is open.</source>
+        <translation>%1 est ouvert.</translation>
+    </message>
+    <message>
+        <source>%1 is gone.</source>
+        <translation>%1 a disparu.</translation>
+    </message>
+    <message>
+        <source>Asked for the virtual port %1.</source>
+        <translation>Port virtuel %1 demandé.</translation>
+    </message>
+    <message>
+        <source>Send to the output</source>
+        <translation>Envoyer vers la sortie</translation>
+    </message>
+    <message>
+        <source>Note (hold)</source>
+        <translation>Note (maintenir)</translation>
+    </message>
+    <message>
+        <source>Controller 7</source>
+        <translation>Contrôleur 7</translation>
+    </message>
+    <message>
+        <source>Learn a message for the level</source>
+        <translation>Apprendre un message pour le niveau</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Simulate a stream of 10,000 messages a second</source>
+        <translation>Simuler un flux de 10 000 messages par seconde</translation>
+    </message>
+    <message>
+        <source>MIDI</source>
+        <translation>MIDI</translation>
+    </message>
+    <message>
+        <source>Rings</source>
+        <translation>Anneaux</translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation>Barres</translation>
+    </message>
+    <message>
+        <source>Busy wheels</source>
+        <translation>Roues d’attente</translation>
+    </message>
+    <message>
+        <source>Turn the grey one</source>
+        <translation>Faire tourner la grise</translation>
+    </message>
+    <message>
+        <source>Trim a clip</source>
+        <translation>Rogner un clip</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>Image %1</translation>
+    </message>
+    <message>
+        <source>In %1   Out %2   Length %3</source>
+        <translation>Entrée %1   Sortie %2   Durée %3</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>Range handles</source>
+        <translation>Poignées de plage</translation>
+    </message>
+    <message>
+        <source>Symmetric moves</source>
+        <translation>Déplacement symétrique</translation>
+    </message>
+    <message>
+        <source>Tracking</source>
+        <translation>Suivi continu</translation>
+    </message>
+    <message>
+        <source>Spans</source>
+        <translation>Plages</translation>
+    </message>
+    <message>
+        <source>Handles pass</source>
+        <translation>Les poignées se croisent</translation>
+    </message>
+    <message>
+        <source>Handles meet</source>
+        <translation>Les poignées se rejoignent</translation>
+    </message>
+    <message>
+        <source>Handles keep apart</source>
+        <translation>Les poignées restent à distance</translation>
+    </message>
+    <message>
+        <source>With tick marks</source>
+        <translation>Avec graduations</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <translation>Plages</translation>
+    </message>
+    <message>
+        <source>%1: triggered</source>
+        <translation>%1 : déclenché</translation>
+    </message>
+    <message>
+        <source>Click a field, then press the keys</source>
+        <translation>Cliquez sur un champ, puis appuyez sur les touches</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêt</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation>Top suivant</translation>
+    </message>
+    <message>
+        <source>Blackout</source>
+        <translation>Noir</translation>
+    </message>
+    <message>
+        <source>The shortcuts are those of this page. They work as long as no field has the focus.</source>
+        <translation>Ces raccourcis sont ceux de cette page. Ils agissent tant qu’aucun champ n’a le focus.</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Raccourcis</translation>
+    </message>
+    <message>
+        <source>Click to jump, drag, hover</source>
+        <translation>Cliquer pour sauter, glisser, survoler</translation>
+    </message>
+    <message>
+        <source>Without jump</source>
+        <translation>Sans saut</translation>
+    </message>
+    <message>
+        <source>Set the level to 30 without a signal</source>
+        <translation>Mettre le niveau à 30 sans signal</translation>
+    </message>
+    <message>
+        <source>Fader</source>
+        <translation>Fader</translation>
+    </message>
+    <message>
+        <source>Faders</source>
+        <translation>Faders</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Curseurs</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Search field, empty</source>
+        <translation>Champ de recherche, vide</translation>
+    </message>
+    <message>
+        <source>interview</source>
+        <translation>interview</translation>
+    </message>
+    <message>
+        <source>Search field, with text</source>
+        <translation>Champ de recherche, avec texte</translation>
+    </message>
+    <message>
+        <source>Opening titles, second version</source>
+        <translation>Générique de début, deuxième version</translation>
+    </message>
+    <message>
+        <source>Label that fits</source>
+        <translation>Étiquette qui tient</translation>
+    </message>
+    <message>
+        <source>Cropped at the right</source>
+        <translation>Tronquée à droite</translation>
+    </message>
+    <message>
+        <source>Cropped in the middle</source>
+        <translation>Tronquée au milieu</translation>
+    </message>
+    <message>
+        <source>Cropped at the left</source>
+        <translation>Tronquée à gauche</translation>
+    </message>
+    <message>
+        <source>Being edited</source>
+        <translation>En cours d’édition</translation>
+    </message>
+    <message>
+        <source>Click a name to edit it.</source>
+        <translation>Cliquez sur un nom pour le modifier.</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>Renommé en « %1 »</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>Champs de texte</translation>
+    </message>
+    <message>
+        <source>(new edit)</source>
+        <translation>(nouvelle modification)</translation>
+    </message>
+    <message>
+        <source>Drag across a number; click it to type</source>
+        <translation>Glissez sur un nombre ; cliquez pour le saisir</translation>
+    </message>
+    <message>
+        <source>Ctrl doubles the speed of a drag, Shift halves it.</source>
+        <translation>Ctrl double la vitesse du glissement, Maj la divise par deux.</translation>
+    </message>
+    <message>
+        <source>Show the mixed selection as --</source>
+        <translation>Afficher la sélection mixte par --</translation>
+    </message>
+    <message>
+        <source>Open the port</source>
+        <translation>Ouvrir le port</translation>
     </message>
 </context>
 <context>

@@ -278,10 +278,6 @@
         <translation>Piatto</translation>
     </message>
     <message>
-        <source>Flat default</source>
-        <translation>Piatto, predefinito</translation>
-    </message>
-    <message>
         <source>Focused</source>
         <translation>Con il focus</translation>
     </message>
@@ -595,7 +591,7 @@
     </message>
     <message>
         <source>Unchecked</source>
-        <translation>Non selezionato</translation>
+        <translation>Non scelto</translation>
     </message>
     <message>
         <source>Up hovered</source>
@@ -1010,6 +1006,530 @@ Dissolvenza al nero.</translation>
     <message>
         <source>With an icon</source>
         <translation>Con un’icona</translation>
+    </message>
+    <message>
+        <source>Ramp: press to add, drag to move, drag away to remove, double-click for a colour</source>
+        <translation>Rampa: premere per aggiungere, trascinare per spostare, trascinare via per rimuovere, doppio clic per un colore</translation>
+    </message>
+    <message>
+        <source>Opacity of the chosen colour</source>
+        <translation>Opacità del colore scelto</translation>
+    </message>
+    <message>
+        <source>Buttons: click for a dialog, drag a colour onto another</source>
+        <translation>Pulsanti: fare clic per una finestra di dialogo, trascinare un colore su un altro</translation>
+    </message>
+    <message>
+        <source>(accepted)</source>
+        <translation>(accettato)</translation>
+    </message>
+    <message>
+        <source>(preview)</source>
+        <translation>(anteprima)</translation>
+    </message>
+    <message>
+        <source>Bars and dots</source>
+        <translation>Barre e punti</translation>
+    </message>
+    <message>
+        <source>Blink</source>
+        <translation>Lampeggia</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Colori</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Telecamere</translation>
+    </message>
+    <message>
+        <source>Stage left</source>
+        <translation>Palco, sinistra</translation>
+    </message>
+    <message>
+        <source>Stage right</source>
+        <translation>Palco, destra</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>Intro</source>
+        <translation>Sigla</translation>
+    </message>
+    <message>
+        <source>Interview</source>
+        <translation>Intervista</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>Registratore</translation>
+    </message>
+    <message>
+        <source>No output</source>
+        <translation>Nessuna uscita</translation>
+    </message>
+    <message>
+        <source>All outputs</source>
+        <translation>Tutte le uscite</translation>
+    </message>
+    <message>
+        <source>Undetermined</source>
+        <translation>Indeterminato</translation>
+    </message>
+    <message>
+        <source>Tonight live from the studio</source>
+        <translation>Stasera in diretta dallo studio</translation>
+    </message>
+    <message>
+        <source>Grouped</source>
+        <translation>Raggruppata</translation>
+    </message>
+    <message>
+        <source>Its list</source>
+        <translation>Il suo elenco</translation>
+    </message>
+    <message>
+        <source>None checked</source>
+        <translation>Nessuno selezionato</translation>
+    </message>
+    <message>
+        <source>Some checked</source>
+        <translation>Alcuni selezionati</translation>
+    </message>
+    <message>
+        <source>All checked</source>
+        <translation>Tutti selezionati</translation>
+    </message>
+    <message>
+        <source>Without items</source>
+        <translation>Senza voci</translation>
+    </message>
+    <message>
+        <source>Their list</source>
+        <translation>Il loro elenco</translation>
+    </message>
+    <message>
+        <source>Font with preview</source>
+        <translation>Carattere con anteprima</translation>
+    </message>
+    <message>
+        <source>Grouped and check combo boxes</source>
+        <translation>Caselle combinate con gruppi e caselle</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informazione</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Domanda</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Critico</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Finestre di messaggio</translation>
+    </message>
+    <message>
+        <source>Take the next cue live?</source>
+        <translation>Mandare in onda il prossimo cue?</translation>
+    </message>
+    <message>
+        <source>Use own button texts from now on</source>
+        <translation>Usa d’ora in poi testi propri per i pulsanti</translation>
+    </message>
+    <message>
+        <source>Take it live</source>
+        <translation>Manda in onda</translation>
+    </message>
+    <message>
+        <source>Balloons</source>
+        <translation>Fumetti</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Freccia</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>In alto a sinistra</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>In alto a destra</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>In basso a sinistra</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>In basso a destra</translation>
+    </message>
+    <message>
+        <source>The recording disk has room for five more minutes.</source>
+        <translation>Sul disco di registrazione c’è spazio per altri cinque minuti.</translation>
+    </message>
+    <message>
+        <source>File choosers</source>
+        <translation>Selettori di file</translation>
+    </message>
+    <message>
+        <source>Media file</source>
+        <translation>File multimediale</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Cartella</translation>
+    </message>
+    <message>
+        <source>Recent videos</source>
+        <translation>Video recenti</translation>
+    </message>
+    <message>
+        <source>Reported</source>
+        <translation>Segnalato</translation>
+    </message>
+    <message>
+        <source>Letter box</source>
+        <translation>Bande nere</translation>
+    </message>
+    <message>
+        <source>Resize delay</source>
+        <translation>Ritardo di ridimensionamento</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Margine</translation>
+    </message>
+    <message>
+        <source>Dialogs and pickers</source>
+        <translation>Finestre di dialogo e selettori</translation>
+    </message>
+    <message>
+        <source>Files you drop appear below</source>
+        <translation>I file rilasciati compaiono sotto</translation>
+    </message>
+    <message>
+        <source>(not a local file)</source>
+        <translation>(non è un file locale)</translation>
+    </message>
+    <message>
+        <source>Drop files here</source>
+        <translation>Rilasciare i file qui</translation>
+    </message>
+    <message>
+        <source>Icons with the item delegate</source>
+        <translation>Icone con il delegato degli elementi</translation>
+    </message>
+    <message>
+        <source>Drag a clip onto another.</source>
+        <translation>Trascinare un clip su un altro.</translation>
+    </message>
+    <message>
+        <source>the end</source>
+        <translation>fine dell’elenco</translation>
+    </message>
+    <message>
+        <source>%1 was dropped on %2.</source>
+        <translation>%1 rilasciato su: %2.</translation>
+    </message>
+    <message>
+        <source>Moves are reported, the host moves</source>
+        <translation>Lo spostamento è segnalato, sposta l’applicazione</translation>
+    </message>
+    <message>
+        <source>Rows dragged as they look</source>
+        <translation>Righe trascinate così come appaiono</translation>
+    </message>
+    <message>
+        <source>Drag the selected rows.</source>
+        <translation>Trascinare le righe selezionate.</translation>
+    </message>
+    <message>
+        <source>Lists to drag and drop</source>
+        <translation>Elenchi da trascinare</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Ricevuto</translation>
+    </message>
+    <message>
+        <source>%1 messages</source>
+        <translation>%1 messaggi</translation>
+    </message>
+    <message>
+        <source>Learn</source>
+        <translation>Apprendi</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Ingresso</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Uscita</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aggiorna</translation>
+    </message>
+    <message>
+        <source>Open a virtual port</source>
+        <translation>Apri una porta virtuale</translation>
+    </message>
+    <message>
+        <source>No port is open.</source>
+        <translation>Nessuna porta è aperta.</translation>
+    </message>
+    <message>
+        <source>No MIDI service is running, or it has no port.</source>
+        <translation>Nessun servizio MIDI è in esecuzione, oppure non ha porte.</translation>
+    </message>
+    <message>
+        <source>%1 is open.</source>
+        <translation>%1 è aperta.</translation>
+    </message>
+    <message>
+        <source>%1 is gone.</source>
+        <translation>%1 non c’è più.</translation>
+    </message>
+    <message>
+        <source>Asked for the virtual port %1.</source>
+        <translation>Richiesta la porta virtuale %1.</translation>
+    </message>
+    <message>
+        <source>Send to the output</source>
+        <translation>Invia all’uscita</translation>
+    </message>
+    <message>
+        <source>Note (hold)</source>
+        <translation>Nota (tenere premuto)</translation>
+    </message>
+    <message>
+        <source>Controller 7</source>
+        <translation>Controller 7</translation>
+    </message>
+    <message>
+        <source>Learn a message for the level</source>
+        <translation>Apprendi un messaggio per il livello</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Cancella</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Simulate a stream of 10,000 messages a second</source>
+        <translation>Simula un flusso di 10.000 messaggi al secondo</translation>
+    </message>
+    <message>
+        <source>MIDI</source>
+        <translation>MIDI</translation>
+    </message>
+    <message>
+        <source>Rings</source>
+        <translation>Anelli</translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation>Barre</translation>
+    </message>
+    <message>
+        <source>Busy wheels</source>
+        <translation>Rotelle di attesa</translation>
+    </message>
+    <message>
+        <source>Turn the grey one</source>
+        <translation>Fai girare quella grigia</translation>
+    </message>
+    <message>
+        <source>Trim a clip</source>
+        <translation>Rifila un clip</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>Fotogramma %1</translation>
+    </message>
+    <message>
+        <source>In %1   Out %2   Length %3</source>
+        <translation>Attacco %1   Stacco %2   Durata %3</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Riproduci</translation>
+    </message>
+    <message>
+        <source>Range handles</source>
+        <translation>Maniglie dell’intervallo</translation>
+    </message>
+    <message>
+        <source>Symmetric moves</source>
+        <translation>Movimento simmetrico</translation>
+    </message>
+    <message>
+        <source>Tracking</source>
+        <translation>Aggiornamento continuo</translation>
+    </message>
+    <message>
+        <source>Spans</source>
+        <translation>Tratti</translation>
+    </message>
+    <message>
+        <source>Handles pass</source>
+        <translation>Le maniglie si incrociano</translation>
+    </message>
+    <message>
+        <source>Handles meet</source>
+        <translation>Le maniglie si incontrano</translation>
+    </message>
+    <message>
+        <source>Handles keep apart</source>
+        <translation>Le maniglie restano distanti</translation>
+    </message>
+    <message>
+        <source>With tick marks</source>
+        <translation>Con tacche</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <translation>Intervalli</translation>
+    </message>
+    <message>
+        <source>%1: triggered</source>
+        <translation>%1: attivato</translation>
+    </message>
+    <message>
+        <source>Click a field, then press the keys</source>
+        <translation>Fare clic su un campo, poi premere i tasti</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arresta</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation>Prossimo cue</translation>
+    </message>
+    <message>
+        <source>Blackout</source>
+        <translation>Buio</translation>
+    </message>
+    <message>
+        <source>The shortcuts are those of this page. They work as long as no field has the focus.</source>
+        <translation>Le scorciatoie sono quelle di questa pagina. Funzionano finché nessun campo ha il focus.</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Scorciatoie</translation>
+    </message>
+    <message>
+        <source>Click to jump, drag, hover</source>
+        <translation>Clic per saltare, trascinare, passare sopra</translation>
+    </message>
+    <message>
+        <source>Without jump</source>
+        <translation>Senza salto</translation>
+    </message>
+    <message>
+        <source>Set the level to 30 without a signal</source>
+        <translation>Imposta il livello a 30 senza segnale</translation>
+    </message>
+    <message>
+        <source>Fader</source>
+        <translation>Fader</translation>
+    </message>
+    <message>
+        <source>Faders</source>
+        <translation>Fader</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Cursori</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Search field, empty</source>
+        <translation>Campo di ricerca, vuoto</translation>
+    </message>
+    <message>
+        <source>interview</source>
+        <translation>intervista</translation>
+    </message>
+    <message>
+        <source>Search field, with text</source>
+        <translation>Campo di ricerca, con testo</translation>
+    </message>
+    <message>
+        <source>Opening titles, second version</source>
+        <translation>Titoli di testa, seconda versione</translation>
+    </message>
+    <message>
+        <source>Label that fits</source>
+        <translation>Etichetta che ci sta</translation>
+    </message>
+    <message>
+        <source>Cropped at the right</source>
+        <translation>Troncata a destra</translation>
+    </message>
+    <message>
+        <source>Cropped in the middle</source>
+        <translation>Troncata al centro</translation>
+    </message>
+    <message>
+        <source>Cropped at the left</source>
+        <translation>Troncata a sinistra</translation>
+    </message>
+    <message>
+        <source>Being edited</source>
+        <translation>In modifica</translation>
+    </message>
+    <message>
+        <source>Click a name to edit it.</source>
+        <translation>Fare clic su un nome per modificarlo.</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>Rinominato in «%1»</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>Campi di testo</translation>
+    </message>
+    <message>
+        <source>(new edit)</source>
+        <translation>(nuova modifica)</translation>
+    </message>
+    <message>
+        <source>Drag across a number; click it to type</source>
+        <translation>Trascinare su un numero; fare clic per digitarlo</translation>
+    </message>
+    <message>
+        <source>Ctrl doubles the speed of a drag, Shift halves it.</source>
+        <translation>Ctrl raddoppia la velocità del trascinamento, Maiusc la dimezza.</translation>
+    </message>
+    <message>
+        <source>Show the mixed selection as --</source>
+        <translation>Mostra la selezione mista come --</translation>
+    </message>
+    <message>
+        <source>Open the port</source>
+        <translation>Apri la porta</translation>
     </message>
 </context>
 <context>

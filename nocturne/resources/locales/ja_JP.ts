@@ -278,10 +278,6 @@
         <translation>フラット</translation>
     </message>
     <message>
-        <source>Flat default</source>
-        <translation>フラット、既定</translation>
-    </message>
-    <message>
         <source>Focused</source>
         <translation>フォーカスあり</translation>
     </message>
@@ -1010,6 +1006,530 @@ Fade to black.</source>
     <message>
         <source>With an icon</source>
         <translation>アイコン付き</translation>
+    </message>
+    <message>
+        <source>Ramp: press to add, drag to move, drag away to remove, double-click for a colour</source>
+        <translation>ランプ: 押して追加、ドラッグで移動、外へドラッグで削除、ダブルクリックで色を選択</translation>
+    </message>
+    <message>
+        <source>Opacity of the chosen colour</source>
+        <translation>選択した色の不透明度</translation>
+    </message>
+    <message>
+        <source>Buttons: click for a dialog, drag a colour onto another</source>
+        <translation>ボタン: クリックでダイアログ、色を別の色へドラッグ</translation>
+    </message>
+    <message>
+        <source>(accepted)</source>
+        <translation>(確定)</translation>
+    </message>
+    <message>
+        <source>(preview)</source>
+        <translation>(プレビュー)</translation>
+    </message>
+    <message>
+        <source>Bars and dots</source>
+        <translation>バーとドット</translation>
+    </message>
+    <message>
+        <source>Blink</source>
+        <translation>点滅</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>Stage left</source>
+        <translation>上手</translation>
+    </message>
+    <message>
+        <source>Stage right</source>
+        <translation>下手</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>クリップ</translation>
+    </message>
+    <message>
+        <source>Intro</source>
+        <translation>イントロ</translation>
+    </message>
+    <message>
+        <source>Interview</source>
+        <translation>インタビュー</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>レコーダー</translation>
+    </message>
+    <message>
+        <source>No output</source>
+        <translation>出力なし</translation>
+    </message>
+    <message>
+        <source>All outputs</source>
+        <translation>すべての出力</translation>
+    </message>
+    <message>
+        <source>Undetermined</source>
+        <translation>未確定</translation>
+    </message>
+    <message>
+        <source>Tonight live from the studio</source>
+        <translation>今夜スタジオから生放送</translation>
+    </message>
+    <message>
+        <source>Grouped</source>
+        <translation>グループ化</translation>
+    </message>
+    <message>
+        <source>Its list</source>
+        <translation>そのリスト</translation>
+    </message>
+    <message>
+        <source>None checked</source>
+        <translation>すべてチェックなし</translation>
+    </message>
+    <message>
+        <source>Some checked</source>
+        <translation>一部の項目をチェック</translation>
+    </message>
+    <message>
+        <source>All checked</source>
+        <translation>すべてチェックあり</translation>
+    </message>
+    <message>
+        <source>Without items</source>
+        <translation>項目なし</translation>
+    </message>
+    <message>
+        <source>Their list</source>
+        <translation>それらのリスト</translation>
+    </message>
+    <message>
+        <source>Font with preview</source>
+        <translation>プレビュー付きフォント</translation>
+    </message>
+    <message>
+        <source>Grouped and check combo boxes</source>
+        <translation>グループとチェック付きのコンボボックス</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>質問</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>重大</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>メッセージボックス</translation>
+    </message>
+    <message>
+        <source>Take the next cue live?</source>
+        <translation>次のキューを本番に出しますか?</translation>
+    </message>
+    <message>
+        <source>Use own button texts from now on</source>
+        <translation>以後、独自のボタンテキストを使う</translation>
+    </message>
+    <message>
+        <source>Take it live</source>
+        <translation>本番に出す</translation>
+    </message>
+    <message>
+        <source>Balloons</source>
+        <translation>バルーン</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>矢印</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>The recording disk has room for five more minutes.</source>
+        <translation>録画ディスクの残り容量はあと 5 分です。</translation>
+    </message>
+    <message>
+        <source>File choosers</source>
+        <translation>ファイル選択</translation>
+    </message>
+    <message>
+        <source>Media file</source>
+        <translation>メディアファイル</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Recent videos</source>
+        <translation>最近使ったビデオ</translation>
+    </message>
+    <message>
+        <source>Reported</source>
+        <translation>通知内容</translation>
+    </message>
+    <message>
+        <source>Letter box</source>
+        <translation>レターボックス</translation>
+    </message>
+    <message>
+        <source>Resize delay</source>
+        <translation>サイズ変更の遅延</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>余白</translation>
+    </message>
+    <message>
+        <source>Dialogs and pickers</source>
+        <translation>ダイアログと選択欄</translation>
+    </message>
+    <message>
+        <source>Files you drop appear below</source>
+        <translation>ドロップしたファイルは下に表示されます</translation>
+    </message>
+    <message>
+        <source>(not a local file)</source>
+        <translation>(ローカルファイルではありません)</translation>
+    </message>
+    <message>
+        <source>Drop files here</source>
+        <translation>ここにファイルをドロップ</translation>
+    </message>
+    <message>
+        <source>Icons with the item delegate</source>
+        <translation>項目デリゲートによるアイコン</translation>
+    </message>
+    <message>
+        <source>Drag a clip onto another.</source>
+        <translation>クリップを別のクリップへドラッグします。</translation>
+    </message>
+    <message>
+        <source>the end</source>
+        <translation>リストの末尾</translation>
+    </message>
+    <message>
+        <source>%1 was dropped on %2.</source>
+        <translation>%1 のドロップ先: %2</translation>
+    </message>
+    <message>
+        <source>Moves are reported, the host moves</source>
+        <translation>移動を通知、移動はホストが実行</translation>
+    </message>
+    <message>
+        <source>Rows dragged as they look</source>
+        <translation>見た目のままドラッグされる行</translation>
+    </message>
+    <message>
+        <source>Drag the selected rows.</source>
+        <translation>選択した行をドラッグします。</translation>
+    </message>
+    <message>
+        <source>Lists to drag and drop</source>
+        <translation>ドラッグ＆ドロップ用リスト</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>受信</translation>
+    </message>
+    <message>
+        <source>%1 messages</source>
+        <translation>%1 件のメッセージ</translation>
+    </message>
+    <message>
+        <source>Learn</source>
+        <translation>学習</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>入力</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>出力</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Open a virtual port</source>
+        <translation>仮想ポートを開く</translation>
+    </message>
+    <message>
+        <source>No port is open.</source>
+        <translation>開いているポートはありません。</translation>
+    </message>
+    <message>
+        <source>No MIDI service is running, or it has no port.</source>
+        <translation>MIDI サービスが動作していないか、ポートがありません。</translation>
+    </message>
+    <message>
+        <source>%1 is open.</source>
+        <translation>%1 は開いています。</translation>
+    </message>
+    <message>
+        <source>%1 is gone.</source>
+        <translation>%1 はなくなりました。</translation>
+    </message>
+    <message>
+        <source>Asked for the virtual port %1.</source>
+        <translation>仮想ポート %1 を要求しました。</translation>
+    </message>
+    <message>
+        <source>Send to the output</source>
+        <translation>出力へ送信</translation>
+    </message>
+    <message>
+        <source>Note (hold)</source>
+        <translation>ノート (押し続ける)</translation>
+    </message>
+    <message>
+        <source>Controller 7</source>
+        <translation>コントローラー 7</translation>
+    </message>
+    <message>
+        <source>Learn a message for the level</source>
+        <translation>レベル用のメッセージを学習</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>クリア</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Simulate a stream of 10,000 messages a second</source>
+        <translation>毎秒 10,000 件のメッセージ受信をシミュレート</translation>
+    </message>
+    <message>
+        <source>MIDI</source>
+        <translation>MIDI</translation>
+    </message>
+    <message>
+        <source>Rings</source>
+        <translation>リング</translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation>バー</translation>
+    </message>
+    <message>
+        <source>Busy wheels</source>
+        <translation>処理中ホイール</translation>
+    </message>
+    <message>
+        <source>Turn the grey one</source>
+        <translation>灰色のホイールを回す</translation>
+    </message>
+    <message>
+        <source>Trim a clip</source>
+        <translation>クリップをトリム</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>フレーム %1</translation>
+    </message>
+    <message>
+        <source>In %1   Out %2   Length %3</source>
+        <translation>イン %1   アウト %2   長さ %3</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Range handles</source>
+        <translation>範囲ハンドル</translation>
+    </message>
+    <message>
+        <source>Symmetric moves</source>
+        <translation>対称移動</translation>
+    </message>
+    <message>
+        <source>Tracking</source>
+        <translation>追従</translation>
+    </message>
+    <message>
+        <source>Spans</source>
+        <translation>スパン</translation>
+    </message>
+    <message>
+        <source>Handles pass</source>
+        <translation>ハンドルの追い越し可</translation>
+    </message>
+    <message>
+        <source>Handles meet</source>
+        <translation>ハンドルは接するまで</translation>
+    </message>
+    <message>
+        <source>Handles keep apart</source>
+        <translation>ハンドルは間隔を維持</translation>
+    </message>
+    <message>
+        <source>With tick marks</source>
+        <translation>目盛り付き</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <translation>範囲</translation>
+    </message>
+    <message>
+        <source>%1: triggered</source>
+        <translation>%1: 実行</translation>
+    </message>
+    <message>
+        <source>Click a field, then press the keys</source>
+        <translation>欄をクリックしてからキーを押します</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation>次のキュー</translation>
+    </message>
+    <message>
+        <source>Blackout</source>
+        <translation>暗転</translation>
+    </message>
+    <message>
+        <source>The shortcuts are those of this page. They work as long as no field has the focus.</source>
+        <translation>これらはこのページのショートカットです。どの欄にもフォーカスがない間だけ働きます。</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>ショートカット</translation>
+    </message>
+    <message>
+        <source>Click to jump, drag, hover</source>
+        <translation>クリックでジャンプ、ドラッグ、ポインターを重ねる</translation>
+    </message>
+    <message>
+        <source>Without jump</source>
+        <translation>ジャンプなし</translation>
+    </message>
+    <message>
+        <source>Set the level to 30 without a signal</source>
+        <translation>シグナルなしでレベルを 30 に設定</translation>
+    </message>
+    <message>
+        <source>Fader</source>
+        <translation>フェーダー</translation>
+    </message>
+    <message>
+        <source>Faders</source>
+        <translation>フェーダー</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>スライダー</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Search field, empty</source>
+        <translation>検索欄、空</translation>
+    </message>
+    <message>
+        <source>interview</source>
+        <translation>インタビュー</translation>
+    </message>
+    <message>
+        <source>Search field, with text</source>
+        <translation>検索欄、テキストあり</translation>
+    </message>
+    <message>
+        <source>Opening titles, second version</source>
+        <translation>オープニングタイトル、第 2 版</translation>
+    </message>
+    <message>
+        <source>Label that fits</source>
+        <translation>収まるラベル</translation>
+    </message>
+    <message>
+        <source>Cropped at the right</source>
+        <translation>右側を省略</translation>
+    </message>
+    <message>
+        <source>Cropped in the middle</source>
+        <translation>中央を省略</translation>
+    </message>
+    <message>
+        <source>Cropped at the left</source>
+        <translation>左側を省略</translation>
+    </message>
+    <message>
+        <source>Being edited</source>
+        <translation>編集中</translation>
+    </message>
+    <message>
+        <source>Click a name to edit it.</source>
+        <translation>名前をクリックすると編集できます。</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>「%1」に変更しました</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>テキスト欄</translation>
+    </message>
+    <message>
+        <source>(new edit)</source>
+        <translation>(新しい編集)</translation>
+    </message>
+    <message>
+        <source>Drag across a number; click it to type</source>
+        <translation>数値の上でドラッグ、クリックで入力</translation>
+    </message>
+    <message>
+        <source>Ctrl doubles the speed of a drag, Shift halves it.</source>
+        <translation>ドラッグ速度は Ctrl で 2 倍、Shift で半分になります。</translation>
+    </message>
+    <message>
+        <source>Show the mixed selection as --</source>
+        <translation>混在した選択を -- と表示</translation>
+    </message>
+    <message>
+        <source>Open the port</source>
+        <translation>ポートを開く</translation>
     </message>
 </context>
 <context>

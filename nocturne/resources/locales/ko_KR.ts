@@ -278,10 +278,6 @@
         <translation>평면</translation>
     </message>
     <message>
-        <source>Flat default</source>
-        <translation>평면, 기본값</translation>
-    </message>
-    <message>
         <source>Focused</source>
         <translation>포커스 있음</translation>
     </message>
@@ -1010,6 +1006,530 @@ Fade to black.</source>
     <message>
         <source>With an icon</source>
         <translation>아이콘 있음</translation>
+    </message>
+    <message>
+        <source>Ramp: press to add, drag to move, drag away to remove, double-click for a colour</source>
+        <translation>램프: 눌러서 추가, 끌어서 이동, 밖으로 끌어서 제거, 두 번 클릭하여 색 선택</translation>
+    </message>
+    <message>
+        <source>Opacity of the chosen colour</source>
+        <translation>선택한 색의 불투명도</translation>
+    </message>
+    <message>
+        <source>Buttons: click for a dialog, drag a colour onto another</source>
+        <translation>단추: 클릭하면 대화 상자, 색을 다른 색 위로 끌기</translation>
+    </message>
+    <message>
+        <source>(accepted)</source>
+        <translation>(적용됨)</translation>
+    </message>
+    <message>
+        <source>(preview)</source>
+        <translation>(미리 보기)</translation>
+    </message>
+    <message>
+        <source>Bars and dots</source>
+        <translation>막대와 점</translation>
+    </message>
+    <message>
+        <source>Blink</source>
+        <translation>깜박임</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>색</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>카메라</translation>
+    </message>
+    <message>
+        <source>Stage left</source>
+        <translation>무대 왼쪽</translation>
+    </message>
+    <message>
+        <source>Stage right</source>
+        <translation>무대 오른쪽</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>클립</translation>
+    </message>
+    <message>
+        <source>Intro</source>
+        <translation>인트로</translation>
+    </message>
+    <message>
+        <source>Interview</source>
+        <translation>인터뷰</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>레코더</translation>
+    </message>
+    <message>
+        <source>No output</source>
+        <translation>출력 없음</translation>
+    </message>
+    <message>
+        <source>All outputs</source>
+        <translation>모든 출력</translation>
+    </message>
+    <message>
+        <source>Undetermined</source>
+        <translation>미정</translation>
+    </message>
+    <message>
+        <source>Tonight live from the studio</source>
+        <translation>오늘 밤 스튜디오에서 생방송</translation>
+    </message>
+    <message>
+        <source>Grouped</source>
+        <translation>그룹화됨</translation>
+    </message>
+    <message>
+        <source>Its list</source>
+        <translation>해당 목록</translation>
+    </message>
+    <message>
+        <source>None checked</source>
+        <translation>모두 선택 안 됨</translation>
+    </message>
+    <message>
+        <source>Some checked</source>
+        <translation>일부 항목 선택됨</translation>
+    </message>
+    <message>
+        <source>All checked</source>
+        <translation>모두 선택됨</translation>
+    </message>
+    <message>
+        <source>Without items</source>
+        <translation>항목 없음</translation>
+    </message>
+    <message>
+        <source>Their list</source>
+        <translation>이들의 목록</translation>
+    </message>
+    <message>
+        <source>Font with preview</source>
+        <translation>미리 보기가 있는 글꼴</translation>
+    </message>
+    <message>
+        <source>Grouped and check combo boxes</source>
+        <translation>그룹 및 확인란 콤보 상자</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>정보</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>질문</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>위험</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>메시지 상자</translation>
+    </message>
+    <message>
+        <source>Take the next cue live?</source>
+        <translation>다음 큐를 라이브로 내보낼까요?</translation>
+    </message>
+    <message>
+        <source>Use own button texts from now on</source>
+        <translation>이제부터 사용자 단추 텍스트 사용</translation>
+    </message>
+    <message>
+        <source>Take it live</source>
+        <translation>라이브로 내보내기</translation>
+    </message>
+    <message>
+        <source>Balloons</source>
+        <translation>풍선 도움말</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>화살표</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>왼쪽 위</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>오른쪽 위</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>왼쪽 아래</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>오른쪽 아래</translation>
+    </message>
+    <message>
+        <source>The recording disk has room for five more minutes.</source>
+        <translation>녹화 디스크에 5분 분량의 공간이 남았습니다.</translation>
+    </message>
+    <message>
+        <source>File choosers</source>
+        <translation>파일 선택기</translation>
+    </message>
+    <message>
+        <source>Media file</source>
+        <translation>미디어 파일</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>폴더</translation>
+    </message>
+    <message>
+        <source>Recent videos</source>
+        <translation>최근 비디오</translation>
+    </message>
+    <message>
+        <source>Reported</source>
+        <translation>보고된 값</translation>
+    </message>
+    <message>
+        <source>Letter box</source>
+        <translation>레터박스</translation>
+    </message>
+    <message>
+        <source>Resize delay</source>
+        <translation>크기 조정 지연</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>여백</translation>
+    </message>
+    <message>
+        <source>Dialogs and pickers</source>
+        <translation>대화 상자와 선택기</translation>
+    </message>
+    <message>
+        <source>Files you drop appear below</source>
+        <translation>놓은 파일은 아래에 표시됩니다</translation>
+    </message>
+    <message>
+        <source>(not a local file)</source>
+        <translation>(로컬 파일이 아님)</translation>
+    </message>
+    <message>
+        <source>Drop files here</source>
+        <translation>여기에 파일 놓기</translation>
+    </message>
+    <message>
+        <source>Icons with the item delegate</source>
+        <translation>항목 대리자로 그린 아이콘</translation>
+    </message>
+    <message>
+        <source>Drag a clip onto another.</source>
+        <translation>클립을 다른 클립 위로 끌어 놓으세요.</translation>
+    </message>
+    <message>
+        <source>the end</source>
+        <translation>목록 끝</translation>
+    </message>
+    <message>
+        <source>%1 was dropped on %2.</source>
+        <translation>%1을(를) 놓은 위치: %2.</translation>
+    </message>
+    <message>
+        <source>Moves are reported, the host moves</source>
+        <translation>이동은 알리고 호스트가 이동</translation>
+    </message>
+    <message>
+        <source>Rows dragged as they look</source>
+        <translation>보이는 그대로 끌리는 행</translation>
+    </message>
+    <message>
+        <source>Drag the selected rows.</source>
+        <translation>선택한 행을 끄세요.</translation>
+    </message>
+    <message>
+        <source>Lists to drag and drop</source>
+        <translation>끌어서 놓기 목록</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>수신</translation>
+    </message>
+    <message>
+        <source>%1 messages</source>
+        <translation>메시지 %1개</translation>
+    </message>
+    <message>
+        <source>Learn</source>
+        <translation>학습</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>입력</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>출력</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>새로 고침</translation>
+    </message>
+    <message>
+        <source>Open a virtual port</source>
+        <translation>가상 포트 열기</translation>
+    </message>
+    <message>
+        <source>No port is open.</source>
+        <translation>열린 포트가 없습니다.</translation>
+    </message>
+    <message>
+        <source>No MIDI service is running, or it has no port.</source>
+        <translation>MIDI 서비스가 실행 중이 아니거나 포트가 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is open.</source>
+        <translation>%1이(가) 열려 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is gone.</source>
+        <translation>%1이(가) 사라졌습니다.</translation>
+    </message>
+    <message>
+        <source>Asked for the virtual port %1.</source>
+        <translation>가상 포트 %1을(를) 요청했습니다.</translation>
+    </message>
+    <message>
+        <source>Send to the output</source>
+        <translation>출력으로 보내기</translation>
+    </message>
+    <message>
+        <source>Note (hold)</source>
+        <translation>노트 (누르고 있기)</translation>
+    </message>
+    <message>
+        <source>Controller 7</source>
+        <translation>컨트롤러 7</translation>
+    </message>
+    <message>
+        <source>Learn a message for the level</source>
+        <translation>레벨에 쓸 메시지 학습</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>지우기</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>Simulate a stream of 10,000 messages a second</source>
+        <translation>초당 10,000개 메시지 스트림 시뮬레이션</translation>
+    </message>
+    <message>
+        <source>MIDI</source>
+        <translation>MIDI</translation>
+    </message>
+    <message>
+        <source>Rings</source>
+        <translation>링</translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation>막대</translation>
+    </message>
+    <message>
+        <source>Busy wheels</source>
+        <translation>대기 휠</translation>
+    </message>
+    <message>
+        <source>Turn the grey one</source>
+        <translation>회색 휠 돌리기</translation>
+    </message>
+    <message>
+        <source>Trim a clip</source>
+        <translation>클립 트리밍</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>프레임 %1</translation>
+    </message>
+    <message>
+        <source>In %1   Out %2   Length %3</source>
+        <translation>인 %1   아웃 %2   길이 %3</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>재생</translation>
+    </message>
+    <message>
+        <source>Range handles</source>
+        <translation>범위 핸들</translation>
+    </message>
+    <message>
+        <source>Symmetric moves</source>
+        <translation>대칭 이동</translation>
+    </message>
+    <message>
+        <source>Tracking</source>
+        <translation>실시간 추적</translation>
+    </message>
+    <message>
+        <source>Spans</source>
+        <translation>구간</translation>
+    </message>
+    <message>
+        <source>Handles pass</source>
+        <translation>핸들 교차 가능</translation>
+    </message>
+    <message>
+        <source>Handles meet</source>
+        <translation>핸들이 만남</translation>
+    </message>
+    <message>
+        <source>Handles keep apart</source>
+        <translation>핸들 간격 유지</translation>
+    </message>
+    <message>
+        <source>With tick marks</source>
+        <translation>눈금 있음</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <translation>범위</translation>
+    </message>
+    <message>
+        <source>%1: triggered</source>
+        <translation>%1: 실행됨</translation>
+    </message>
+    <message>
+        <source>Click a field, then press the keys</source>
+        <translation>입력란을 클릭한 다음 키를 누르세요</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>정지</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation>다음 큐</translation>
+    </message>
+    <message>
+        <source>Blackout</source>
+        <translation>암전</translation>
+    </message>
+    <message>
+        <source>The shortcuts are those of this page. They work as long as no field has the focus.</source>
+        <translation>이 페이지의 바로 가기 키입니다. 어느 입력란에도 포커스가 없을 때 작동합니다.</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>바로 가기 키</translation>
+    </message>
+    <message>
+        <source>Click to jump, drag, hover</source>
+        <translation>클릭하여 이동, 끌기, 포인터 올리기</translation>
+    </message>
+    <message>
+        <source>Without jump</source>
+        <translation>건너뛰기 없음</translation>
+    </message>
+    <message>
+        <source>Set the level to 30 without a signal</source>
+        <translation>신호 없이 레벨을 30으로 설정</translation>
+    </message>
+    <message>
+        <source>Fader</source>
+        <translation>페이더</translation>
+    </message>
+    <message>
+        <source>Faders</source>
+        <translation>페이더</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>슬라이더</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>검색</translation>
+    </message>
+    <message>
+        <source>Search field, empty</source>
+        <translation>검색란, 비어 있음</translation>
+    </message>
+    <message>
+        <source>interview</source>
+        <translation>인터뷰</translation>
+    </message>
+    <message>
+        <source>Search field, with text</source>
+        <translation>검색란, 텍스트 있음</translation>
+    </message>
+    <message>
+        <source>Opening titles, second version</source>
+        <translation>오프닝 타이틀, 두 번째 버전</translation>
+    </message>
+    <message>
+        <source>Label that fits</source>
+        <translation>맞는 레이블</translation>
+    </message>
+    <message>
+        <source>Cropped at the right</source>
+        <translation>오른쪽 잘림</translation>
+    </message>
+    <message>
+        <source>Cropped in the middle</source>
+        <translation>가운데 잘림</translation>
+    </message>
+    <message>
+        <source>Cropped at the left</source>
+        <translation>왼쪽 잘림</translation>
+    </message>
+    <message>
+        <source>Being edited</source>
+        <translation>편집 중</translation>
+    </message>
+    <message>
+        <source>Click a name to edit it.</source>
+        <translation>이름을 클릭하면 편집할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>“%1”(으)로 이름 변경됨</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>텍스트 입력란</translation>
+    </message>
+    <message>
+        <source>(new edit)</source>
+        <translation>(새 편집)</translation>
+    </message>
+    <message>
+        <source>Drag across a number; click it to type</source>
+        <translation>숫자 위에서 끌기, 클릭하여 입력</translation>
+    </message>
+    <message>
+        <source>Ctrl doubles the speed of a drag, Shift halves it.</source>
+        <translation>끄는 속도는 Ctrl을 누르면 두 배, Shift를 누르면 절반이 됩니다.</translation>
+    </message>
+    <message>
+        <source>Show the mixed selection as --</source>
+        <translation>혼합 선택을 --로 표시</translation>
+    </message>
+    <message>
+        <source>Open the port</source>
+        <translation>포트 열기</translation>
     </message>
 </context>
 <context>

@@ -278,10 +278,6 @@
         <translation>Plano</translation>
     </message>
     <message>
-        <source>Flat default</source>
-        <translation>Plano, predefinido</translation>
-    </message>
-    <message>
         <source>Focused</source>
         <translation>Com foco</translation>
     </message>
@@ -575,7 +571,7 @@
     </message>
     <message>
         <source>Title only</source>
-        <translation>Apenas título</translation>
+        <translation>Só título</translation>
     </message>
     <message>
         <source>Titles</source>
@@ -595,7 +591,7 @@
     </message>
     <message>
         <source>Unchecked</source>
-        <translation>Não marcado</translation>
+        <translation>Sem marca</translation>
     </message>
     <message>
         <source>Up hovered</source>
@@ -1010,6 +1006,530 @@ Fundir para preto.</translation>
     <message>
         <source>With an icon</source>
         <translation>Com ícone</translation>
+    </message>
+    <message>
+        <source>Ramp: press to add, drag to move, drag away to remove, double-click for a colour</source>
+        <translation>Rampa: prima para adicionar, arraste para mover, arraste para fora para remover, duplo clique para uma cor</translation>
+    </message>
+    <message>
+        <source>Opacity of the chosen colour</source>
+        <translation>Opacidade da cor escolhida</translation>
+    </message>
+    <message>
+        <source>Buttons: click for a dialog, drag a colour onto another</source>
+        <translation>Botões: clique para um diálogo, arraste uma cor para outra</translation>
+    </message>
+    <message>
+        <source>(accepted)</source>
+        <translation>(aceite)</translation>
+    </message>
+    <message>
+        <source>(preview)</source>
+        <translation>(pré-visualização)</translation>
+    </message>
+    <message>
+        <source>Bars and dots</source>
+        <translation>Barras e pontos</translation>
+    </message>
+    <message>
+        <source>Blink</source>
+        <translation>Piscar</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Cores</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Câmaras</translation>
+    </message>
+    <message>
+        <source>Stage left</source>
+        <translation>Palco, esquerda</translation>
+    </message>
+    <message>
+        <source>Stage right</source>
+        <translation>Palco, direita</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clipes</translation>
+    </message>
+    <message>
+        <source>Intro</source>
+        <translation>Introdução</translation>
+    </message>
+    <message>
+        <source>Interview</source>
+        <translation>Entrevista</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>Gravador</translation>
+    </message>
+    <message>
+        <source>No output</source>
+        <translation>Nenhuma saída</translation>
+    </message>
+    <message>
+        <source>All outputs</source>
+        <translation>Todas as saídas</translation>
+    </message>
+    <message>
+        <source>Undetermined</source>
+        <translation>Indeterminado</translation>
+    </message>
+    <message>
+        <source>Tonight live from the studio</source>
+        <translation>Esta noite em direto do estúdio</translation>
+    </message>
+    <message>
+        <source>Grouped</source>
+        <translation>Agrupada</translation>
+    </message>
+    <message>
+        <source>Its list</source>
+        <translation>A sua lista</translation>
+    </message>
+    <message>
+        <source>None checked</source>
+        <translation>Nenhum marcado</translation>
+    </message>
+    <message>
+        <source>Some checked</source>
+        <translation>Alguns marcados</translation>
+    </message>
+    <message>
+        <source>All checked</source>
+        <translation>Todos marcados</translation>
+    </message>
+    <message>
+        <source>Without items</source>
+        <translation>Sem itens</translation>
+    </message>
+    <message>
+        <source>Their list</source>
+        <translation>A lista delas</translation>
+    </message>
+    <message>
+        <source>Font with preview</source>
+        <translation>Tipo de letra com pré-visualização</translation>
+    </message>
+    <message>
+        <source>Grouped and check combo boxes</source>
+        <translation>Caixas de combinação com grupos e marcas</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informação</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Pergunta</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Crítico</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Caixas de mensagem</translation>
+    </message>
+    <message>
+        <source>Take the next cue live?</source>
+        <translation>Pôr o próximo cue no ar?</translation>
+    </message>
+    <message>
+        <source>Use own button texts from now on</source>
+        <translation>Usar textos de botão próprios a partir de agora</translation>
+    </message>
+    <message>
+        <source>Take it live</source>
+        <translation>Pôr no ar</translation>
+    </message>
+    <message>
+        <source>Balloons</source>
+        <translation>Balões</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Seta</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Em cima à esquerda</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Em cima à direita</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Em baixo à esquerda</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Em baixo à direita</translation>
+    </message>
+    <message>
+        <source>The recording disk has room for five more minutes.</source>
+        <translation>O disco de gravação tem espaço para mais cinco minutos.</translation>
+    </message>
+    <message>
+        <source>File choosers</source>
+        <translation>Seletores de ficheiro</translation>
+    </message>
+    <message>
+        <source>Media file</source>
+        <translation>Ficheiro multimédia</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Pasta</translation>
+    </message>
+    <message>
+        <source>Recent videos</source>
+        <translation>Vídeos recentes</translation>
+    </message>
+    <message>
+        <source>Reported</source>
+        <translation>Comunicado</translation>
+    </message>
+    <message>
+        <source>Letter box</source>
+        <translation>Barras pretas</translation>
+    </message>
+    <message>
+        <source>Resize delay</source>
+        <translation>Atraso do redimensionamento</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Margem</translation>
+    </message>
+    <message>
+        <source>Dialogs and pickers</source>
+        <translation>Diálogos e seletores</translation>
+    </message>
+    <message>
+        <source>Files you drop appear below</source>
+        <translation>Os ficheiros largados aparecem em baixo</translation>
+    </message>
+    <message>
+        <source>(not a local file)</source>
+        <translation>(não é um ficheiro local)</translation>
+    </message>
+    <message>
+        <source>Drop files here</source>
+        <translation>Largue ficheiros aqui</translation>
+    </message>
+    <message>
+        <source>Icons with the item delegate</source>
+        <translation>Ícones com o delegado de itens</translation>
+    </message>
+    <message>
+        <source>Drag a clip onto another.</source>
+        <translation>Arraste um clipe para outro.</translation>
+    </message>
+    <message>
+        <source>the end</source>
+        <translation>fim da lista</translation>
+    </message>
+    <message>
+        <source>%1 was dropped on %2.</source>
+        <translation>%1 largado em: %2.</translation>
+    </message>
+    <message>
+        <source>Moves are reported, the host moves</source>
+        <translation>O movimento é comunicado, a aplicação move</translation>
+    </message>
+    <message>
+        <source>Rows dragged as they look</source>
+        <translation>Linhas arrastadas tal como aparecem</translation>
+    </message>
+    <message>
+        <source>Drag the selected rows.</source>
+        <translation>Arraste as linhas selecionadas.</translation>
+    </message>
+    <message>
+        <source>Lists to drag and drop</source>
+        <translation>Listas para arrastar e largar</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recebido</translation>
+    </message>
+    <message>
+        <source>%1 messages</source>
+        <translation>%1 mensagens</translation>
+    </message>
+    <message>
+        <source>Learn</source>
+        <translation>Aprender</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Entrada</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Saída</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Atualizar</translation>
+    </message>
+    <message>
+        <source>Open a virtual port</source>
+        <translation>Abrir uma porta virtual</translation>
+    </message>
+    <message>
+        <source>No port is open.</source>
+        <translation>Nenhuma porta está aberta.</translation>
+    </message>
+    <message>
+        <source>No MIDI service is running, or it has no port.</source>
+        <translation>Nenhum serviço MIDI está em execução, ou não tem portas.</translation>
+    </message>
+    <message>
+        <source>%1 is open.</source>
+        <translation>%1 está aberta.</translation>
+    </message>
+    <message>
+        <source>%1 is gone.</source>
+        <translation>%1 já não existe.</translation>
+    </message>
+    <message>
+        <source>Asked for the virtual port %1.</source>
+        <translation>Pedida a porta virtual %1.</translation>
+    </message>
+    <message>
+        <source>Send to the output</source>
+        <translation>Enviar para a saída</translation>
+    </message>
+    <message>
+        <source>Note (hold)</source>
+        <translation>Nota (manter premido)</translation>
+    </message>
+    <message>
+        <source>Controller 7</source>
+        <translation>Controlador 7</translation>
+    </message>
+    <message>
+        <source>Learn a message for the level</source>
+        <translation>Aprender uma mensagem para o nível</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Limpar</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Anular</translation>
+    </message>
+    <message>
+        <source>Simulate a stream of 10,000 messages a second</source>
+        <translation>Simular um fluxo de 10 000 mensagens por segundo</translation>
+    </message>
+    <message>
+        <source>MIDI</source>
+        <translation>MIDI</translation>
+    </message>
+    <message>
+        <source>Rings</source>
+        <translation>Anéis</translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation>Barras</translation>
+    </message>
+    <message>
+        <source>Busy wheels</source>
+        <translation>Rodas de espera</translation>
+    </message>
+    <message>
+        <source>Turn the grey one</source>
+        <translation>Rodar a cinzenta</translation>
+    </message>
+    <message>
+        <source>Trim a clip</source>
+        <translation>Aparar um clipe</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>Fotograma %1</translation>
+    </message>
+    <message>
+        <source>In %1   Out %2   Length %3</source>
+        <translation>Entrada %1   Saída %2   Duração %3</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproduzir</translation>
+    </message>
+    <message>
+        <source>Range handles</source>
+        <translation>Pegas do intervalo</translation>
+    </message>
+    <message>
+        <source>Symmetric moves</source>
+        <translation>Movimento simétrico</translation>
+    </message>
+    <message>
+        <source>Tracking</source>
+        <translation>Seguimento contínuo</translation>
+    </message>
+    <message>
+        <source>Spans</source>
+        <translation>Intervalos</translation>
+    </message>
+    <message>
+        <source>Handles pass</source>
+        <translation>As pegas cruzam-se</translation>
+    </message>
+    <message>
+        <source>Handles meet</source>
+        <translation>As pegas encontram-se</translation>
+    </message>
+    <message>
+        <source>Handles keep apart</source>
+        <translation>As pegas mantêm distância</translation>
+    </message>
+    <message>
+        <source>With tick marks</source>
+        <translation>Com marcas</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <translation>Intervalos</translation>
+    </message>
+    <message>
+        <source>%1: triggered</source>
+        <translation>%1: acionado</translation>
+    </message>
+    <message>
+        <source>Click a field, then press the keys</source>
+        <translation>Clique num campo e prima as teclas</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation>Próximo cue</translation>
+    </message>
+    <message>
+        <source>Blackout</source>
+        <translation>Blackout</translation>
+    </message>
+    <message>
+        <source>The shortcuts are those of this page. They work as long as no field has the focus.</source>
+        <translation>Os atalhos são os desta página. Funcionam enquanto nenhum campo tiver o foco.</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Atalhos</translation>
+    </message>
+    <message>
+        <source>Click to jump, drag, hover</source>
+        <translation>Clicar para saltar, arrastar, passar por cima</translation>
+    </message>
+    <message>
+        <source>Without jump</source>
+        <translation>Sem salto</translation>
+    </message>
+    <message>
+        <source>Set the level to 30 without a signal</source>
+        <translation>Pôr o nível em 30 sem sinal</translation>
+    </message>
+    <message>
+        <source>Fader</source>
+        <translation>Fader</translation>
+    </message>
+    <message>
+        <source>Faders</source>
+        <translation>Faders</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Controlos deslizantes</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Procurar</translation>
+    </message>
+    <message>
+        <source>Search field, empty</source>
+        <translation>Campo de procura, vazio</translation>
+    </message>
+    <message>
+        <source>interview</source>
+        <translation>entrevista</translation>
+    </message>
+    <message>
+        <source>Search field, with text</source>
+        <translation>Campo de procura, com texto</translation>
+    </message>
+    <message>
+        <source>Opening titles, second version</source>
+        <translation>Genérico de abertura, segunda versão</translation>
+    </message>
+    <message>
+        <source>Label that fits</source>
+        <translation>Etiqueta que cabe</translation>
+    </message>
+    <message>
+        <source>Cropped at the right</source>
+        <translation>Cortada à direita</translation>
+    </message>
+    <message>
+        <source>Cropped in the middle</source>
+        <translation>Cortada ao meio</translation>
+    </message>
+    <message>
+        <source>Cropped at the left</source>
+        <translation>Cortada à esquerda</translation>
+    </message>
+    <message>
+        <source>Being edited</source>
+        <translation>Em edição</translation>
+    </message>
+    <message>
+        <source>Click a name to edit it.</source>
+        <translation>Clique num nome para o editar.</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>Nome alterado para «%1»</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>Campos de texto</translation>
+    </message>
+    <message>
+        <source>(new edit)</source>
+        <translation>(nova edição)</translation>
+    </message>
+    <message>
+        <source>Drag across a number; click it to type</source>
+        <translation>Arraste sobre um número; clique para o escrever</translation>
+    </message>
+    <message>
+        <source>Ctrl doubles the speed of a drag, Shift halves it.</source>
+        <translation>Ctrl duplica a velocidade do arrasto, Shift reduz para metade.</translation>
+    </message>
+    <message>
+        <source>Show the mixed selection as --</source>
+        <translation>Mostrar a seleção mista como --</translation>
+    </message>
+    <message>
+        <source>Open the port</source>
+        <translation>Abrir a porta</translation>
     </message>
 </context>
 <context>

@@ -278,10 +278,6 @@
         <translation>Плоская</translation>
     </message>
     <message>
-        <source>Flat default</source>
-        <translation>Плоская, по умолчанию</translation>
-    </message>
-    <message>
         <source>Focused</source>
         <translation>В фокусе</translation>
     </message>
@@ -575,7 +571,7 @@
     </message>
     <message>
         <source>Title only</source>
-        <translation>Только заголовок</translation>
+        <translation>Без флажка</translation>
     </message>
     <message>
         <source>Titles</source>
@@ -595,7 +591,7 @@
     </message>
     <message>
         <source>Unchecked</source>
-        <translation>Не отмечено</translation>
+        <translation>Снято</translation>
     </message>
     <message>
         <source>Up hovered</source>
@@ -1010,6 +1006,530 @@ Fade to black.</source>
     <message>
         <source>With an icon</source>
         <translation>Со значком</translation>
+    </message>
+    <message>
+        <source>Ramp: press to add, drag to move, drag away to remove, double-click for a colour</source>
+        <translation>Градиент: нажмите — добавить, перетащите — сдвинуть, утащите прочь — удалить, двойной щелчок — цвет</translation>
+    </message>
+    <message>
+        <source>Opacity of the chosen colour</source>
+        <translation>Непрозрачность выбранного цвета</translation>
+    </message>
+    <message>
+        <source>Buttons: click for a dialog, drag a colour onto another</source>
+        <translation>Кнопки: щелчок открывает диалог, цвет можно перетащить на другой</translation>
+    </message>
+    <message>
+        <source>(accepted)</source>
+        <translation>(принято)</translation>
+    </message>
+    <message>
+        <source>(preview)</source>
+        <translation>(предпросмотр)</translation>
+    </message>
+    <message>
+        <source>Bars and dots</source>
+        <translation>Полосы и точки</translation>
+    </message>
+    <message>
+        <source>Blink</source>
+        <translation>Мигание</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Цвета</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Камеры</translation>
+    </message>
+    <message>
+        <source>Stage left</source>
+        <translation>Сцена слева</translation>
+    </message>
+    <message>
+        <source>Stage right</source>
+        <translation>Сцена справа</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Клипы</translation>
+    </message>
+    <message>
+        <source>Intro</source>
+        <translation>Заставка</translation>
+    </message>
+    <message>
+        <source>Interview</source>
+        <translation>Интервью</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>Рекордер</translation>
+    </message>
+    <message>
+        <source>No output</source>
+        <translation>Нет выхода</translation>
+    </message>
+    <message>
+        <source>All outputs</source>
+        <translation>Все выходы</translation>
+    </message>
+    <message>
+        <source>Undetermined</source>
+        <translation>Не определено</translation>
+    </message>
+    <message>
+        <source>Tonight live from the studio</source>
+        <translation>Сегодня вечером в прямом эфире из студии</translation>
+    </message>
+    <message>
+        <source>Grouped</source>
+        <translation>С группами</translation>
+    </message>
+    <message>
+        <source>Its list</source>
+        <translation>Его список</translation>
+    </message>
+    <message>
+        <source>None checked</source>
+        <translation>Ничего не отмечено</translation>
+    </message>
+    <message>
+        <source>Some checked</source>
+        <translation>Некоторые отмечены</translation>
+    </message>
+    <message>
+        <source>All checked</source>
+        <translation>Отмечены все</translation>
+    </message>
+    <message>
+        <source>Without items</source>
+        <translation>Без элементов</translation>
+    </message>
+    <message>
+        <source>Their list</source>
+        <translation>Их список</translation>
+    </message>
+    <message>
+        <source>Font with preview</source>
+        <translation>Шрифт с образцом</translation>
+    </message>
+    <message>
+        <source>Grouped and check combo boxes</source>
+        <translation>Списки с группами и флажками</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Сведения</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Вопрос</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Критическая ошибка</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>Окна сообщений</translation>
+    </message>
+    <message>
+        <source>Take the next cue live?</source>
+        <translation>Выдать следующий кью в эфир?</translation>
+    </message>
+    <message>
+        <source>Use own button texts from now on</source>
+        <translation>Дальше использовать свои надписи на кнопках</translation>
+    </message>
+    <message>
+        <source>Take it live</source>
+        <translation>Выдать в эфир</translation>
+    </message>
+    <message>
+        <source>Balloons</source>
+        <translation>Всплывающие сообщения</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Стрелка</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Вверху слева</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Вверху справа</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Внизу слева</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Внизу справа</translation>
+    </message>
+    <message>
+        <source>The recording disk has room for five more minutes.</source>
+        <translation>На диске записи осталось места на пять минут.</translation>
+    </message>
+    <message>
+        <source>File choosers</source>
+        <translation>Выбор файлов</translation>
+    </message>
+    <message>
+        <source>Media file</source>
+        <translation>Медиафайл</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Папка</translation>
+    </message>
+    <message>
+        <source>Recent videos</source>
+        <translation>Недавние видео</translation>
+    </message>
+    <message>
+        <source>Reported</source>
+        <translation>Сообщено</translation>
+    </message>
+    <message>
+        <source>Letter box</source>
+        <translation>Леттербокс</translation>
+    </message>
+    <message>
+        <source>Resize delay</source>
+        <translation>Задержка изменения размера</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Поле</translation>
+    </message>
+    <message>
+        <source>Dialogs and pickers</source>
+        <translation>Диалоги и средства выбора</translation>
+    </message>
+    <message>
+        <source>Files you drop appear below</source>
+        <translation>Перетащенные файлы появятся ниже</translation>
+    </message>
+    <message>
+        <source>(not a local file)</source>
+        <translation>(не локальный файл)</translation>
+    </message>
+    <message>
+        <source>Drop files here</source>
+        <translation>Перетащите файлы сюда</translation>
+    </message>
+    <message>
+        <source>Icons with the item delegate</source>
+        <translation>Значки с делегатом элементов</translation>
+    </message>
+    <message>
+        <source>Drag a clip onto another.</source>
+        <translation>Перетащите один клип на другой.</translation>
+    </message>
+    <message>
+        <source>the end</source>
+        <translation>конец списка</translation>
+    </message>
+    <message>
+        <source>%1 was dropped on %2.</source>
+        <translation>%1 — место сброса: %2.</translation>
+    </message>
+    <message>
+        <source>Moves are reported, the host moves</source>
+        <translation>О перемещении сообщается, перемещает приложение</translation>
+    </message>
+    <message>
+        <source>Rows dragged as they look</source>
+        <translation>Строки тянутся такими, как выглядят</translation>
+    </message>
+    <message>
+        <source>Drag the selected rows.</source>
+        <translation>Перетащите выделенные строки.</translation>
+    </message>
+    <message>
+        <source>Lists to drag and drop</source>
+        <translation>Списки с перетаскиванием</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Получено</translation>
+    </message>
+    <message>
+        <source>%1 messages</source>
+        <translation>Сообщений: %1</translation>
+    </message>
+    <message>
+        <source>Learn</source>
+        <translation>Обучение</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Вход</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <source>Open a virtual port</source>
+        <translation>Открыть виртуальный порт</translation>
+    </message>
+    <message>
+        <source>No port is open.</source>
+        <translation>Ни один порт не открыт.</translation>
+    </message>
+    <message>
+        <source>No MIDI service is running, or it has no port.</source>
+        <translation>Служба MIDI не запущена или у неё нет портов.</translation>
+    </message>
+    <message>
+        <source>%1 is open.</source>
+        <translation>Порт %1 открыт.</translation>
+    </message>
+    <message>
+        <source>%1 is gone.</source>
+        <translation>Порта %1 больше нет.</translation>
+    </message>
+    <message>
+        <source>Asked for the virtual port %1.</source>
+        <translation>Запрошен виртуальный порт %1.</translation>
+    </message>
+    <message>
+        <source>Send to the output</source>
+        <translation>Отправить на выход</translation>
+    </message>
+    <message>
+        <source>Note (hold)</source>
+        <translation>Нота (удерживать)</translation>
+    </message>
+    <message>
+        <source>Controller 7</source>
+        <translation>Контроллер 7</translation>
+    </message>
+    <message>
+        <source>Learn a message for the level</source>
+        <translation>Назначить сообщение для уровня</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Simulate a stream of 10,000 messages a second</source>
+        <translation>Имитировать поток в 10 000 сообщений в секунду</translation>
+    </message>
+    <message>
+        <source>MIDI</source>
+        <translation>MIDI</translation>
+    </message>
+    <message>
+        <source>Rings</source>
+        <translation>Кольца</translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation>Полосы</translation>
+    </message>
+    <message>
+        <source>Busy wheels</source>
+        <translation>Колёса ожидания</translation>
+    </message>
+    <message>
+        <source>Turn the grey one</source>
+        <translation>Вращать серое</translation>
+    </message>
+    <message>
+        <source>Trim a clip</source>
+        <translation>Подрезка клипа</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>Кадр %1</translation>
+    </message>
+    <message>
+        <source>In %1   Out %2   Length %3</source>
+        <translation>Вход %1   Выход %2   Длительность %3</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Воспроизвести</translation>
+    </message>
+    <message>
+        <source>Range handles</source>
+        <translation>Ручки диапазона</translation>
+    </message>
+    <message>
+        <source>Symmetric moves</source>
+        <translation>Симметричное движение</translation>
+    </message>
+    <message>
+        <source>Tracking</source>
+        <translation>Отслеживание</translation>
+    </message>
+    <message>
+        <source>Spans</source>
+        <translation>Промежутки</translation>
+    </message>
+    <message>
+        <source>Handles pass</source>
+        <translation>Ручки проходят друг через друга</translation>
+    </message>
+    <message>
+        <source>Handles meet</source>
+        <translation>Ручки встречаются</translation>
+    </message>
+    <message>
+        <source>Handles keep apart</source>
+        <translation>Ручки держат дистанцию</translation>
+    </message>
+    <message>
+        <source>With tick marks</source>
+        <translation>С делениями</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <translation>Диапазоны</translation>
+    </message>
+    <message>
+        <source>%1: triggered</source>
+        <translation>%1: сработало</translation>
+    </message>
+    <message>
+        <source>Click a field, then press the keys</source>
+        <translation>Щёлкните поле и нажмите клавиши</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Стоп</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation>Следующий кью</translation>
+    </message>
+    <message>
+        <source>Blackout</source>
+        <translation>Затемнение</translation>
+    </message>
+    <message>
+        <source>The shortcuts are those of this page. They work as long as no field has the focus.</source>
+        <translation>Эти сочетания клавиш относятся к данной странице. Они работают, пока ни одно поле не в фокусе.</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Сочетания клавиш</translation>
+    </message>
+    <message>
+        <source>Click to jump, drag, hover</source>
+        <translation>Щелчок — прыжок, перетаскивание, наведение</translation>
+    </message>
+    <message>
+        <source>Without jump</source>
+        <translation>Без прыжка</translation>
+    </message>
+    <message>
+        <source>Set the level to 30 without a signal</source>
+        <translation>Установить уровень 30 без сигнала</translation>
+    </message>
+    <message>
+        <source>Fader</source>
+        <translation>Фейдер</translation>
+    </message>
+    <message>
+        <source>Faders</source>
+        <translation>Фейдеры</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Ползунки</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Search field, empty</source>
+        <translation>Поле поиска, пустое</translation>
+    </message>
+    <message>
+        <source>interview</source>
+        <translation>интервью</translation>
+    </message>
+    <message>
+        <source>Search field, with text</source>
+        <translation>Поле поиска, с текстом</translation>
+    </message>
+    <message>
+        <source>Opening titles, second version</source>
+        <translation>Начальные титры, вторая версия</translation>
+    </message>
+    <message>
+        <source>Label that fits</source>
+        <translation>Надпись, которая помещается</translation>
+    </message>
+    <message>
+        <source>Cropped at the right</source>
+        <translation>Обрезана справа</translation>
+    </message>
+    <message>
+        <source>Cropped in the middle</source>
+        <translation>Обрезана посередине</translation>
+    </message>
+    <message>
+        <source>Cropped at the left</source>
+        <translation>Обрезана слева</translation>
+    </message>
+    <message>
+        <source>Being edited</source>
+        <translation>Редактируется</translation>
+    </message>
+    <message>
+        <source>Click a name to edit it.</source>
+        <translation>Щёлкните имя, чтобы изменить его.</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>Переименовано в «%1»</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>Текстовые поля</translation>
+    </message>
+    <message>
+        <source>(new edit)</source>
+        <translation>(новая правка)</translation>
+    </message>
+    <message>
+        <source>Drag across a number; click it to type</source>
+        <translation>Тяните по числу; щёлкните, чтобы ввести</translation>
+    </message>
+    <message>
+        <source>Ctrl doubles the speed of a drag, Shift halves it.</source>
+        <translation>Ctrl удваивает скорость перетаскивания, Shift — уменьшает вдвое.</translation>
+    </message>
+    <message>
+        <source>Show the mixed selection as --</source>
+        <translation>Показать смешанный выбор как --</translation>
+    </message>
+    <message>
+        <source>Open the port</source>
+        <translation>Открыть порт</translation>
     </message>
 </context>
 <context>

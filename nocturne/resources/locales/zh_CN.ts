@@ -278,10 +278,6 @@
         <translation>扁平</translation>
     </message>
     <message>
-        <source>Flat default</source>
-        <translation>扁平，默认</translation>
-    </message>
-    <message>
         <source>Focused</source>
         <translation>有焦点</translation>
     </message>
@@ -1010,6 +1006,530 @@ Fade to black.</source>
     <message>
         <source>With an icon</source>
         <translation>带图标</translation>
+    </message>
+    <message>
+        <source>Ramp: press to add, drag to move, drag away to remove, double-click for a colour</source>
+        <translation>渐变条：按下添加，拖动移动，拖离删除，双击选择颜色</translation>
+    </message>
+    <message>
+        <source>Opacity of the chosen colour</source>
+        <translation>所选颜色的不透明度</translation>
+    </message>
+    <message>
+        <source>Buttons: click for a dialog, drag a colour onto another</source>
+        <translation>按钮：单击打开对话框，将一种颜色拖到另一种上</translation>
+    </message>
+    <message>
+        <source>(accepted)</source>
+        <translation>（已确认）</translation>
+    </message>
+    <message>
+        <source>(preview)</source>
+        <translation>（预览）</translation>
+    </message>
+    <message>
+        <source>Bars and dots</source>
+        <translation>色条和圆点</translation>
+    </message>
+    <message>
+        <source>Blink</source>
+        <translation>闪烁</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>摄像机</translation>
+    </message>
+    <message>
+        <source>Stage left</source>
+        <translation>舞台左侧</translation>
+    </message>
+    <message>
+        <source>Stage right</source>
+        <translation>舞台右侧</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>片段</translation>
+    </message>
+    <message>
+        <source>Intro</source>
+        <translation>片头</translation>
+    </message>
+    <message>
+        <source>Interview</source>
+        <translation>采访</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>录像机</translation>
+    </message>
+    <message>
+        <source>No output</source>
+        <translation>无输出</translation>
+    </message>
+    <message>
+        <source>All outputs</source>
+        <translation>所有输出</translation>
+    </message>
+    <message>
+        <source>Undetermined</source>
+        <translation>未确定</translation>
+    </message>
+    <message>
+        <source>Tonight live from the studio</source>
+        <translation>今晚演播室现场直播</translation>
+    </message>
+    <message>
+        <source>Grouped</source>
+        <translation>分组</translation>
+    </message>
+    <message>
+        <source>Its list</source>
+        <translation>其列表</translation>
+    </message>
+    <message>
+        <source>None checked</source>
+        <translation>均未选中</translation>
+    </message>
+    <message>
+        <source>Some checked</source>
+        <translation>选中若干项</translation>
+    </message>
+    <message>
+        <source>All checked</source>
+        <translation>全部选中</translation>
+    </message>
+    <message>
+        <source>Without items</source>
+        <translation>无项目</translation>
+    </message>
+    <message>
+        <source>Their list</source>
+        <translation>它们的列表</translation>
+    </message>
+    <message>
+        <source>Font with preview</source>
+        <translation>带预览的字体</translation>
+    </message>
+    <message>
+        <source>Grouped and check combo boxes</source>
+        <translation>分组和勾选组合框</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>询问</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>严重</translation>
+    </message>
+    <message>
+        <source>Message boxes</source>
+        <translation>消息框</translation>
+    </message>
+    <message>
+        <source>Take the next cue live?</source>
+        <translation>将下一个 Cue 切到直播？</translation>
+    </message>
+    <message>
+        <source>Use own button texts from now on</source>
+        <translation>从现在起使用自定义按钮文本</translation>
+    </message>
+    <message>
+        <source>Take it live</source>
+        <translation>切到直播</translation>
+    </message>
+    <message>
+        <source>Balloons</source>
+        <translation>气泡提示</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>箭头</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>The recording disk has room for five more minutes.</source>
+        <translation>录制磁盘还可录制五分钟。</translation>
+    </message>
+    <message>
+        <source>File choosers</source>
+        <translation>文件选择器</translation>
+    </message>
+    <message>
+        <source>Media file</source>
+        <translation>媒体文件</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Recent videos</source>
+        <translation>最近的视频</translation>
+    </message>
+    <message>
+        <source>Reported</source>
+        <translation>报告的值</translation>
+    </message>
+    <message>
+        <source>Letter box</source>
+        <translation>信箱模式</translation>
+    </message>
+    <message>
+        <source>Resize delay</source>
+        <translation>调整大小延迟</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>边距</translation>
+    </message>
+    <message>
+        <source>Dialogs and pickers</source>
+        <translation>对话框和选择器</translation>
+    </message>
+    <message>
+        <source>Files you drop appear below</source>
+        <translation>拖放的文件显示在下方</translation>
+    </message>
+    <message>
+        <source>(not a local file)</source>
+        <translation>（不是本地文件）</translation>
+    </message>
+    <message>
+        <source>Drop files here</source>
+        <translation>将文件拖放到此处</translation>
+    </message>
+    <message>
+        <source>Icons with the item delegate</source>
+        <translation>使用项目委托的图标</translation>
+    </message>
+    <message>
+        <source>Drag a clip onto another.</source>
+        <translation>将一个片段拖到另一个上。</translation>
+    </message>
+    <message>
+        <source>the end</source>
+        <translation>列表末尾</translation>
+    </message>
+    <message>
+        <source>%1 was dropped on %2.</source>
+        <translation>已将“%1”放到“%2”上。</translation>
+    </message>
+    <message>
+        <source>Moves are reported, the host moves</source>
+        <translation>报告移动，由宿主移动</translation>
+    </message>
+    <message>
+        <source>Rows dragged as they look</source>
+        <translation>按原样拖动行</translation>
+    </message>
+    <message>
+        <source>Drag the selected rows.</source>
+        <translation>拖动所选的行。</translation>
+    </message>
+    <message>
+        <source>Lists to drag and drop</source>
+        <translation>可拖放的列表</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>已接收</translation>
+    </message>
+    <message>
+        <source>%1 messages</source>
+        <translation>%1 条消息</translation>
+    </message>
+    <message>
+        <source>Learn</source>
+        <translation>学习</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>输入</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>输出</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>Open a virtual port</source>
+        <translation>打开虚拟端口</translation>
+    </message>
+    <message>
+        <source>No port is open.</source>
+        <translation>没有打开的端口。</translation>
+    </message>
+    <message>
+        <source>No MIDI service is running, or it has no port.</source>
+        <translation>没有运行的 MIDI 服务，或者它没有端口。</translation>
+    </message>
+    <message>
+        <source>%1 is open.</source>
+        <translation>%1 已打开。</translation>
+    </message>
+    <message>
+        <source>%1 is gone.</source>
+        <translation>%1 已不存在。</translation>
+    </message>
+    <message>
+        <source>Asked for the virtual port %1.</source>
+        <translation>已请求虚拟端口 %1。</translation>
+    </message>
+    <message>
+        <source>Send to the output</source>
+        <translation>发送到输出</translation>
+    </message>
+    <message>
+        <source>Note (hold)</source>
+        <translation>音符（按住）</translation>
+    </message>
+    <message>
+        <source>Controller 7</source>
+        <translation>控制器 7</translation>
+    </message>
+    <message>
+        <source>Learn a message for the level</source>
+        <translation>为电平学习一条消息</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Simulate a stream of 10,000 messages a second</source>
+        <translation>模拟每秒 10,000 条消息的数据流</translation>
+    </message>
+    <message>
+        <source>MIDI</source>
+        <translation>MIDI</translation>
+    </message>
+    <message>
+        <source>Rings</source>
+        <translation>圆环</translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation>条形</translation>
+    </message>
+    <message>
+        <source>Busy wheels</source>
+        <translation>忙碌转轮</translation>
+    </message>
+    <message>
+        <source>Turn the grey one</source>
+        <translation>转动灰色转轮</translation>
+    </message>
+    <message>
+        <source>Trim a clip</source>
+        <translation>修剪片段</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>第 %1 帧</translation>
+    </message>
+    <message>
+        <source>In %1   Out %2   Length %3</source>
+        <translation>入点 %1   出点 %2   时长 %3</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Range handles</source>
+        <translation>范围手柄</translation>
+    </message>
+    <message>
+        <source>Symmetric moves</source>
+        <translation>对称移动</translation>
+    </message>
+    <message>
+        <source>Tracking</source>
+        <translation>实时跟踪</translation>
+    </message>
+    <message>
+        <source>Spans</source>
+        <translation>区间</translation>
+    </message>
+    <message>
+        <source>Handles pass</source>
+        <translation>手柄可交叉</translation>
+    </message>
+    <message>
+        <source>Handles meet</source>
+        <translation>手柄可相遇</translation>
+    </message>
+    <message>
+        <source>Handles keep apart</source>
+        <translation>手柄保持间隔</translation>
+    </message>
+    <message>
+        <source>With tick marks</source>
+        <translation>带刻度</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <translation>范围</translation>
+    </message>
+    <message>
+        <source>%1: triggered</source>
+        <translation>%1：已触发</translation>
+    </message>
+    <message>
+        <source>Click a field, then press the keys</source>
+        <translation>单击字段，然后按下按键</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Next cue</source>
+        <translation>下一个 Cue</translation>
+    </message>
+    <message>
+        <source>Blackout</source>
+        <translation>全场压暗</translation>
+    </message>
+    <message>
+        <source>The shortcuts are those of this page. They work as long as no field has the focus.</source>
+        <translation>这些是本页的快捷键，仅在没有字段获得焦点时有效。</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>Click to jump, drag, hover</source>
+        <translation>单击跳转、拖动、悬停</translation>
+    </message>
+    <message>
+        <source>Without jump</source>
+        <translation>不跳转</translation>
+    </message>
+    <message>
+        <source>Set the level to 30 without a signal</source>
+        <translation>不发信号地将电平设为 30</translation>
+    </message>
+    <message>
+        <source>Fader</source>
+        <translation>推子</translation>
+    </message>
+    <message>
+        <source>Faders</source>
+        <translation>推子</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>滑块</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Search field, empty</source>
+        <translation>搜索框，空</translation>
+    </message>
+    <message>
+        <source>interview</source>
+        <translation>采访</translation>
+    </message>
+    <message>
+        <source>Search field, with text</source>
+        <translation>搜索框，有文本</translation>
+    </message>
+    <message>
+        <source>Opening titles, second version</source>
+        <translation>片头字幕，第二版</translation>
+    </message>
+    <message>
+        <source>Label that fits</source>
+        <translation>能放下的标签</translation>
+    </message>
+    <message>
+        <source>Cropped at the right</source>
+        <translation>右侧截断</translation>
+    </message>
+    <message>
+        <source>Cropped in the middle</source>
+        <translation>中间截断</translation>
+    </message>
+    <message>
+        <source>Cropped at the left</source>
+        <translation>左侧截断</translation>
+    </message>
+    <message>
+        <source>Being edited</source>
+        <translation>正在编辑</translation>
+    </message>
+    <message>
+        <source>Click a name to edit it.</source>
+        <translation>单击名称进行编辑。</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>已重命名为“%1”</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>文本框</translation>
+    </message>
+    <message>
+        <source>(new edit)</source>
+        <translation>（新的编辑）</translation>
+    </message>
+    <message>
+        <source>Drag across a number; click it to type</source>
+        <translation>在数字上拖动；单击可输入</translation>
+    </message>
+    <message>
+        <source>Ctrl doubles the speed of a drag, Shift halves it.</source>
+        <translation>Ctrl 使拖动速度加倍，Shift 使其减半。</translation>
+    </message>
+    <message>
+        <source>Show the mixed selection as --</source>
+        <translation>将混合选择显示为 --</translation>
+    </message>
+    <message>
+        <source>Open the port</source>
+        <translation>打开端口</translation>
     </message>
 </context>
 <context>
