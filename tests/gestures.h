@@ -1,0 +1,182 @@
+#ifndef NOCTURNE_GESTURES_H
+#define NOCTURNE_GESTURES_H
+
+#include "testsupport.h"
+
+#include <QtGui/QMouseEvent>
+#include <QtGui/QScreen>
+#include <QtGui/QWheelEvent>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QProxyStyle>
+#include <QtWidgets/QStyleFactory>
+#include <QtWidgets/QStyleOptionSlider>
+
+#include <memory>
+
+namespace TestSupport {
+
+/// Whether \a widget takes a mouse event with exactly these buttons.
+inline bool sendMouse(QWidget *widget, QEvent::Type type, const QPoint &position,
+                      Qt::MouseButton button, Qt::MouseButtons buttons)
+{
+    QMouseEvent event(type, position, widget->mapToGlobal(position), button, buttons,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
+    return event.isAccepted();
+}
+
+/// A move with the left button held.
+inline bool sendDrag(QWidget *widget, const QPoint &position)
+{
+    return sendMouse(widget, QEvent::MouseMove, position, Qt::NoButton, Qt::LeftButton);
+}
+
+inline QWheelEvent wheelOver(const QWidget &widget, const QPoint &position = QPoint(5, 5))
+{
+    return QWheelEvent(position, widget.mapToGlobal(position), QPoint(), QPoint(0, -120),
+                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+}
+
+/// Whether \a widget keeps the wheel to itself.
+inline bool takesWheel(QWidget *widget)
+{
+    QWheelEvent wheel = wheelOver(*widget);
+    QCoreApplication::sendEvent(widget, &wheel);
+    return wheel.isAccepted();
+}
+
+inline bool showActive(QWidget *window)
+{
+    window->show();
+    window->activateWindow();
+    return QTest::qWaitForWindowActive(window);
+}
+
+inline bool showExposed(QWidget *window)
+{
+    window->show();
+    return QTest::qWaitForWindowExposed(window);
+}
+
+/// What the window shows now, as opposed to what it would paint anew.
+inline QImage onScreen(QWidget &window)
+{
+    QCoreApplication::processEvents();
+    return window.screen()
+        ->grabWindow(window.winId())
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+inline QImage freshlyPainted(QWidget &window)
+{
+    return window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+/// Whether no gesture of before has left a mouse grab or a cursor behind.
+inline bool nothingIsHeld()
+{
+    return !QApplication::overrideCursor() && !QWidget::mouseGrabber();
+}
+
+/// The ways to take a widget away from under a pressed button, as rows for interrupt().
+inline void addInterruptions()
+{
+    QTest::addColumn<QString>("how");
+    for (const char *how : {"hidden", "disabled", "modal window"})
+        QTest::newRow(how) << QString(how);
+}
+
+/// The window that shuts \a widget out, or none.
+inline std::unique_ptr<QDialog> interrupt(QWidget *widget, const QString &how)
+{
+    if (how == "hidden") {
+        widget->hide();
+        return nullptr;
+    }
+    if (how == "disabled") {
+        widget->setEnabled(false);
+        return nullptr;
+    }
+    auto dialog = std::make_unique<QDialog>();
+    dialog->setModal(true);
+    showActive(dialog.get());
+    return dialog;
+}
+
+/// A slider with a hand on its handles and a log of its signals, which the subclass connects.
+template <typename Base>
+class Driven : public Base
+{
+public:
+    explicit Driven(Qt::Orientation orientation)
+        : Base(orientation)
+    {
+        this->resize(orientation == Qt::Horizontal ? QSize(320, 30) : QSize(30, 320));
+    }
+
+    virtual QStyleOptionSlider optionAt(int position) const = 0;
+
+    QRect rectOf(QStyle::SubControl control, int position = 0) const
+    {
+        const QStyleOptionSlider option = optionAt(position);
+        return this->style()->subControlRect(QStyle::CC_Slider, &option, control, this);
+    }
+    QRect handleAt(int position) const { return rectOf(QStyle::SC_SliderHandle, position); }
+    /// The middle of a handle at that position.
+    QPoint place(int position) const { return handleAt(position).center(); }
+
+    bool press(const QPoint &point, Qt::MouseButton button = Qt::LeftButton,
+               Qt::MouseButtons others = Qt::NoButton)
+    {
+        return sendMouse(this, QEvent::MouseButtonPress, point, button, button | others);
+    }
+    bool drag(const QPoint &point) { return sendDrag(this, point); }
+    bool release(const QPoint &point, Qt::MouseButton button = Qt::LeftButton,
+                 Qt::MouseButtons others = Qt::NoButton)
+    {
+        return sendMouse(this, QEvent::MouseButtonRelease, point, button, others);
+    }
+    /// A whole gesture over every position between; \a off from the middle of the handle.
+    void dragFromTo(int from, int to, const QPoint &off = QPoint())
+    {
+        press(place(from) + off);
+        for (int position = from; position != to; position += from < to ? 1 : -1)
+            drag(place(position) + off);
+        drag(place(to) + off);
+        release(place(to) + off);
+    }
+
+    /// A slot that adds the name and the values of a signal to the log.
+    auto note(const char *name)
+    {
+        return [this, name](auto... values) {
+            const QStringList entry{name, QString::number(values)...};
+            m_log << entry.join(' ');
+        };
+    }
+    /// What was noted since the last call, separated by commas.
+    QString takeLog() { return std::exchange(m_log, {}).join(", "); }
+
+private:
+    QStringList m_log;
+};
+
+/// Fusion with a drag area of 20 units around the slider.
+class LimitedDragStyle : public QProxyStyle
+{
+public:
+    LimitedDragStyle()
+        : QProxyStyle("fusion")
+    {}
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override
+    {
+        return metric == PM_MaximumDragDistance ? 20
+                                                : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
+
+} // namespace TestSupport
+
+#endif
