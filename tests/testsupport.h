@@ -87,4 +87,15 @@ inline bool isFilled(const QImage &image, const QRect &area, const QColor &color
                                      expectedColor.name(QColor::HexArgb)))); \
     } while (false)
 
+namespace TestSupport {
+
+/// Fails where one of the device pixels at \a points is not \a color.
+inline void comparePixels(const QImage &image, const QColor &color, const QVector<QPoint> &points)
+{
+    for (const QPoint &point : points)
+        COMPARE_PIXEL(image, point.x(), point.y(), color);
+}
+
+} // namespace TestSupport
+
 #endif
