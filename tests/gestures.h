@@ -137,14 +137,40 @@ public:
     {
         return sendMouse(this, QEvent::MouseButtonRelease, point, button, others);
     }
-    /// A whole gesture over every position between; \a off from the middle of the handle.
-    void dragFromTo(int from, int to, const QPoint &off = QPoint())
+    /// Carries out steps such as "press 20, drag 30, release 30" and returns what was noted. Each
+    /// goes to a place off the middle of the handle at that position, so that a lost offset shows;
+    /// "right" and "rightup" are a second button over a held left one. Steps that are left to the
+    /// parent note "ignored"; other words are for perform().
+    QString run(const QString &script)
     {
-        press(place(from) + off);
-        for (int position = from; position != to; position += from < to ? 1 : -1)
-            drag(place(position) + off);
-        drag(place(to) + off);
-        release(place(to) + off);
+        for (const QString &step : script.split(", ", Qt::SkipEmptyParts)) {
+            const QStringList words = step.split(' ');
+            const QString verb = words.first();
+            const int number = words.value(1).toInt();
+            const bool horizontal = this->orientation() == Qt::Horizontal;
+            const QPoint point = place(number) + (horizontal ? QPoint(2, 0) : QPoint(0, 2));
+            if (verb == "press")
+                noteIgnored(press(point));
+            else if (verb == "jump") // at the middle
+                noteIgnored(press(place(number)));
+            else if (verb == "drag")
+                noteIgnored(drag(point));
+            else if (verb == "leave")
+                drag(point + (horizontal ? QPoint(0, 60) : QPoint(60, 0)));
+            else if (verb == "release")
+                release(point);
+            else if (verb == "right")
+                press(point, Qt::RightButton, Qt::LeftButton);
+            else if (verb == "rightup")
+                release(point, Qt::RightButton, Qt::LeftButton);
+            else
+                perform(verb, number);
+        }
+        return takeLog();
+    }
+    virtual void perform(const QString &verb, int number)
+    {
+        QFAIL(qPrintable(QString("%1 %2").arg(verb).arg(number)));
     }
 
     /// A slot that adds the name and the values of a signal to the log.
@@ -157,6 +183,13 @@ public:
     }
     /// What was noted since the last call, separated by commas.
     QString takeLog() { return std::exchange(m_log, {}).join(", "); }
+
+private:
+    void noteIgnored(bool accepted)
+    {
+        if (!accepted)
+            m_log << "ignored";
+    }
 
 private:
     QStringList m_log;

@@ -12,6 +12,12 @@ using Ints = QVector<int>;
 
 namespace {
 
+const QVector<QPair<Qt::Orientation, Qt::LayoutDirection>> ways = {
+    {Qt::Horizontal, Qt::LeftToRight},
+    {Qt::Horizontal, Qt::RightToLeft},
+    {Qt::Vertical, Qt::LeftToRight},
+};
+
 /// A range slider of 0 to 100 that starts at 20, 80 and 50.
 class TestRange : public TestSupport::Driven<RangeSlider>
 {
@@ -41,6 +47,19 @@ public:
         initStyleOption(&option);
         option.sliderPosition = option.sliderValue = position;
         return option;
+    }
+
+    void perform(const QString &verb, int number) override
+    {
+        if (verb == "tracking")
+            setTracking(number);
+        else if (verb == "symmetric")
+            setSymmetricMoves(number);
+        else if (verb == "range")
+            setEnableRange(number);
+        else if (verb == "handles") // which of them are held, as bits
+            note("holds")(isMinimumSliderDown() + 2 * isMaximumSliderDown()
+                          + 4 * isMainSliderDown());
     }
 
     /// What a click at \a point first reports.
@@ -145,52 +164,62 @@ private slots:
         }
     }
 
-    void dragsEachHandle_data()
+    void gestures_data()
     {
-        QTest::addColumn<Qt::Orientation>("orientation");
-        QTest::addColumn<Qt::LayoutDirection>("direction");
-        QTest::newRow("horizontal") << Qt::Horizontal << Qt::LeftToRight;
-        QTest::newRow("right to left") << Qt::Horizontal << Qt::RightToLeft;
-        QTest::newRow("vertical") << Qt::Vertical << Qt::LeftToRight;
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<QString>("log");
+        QTest::addColumn<Ints>("values");
+        const auto row = [](const char *script, const char *log, const Ints &values) {
+            QTest::newRow(script) << script << log << values;
+        };
+        row("press 20, handles, release 20", "pressed 1, holds 1, released 1", {20, 80, 50});
+        row("press 20, drag 30, release 30",
+            "pressed 1, minpos 30, positions 30 80 50, min 30, released 1, values 30 80 50",
+            {30, 80, 50});
+        row("press 80, drag 70, handles, release 70",
+            "pressed 2, maxpos 70, positions 20 70 50, max 70, holds 2, released 2, "
+            "values 20 70 50",
+            {20, 70, 50});
+        row("press 50, drag 95, release 95, handles",
+            "pressed 4, mainpos 95, positions 20 80 95, main 95, released 4, values 20 80 95, "
+            "holds 0",
+            {20, 80, 95});
+        row("press 20, drag 95, release 95", // The handles stop at each other.
+            "pressed 1, minpos 80, positions 80 80 50, min 80, released 1, values 80 80 50",
+            {80, 80, 50});
+        row("jump 35, handles, release 35", // A press on the groove brings the main handle.
+            "pressed 0, main 35, holds 4, released 4, values 20 80 35", {20, 80, 35});
+        row("range 0, jump 20, handles, release 20", // Without a range so does one on a handle.
+            "pressed 1, main 20, holds 4, released 4, values 20 80 20", {20, 80, 20});
+        row("tracking 0, press 20, drag 25, release 25",
+            "pressed 1, minpos 25, positions 25 80 50, released 1", {20, 80, 50});
+        // A second button pressed in the middle is left alone; its release ends the drag.
+        row("press 20, right 20, drag 22, rightup 22, drag 40, release 40",
+            "pressed 1, minpos 22, positions 22 80 50, min 22, released 1, values 22 80 50, "
+            "released 0",
+            {22, 80, 50});
+        row("symmetric 1, press 20, drag 15, symmetric 0, drag 14, release 14",
+            "pressed 1, minpos 15, maxpos 85, positions 15 85 50, min 15, max 85, minpos 14, "
+            "positions 14 85 50, min 14, released 1, values 14 85 50",
+            {14, 85, 50});
+        row("symmetric 1, press 80, drag 99, release 99",
+            "pressed 2, minpos 1, maxpos 99, positions 1 99 50, min 1, max 99, released 2, "
+            "values 1 99 50",
+            {1, 99, 50});
     }
 
-    void dragsEachHandle()
+    void gestures()
     {
-        QFETCH(Qt::Orientation, orientation);
-        QFETCH(Qt::LayoutDirection, direction);
-        TestRange slider(orientation);
-        slider.setLayoutDirection(direction);
-        // Off the middle of the handle, so that a lost click offset would show.
-        const QPoint off = orientation == Qt::Horizontal ? QPoint(2, 0) : QPoint(0, 2);
-        QVERIFY(slider.press(slider.place(20) + off));
-        QVERIFY(slider.isMinimumSliderDown() && slider.isMousePressed() && slider.isSliderDown());
-        slider.release(slider.place(20) + off);
-        slider.dragFromTo(20, 30, off);
-        slider.dragFromTo(80, 70, off);
-        QCOMPARE(slider.values(), Ints({30, 70, 50}));
-
-        slider.takeLog();
-        slider.press(slider.place(50) + off);
-        slider.drag(slider.place(95) + off);
-        slider.release(slider.place(95) + off);
-        QCOMPARE(slider.takeLog(), QString("pressed 4, mainpos 95, positions 30 70 95, main 95, "
-                                           "released 4, values 30 70 95"));
-        QVERIFY(!slider.isMousePressed() && !slider.isSliderDown());
-
-        // A press on the groove brings the main handle.
-        slider.press(slider.place(50));
-        QCOMPARE(slider.takeLog(), QString("pressed 0, main 50"));
-        QVERIFY(slider.isMainSliderDown());
-        slider.drag(slider.place(51));
-        slider.release(slider.place(51));
-        QVERIFY(slider.takeLog().endsWith("values 30 70 51"));
-
-        // Without a range so does one on a range handle.
-        slider.setEnableRange(false);
-        slider.press(slider.place(30));
-        QVERIFY(slider.isMainSliderDown() && !slider.isMinimumSliderDown());
-        slider.release(slider.place(30));
-        QCOMPARE(slider.takeLog(), QString("pressed 1, main 30, released 4, values 30 70 30"));
+        QFETCH(QString, script);
+        QFETCH(QString, log);
+        QFETCH(Ints, values);
+        for (const auto &way : ways) {
+            TestRange slider(way.first);
+            slider.setLayoutDirection(way.second);
+            QCOMPARE(slider.run(script), log);
+            QCOMPARE(slider.values(), values);
+            QVERIFY(!slider.isMousePressed() && !slider.isSliderDown());
+        }
     }
 
     void handlesOnTopOfEachOther()
@@ -213,53 +242,21 @@ private slots:
         const int x = upright.center().x();
         QCOMPARE(vertical.click(QPoint(x, upright.bottom() - 1)), QString("pressed 1"));
         QCOMPARE(vertical.click(QPoint(x, upright.top() + 1)), QString("pressed 2"));
-
-        vertical.setValues(20, 80, 50);
-        vertical.dragFromTo(20, 95);
-        QCOMPARE(vertical.values(), Ints({80, 80, 50}));
     }
 
-    void symmetricMoves()
+    void symmetricMovesStayInTheRange()
     {
-        TestRange slider;
-        slider.setSymmetricMoves(true);
-        slider.press(slider.place(20));
-        slider.drag(slider.place(15));
-        QCOMPARE(slider.values(), Ints({15, 85, 50}));
-        slider.setSymmetricMoves(false);
-        slider.drag(slider.place(14));
-        QCOMPARE(slider.values(), Ints({14, 85, 50}));
-        slider.release(slider.place(14));
-
-        slider.setSymmetricMoves(true);
-        slider.setValues(10, 95, 50);
-        slider.dragFromTo(10, 0);
-        QCOMPARE(slider.values(), Ints({0, 100, 50}));
-        slider.setValues(30, 60, 50);
-        slider.dragFromTo(60, 65);
-        QCOMPARE(slider.values(), Ints({25, 65, 50}));
-
         const int most = std::numeric_limits<int>::max();
-        slider.setRange(0, most);
-        slider.setValues(most / 4, most - 10, most / 2);
-        slider.press(slider.place(most / 4));
-        slider.drag(slider.place(0));
-        slider.release(slider.place(0));
-        QCOMPARE(slider.values(), Ints({0, most, most / 2}));
-    }
-
-    void withoutTrackingOnlyPositionsMove()
-    {
-        TestRange slider;
-        slider.setTracking(false);
-        slider.press(slider.place(20));
-        slider.drag(slider.place(25));
-        slider.release(slider.place(25));
-        QCOMPARE(slider.takeLog(), QString("pressed 1, minpos 25, positions 25 80 50, released 1"));
-        QCOMPARE(slider.values(), Ints({20, 80, 50}));
-        QCOMPARE(slider.positions(), Ints({25, 80, 50}));
-        slider.setMainValue(51);
-        QCOMPARE(slider.positions(), Ints({20, 80, 51}));
+        for (const Ints &values : {Ints{10, 95, 50}, Ints{most / 4, most - 10, most / 2}}) {
+            TestRange slider;
+            slider.setRange(0, values[2] == 50 ? 100 : most);
+            slider.setValues(values[0], values[1], values[2]);
+            slider.setSymmetricMoves(true);
+            slider.press(slider.place(values[0]));
+            slider.drag(slider.place(0));
+            slider.release(slider.place(0));
+            QCOMPARE(slider.values(), Ints({0, slider.maximum(), values[2]}));
+        }
     }
 
     void leavingTheDragAreaSnapsBack()
@@ -267,12 +264,10 @@ private slots:
         TestSupport::LimitedDragStyle style;
         TestRange slider;
         slider.setStyle(&style);
-        slider.press(slider.place(20));
-        for (const QPoint &step : {QPoint(25, 30), QPoint(60, 20), QPoint(0, 30)}) {
-            slider.drag(slider.place(30) + QPoint(0, step.x()));
-            QCOMPARE(slider.minimumValue(), step.y());
-        }
-        slider.release(slider.place(30));
+        QCOMPARE(slider.run("press 20, drag 30, leave 30, drag 30, release 30"),
+                 QString("pressed 1, minpos 30, positions 30 80 50, min 30, minpos 20, "
+                         "positions 20 80 50, min 20, minpos 30, positions 30 80 50, min 30, "
+                         "released 1, values 30 80 50"));
     }
 
     void movesWithoutAHandleReportTheValue()
@@ -305,27 +300,12 @@ private slots:
         slider.press(slider.place(20), Qt::RightButton);
         slider.drag(slider.place(30));
         QVERIFY(!slider.isMousePressed());
-        QCOMPARE(slider.takeLog(), QString());
-
-        // A second button pressed in the middle is left alone; its release ends the drag.
-        slider.press(slider.place(20));
-        slider.press(slider.place(20), Qt::RightButton, Qt::LeftButton);
-        QVERIFY(slider.isMinimumSliderDown());
-        slider.drag(slider.place(22));
-        QCOMPARE(slider.minimumValue(), 22);
-        slider.takeLog();
-        slider.release(slider.place(22), Qt::RightButton, Qt::LeftButton);
-        QCOMPARE(slider.takeLog(), QString("released 1, values 22 80 50"));
-        slider.drag(slider.place(40));
-        slider.release(slider.place(40));
-        QCOMPARE(slider.takeLog(), QString("released 0"));
-
         QTest::keyPress(&slider, Qt::Key_Right);
         QVERIFY(slider.isKeyPressed());
         QTest::keyRelease(&slider, Qt::Key_Right);
         QVERIFY(!slider.isKeyPressed());
         QVERIFY(!TestSupport::takesWheel(&slider));
-        QCOMPARE(slider.values(), Ints({22, 80, 50}));
+        QCOMPARE(slider.values(), Ints({20, 80, 50}));
         QCOMPARE(slider.value(), 0);
         QCOMPARE(slider.takeLog(), QString());
     }
@@ -337,15 +317,11 @@ private slots:
         QFETCH(QString, how);
         TestRange slider;
         QVERIFY(TestSupport::showActive(&slider));
-        slider.press(slider.place(20));
-        slider.drag(slider.place(30));
-        slider.takeLog();
+        slider.run("press 20, drag 30");
         const auto modal = TestSupport::interrupt(&slider, how);
-        QCOMPARE(slider.takeLog(), QString("released 1, values 30 80 50"));
+        QCOMPARE(slider.run("handles"), QString("released 1, values 30 80 50, holds 0"));
         QVERIFY(!slider.isMousePressed() && !slider.isSliderDown());
-        QVERIFY(!slider.isMinimumSliderDown());
         slider.drag(slider.place(50));
-        QCOMPARE(slider.minimumValue(), 30);
         QCOMPARE(slider.takeLog(), QString());
     }
 
@@ -355,13 +331,12 @@ private slots:
         QVERIFY(TestSupport::showActive(&slider));
         slider.setFocus();
         QTest::keyPress(&slider, Qt::Key_Shift);
-        slider.press(slider.place(20));
+        slider.run("press 20");
         QWidget other;
         QVERIFY(TestSupport::showActive(&other));
         QVERIFY(!slider.isKeyPressed());
-        slider.drag(slider.place(30));
+        slider.run("drag 30, release 30");
         QCOMPARE(slider.minimumValue(), 30);
-        slider.release(slider.place(30));
         QVERIFY(!slider.isSliderDown());
     }
 
@@ -370,19 +345,17 @@ private slots:
         TestRange slider;
         slider.show();
         const auto hiding = connect(&slider, &RangeSlider::mousePressed, &slider, &QWidget::hide);
-        slider.press(slider.place(20));
-        QCOMPARE(slider.takeLog(), QString("pressed 1, released 0"));
-        QVERIFY(!slider.isSliderDown() && !slider.isMinimumSliderDown());
+        QCOMPARE(slider.run("press 20, handles"), QString("pressed 1, released 0, holds 0"));
+        QVERIFY(!slider.isSliderDown());
         disconnect(hiding);
         slider.show();
         connect(&slider, &QSlider::sliderPressed, &slider, [&] { slider.setEnabled(false); });
-        slider.press(slider.place(20));
-        QVERIFY(!slider.isSliderDown() && !slider.isMinimumSliderDown());
+        QVERIFY(slider.run("press 20, handles").endsWith("holds 0"));
+        QVERIFY(!slider.isSliderDown());
 
         auto doomed = std::make_unique<TestRange>();
         doomed->show();
-        doomed->press(doomed->place(20));
-        doomed->drag(doomed->place(25));
+        doomed->run("press 20, drag 25");
         doomed.reset();
         QCoreApplication::processEvents();
     }
@@ -408,28 +381,18 @@ private slots:
         QCOMPARE(help(50), QString());
     }
 
-    void painting_data()
-    {
-        QTest::addColumn<Qt::Orientation>("orientation");
-        QTest::addColumn<bool>("range");
-        for (bool range : {true, false}) {
-            QTest::addRow("horizontal, range %d", range) << Qt::Horizontal << range;
-            QTest::addRow("vertical, range %d", range) << Qt::Vertical << range;
-        }
-    }
-
     /// Paints groove, bar and handles piece by piece and compares every pixel.
     void painting()
     {
-        QFETCH(Qt::Orientation, orientation);
-        QFETCH(bool, range);
-        TestRange slider(orientation, range);
         // A long bar, one too short to have a middle, and the main handle in different places.
         for (const Ints &values : {Ints{20, 80, 50}, Ints{40, 41, 10}, Ints{0, 100, 100}}) {
-            slider.setValues(values[0], values[1], values[2]);
-            for (int ratio : {1, 2}) {
+            for (int state = 0; state < 8; ++state) {
+                const bool range = state & 1;
+                TestRange slider(state & 2 ? Qt::Horizontal : Qt::Vertical, range);
+                slider.setValues(values[0], values[1], values[2]);
                 const auto paint = [&](auto work) {
-                    return TestSupport::paintOn(slider.size(), Qt::darkGray, work, ratio);
+                    return TestSupport::paintOn(slider.size(), Qt::darkGray, work,
+                                                state & 4 ? 2 : 1);
                 };
                 QVERIFY(sameImage(
                     paint([&](QPainter &p) { slider.render(&p, {}, {}, QWidget::DrawChildren); }),
@@ -438,30 +401,20 @@ private slots:
         }
     }
 
-    void grooveIsNotFilled_data() { dragsEachHandle_data(); }
-
-    void grooveIsNotFilled()
+    void onlyTheBarIsFilled()
     {
-        QFETCH(Qt::Orientation, orientation);
-        QFETCH(Qt::LayoutDirection, direction);
-        TestRange slider(orientation);
-        slider.setLayoutDirection(direction);
-        slider.setStyle(m_theme.style());
-        slider.setValues(40, 60, 50);
-        const QImage image = TestSupport::render(slider);
-        const QPoint inside = slider.place(45) + QPoint(0, orientation == Qt::Horizontal);
-        QVERIFY(image.pixelColor(inside).blue() > 100);
-        for (int position : {10, 30, 70, 90})
-            QVERIFY(image.pixelColor(slider.place(position)).blue() < 50);
-    }
-
-    void barIsOpaqueUnderTheMouse()
-    {
-        TestRange slider;
-        const QPoint middle = slider.place(35);
-        slider.setAttribute(Qt::WA_UnderMouse);
-        COMPARE_PIXEL(TestSupport::render(slider), middle.x(), middle.y() + 1,
-                      QColor(65, 155, 249));
+        for (const auto &way : ways) {
+            TestRange slider(way.first);
+            slider.setLayoutDirection(way.second);
+            slider.setStyle(m_theme.style());
+            slider.setValues(40, 60, 50);
+            slider.setAttribute(Qt::WA_UnderMouse);
+            const QImage image = TestSupport::render(slider);
+            const QPoint inside = slider.place(45) + QPoint(0, way.first == Qt::Horizontal);
+            COMPARE_PIXEL(image, inside.x(), inside.y(), QColor(65, 155, 249));
+            for (int position : {10, 30, 70, 90})
+                QVERIFY(image.pixelColor(slider.place(position)).blue() < 50);
+        }
     }
 
     void handlesAreAccessible()

@@ -131,8 +131,8 @@ private slots:
         QVERIFY(!TestSupport::takesWheel(&slider));
         QCOMPARE(slider.value(), 31);
         QCOMPARE(slider.takeLog(), QString());
-        TestSupport::sendMouse(&slider, QEvent::MouseButtonDblClick, slider.at(250),
-                               Qt::LeftButton, Qt::LeftButton);
+        TestSupport::sendMouse(&slider, QEvent::MouseButtonDblClick, slider.at(250), Qt::LeftButton,
+                               Qt::LeftButton);
         QCOMPARE(slider.value(), 31);
         QCOMPARE(slider.takeLog(), QString("double"));
     }

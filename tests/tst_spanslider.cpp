@@ -33,6 +33,14 @@ public:
         return option;
     }
 
+    void perform(const QString &verb, int number) override
+    {
+        if (verb == "tracking")
+            setTracking(number);
+        else if (verb == "down")
+            note("down")(isSliderDown());
+    }
+
     Ints span() const { return {lowerValue(), upperValue()}; }
 };
 
@@ -89,16 +97,20 @@ private slots:
         slider.setInvertedAppearance(inverted);
         const bool startsFirst = slider.pick(slider.place(0)) < slider.pick(slider.place(99));
         QCOMPARE(startsFirst, orientation == Qt::Horizontal ? mirrored == inverted : inverted);
-        const QPoint off = orientation == Qt::Horizontal ? QPoint(2, 0) : QPoint(0, 2);
-        slider.dragFromTo(20, 30, off);
-        slider.dragFromTo(60, 90, off);
-        QCOMPARE(slider.span(), Ints({30, 90}));
-        QVERIFY(!slider.isSliderDown());
-        slider.takeLog();
-        slider.press(slider.place(30));
-        slider.drag(slider.place(40));
-        slider.release(slider.place(40));
-        QCOMPARE(slider.takeLog(), QString("lowerpos 40, lower 40, span 40 90"));
+        QCOMPARE(slider.run("press 20, down, drag 40, release 40"),
+                 QString("down 1, lowerpos 40, lower 40, span 40 60"));
+        QCOMPARE(slider.run("press 60, drag 90, release 90, down"),
+                 QString("upperpos 90, upper 90, span 40 90, down 0"));
+        QCOMPARE(slider.run("tracking 0, press 40, drag 30, drag 35, release 35"),
+                 QString("lowerpos 30, lowerpos 35, lower 35, span 35 90"));
+        // A second button pressed in the middle is left alone; its release ends the drag.
+        const QSignalSpy released(&slider, &QSlider::sliderReleased);
+        QCOMPARE(slider.run("tracking 1, press 35, right 35, drag 25, rightup 25, drag 40, down, "
+                            "release 40"),
+                 QString("lowerpos 25, lower 25, span 25 90, ignored, down 0"));
+        QCOMPARE(released.count(), 1);
+        // A press between the handles grabs neither.
+        QCOMPARE(slider.run("press 50, down, drag 60, release 60"), QString("down 0, ignored"));
     }
 
     void handlesThatMeet_data()
@@ -129,21 +141,12 @@ private slots:
         QFETCH(Ints, span);
         TestSpan slider(Qt::Horizontal, static_cast<SpanSlider::HandleMovementMode>(mode));
         slider.setSpan(drag[0], drag[1]);
-        slider.dragFromTo(drag[2], drag[3]);
+        slider.run(QString("press %1, drag %1").arg(drag[2]));
+        for (int position = drag[2]; position != drag[3]; position += drag[2] < drag[3] ? 1 : -1)
+            slider.run(QString("drag %1").arg(position));
+        slider.run(QString("drag %1, release %1").arg(drag[3]));
         QCOMPARE(slider.span(), span);
         QVERIFY(slider.lowerPosition() <= slider.upperPosition());
-    }
-
-    void releaseCommitsWithoutTracking()
-    {
-        TestSpan slider;
-        slider.setTracking(false);
-        slider.press(slider.place(20));
-        slider.drag(slider.place(35));
-        QCOMPARE(slider.takeLog(), QString("lowerpos 35"));
-        QCOMPARE(slider.span(), Ints({20, 60}));
-        slider.release(slider.place(35));
-        QCOMPARE(slider.takeLog(), QString("lower 35, span 35 60"));
     }
 
     void leavingTheDragAreaSnapsBack()
@@ -151,12 +154,8 @@ private slots:
         TestSupport::LimitedDragStyle style;
         TestSpan slider;
         slider.setStyle(&style);
-        slider.press(slider.place(60));
-        slider.drag(slider.place(70));
-        QCOMPARE(slider.upperValue(), 70);
-        slider.drag(slider.place(70) + QPoint(0, 60));
-        QCOMPARE(slider.upperValue(), 60);
-        slider.release(slider.place(70));
+        QCOMPARE(slider.run("press 60, drag 70, leave 70, release 70"),
+                 QString("upperpos 70, upper 70, span 20 70, upperpos 60, upper 60, span 20 60"));
     }
 
     void keys_data()
@@ -184,7 +183,7 @@ private slots:
         QTest::keyClick(&slider, key);
         QCOMPARE(slider.span(), span);
         slider.setSpan(20, 60);
-        slider.dragFromTo(20, 70);
+        slider.run("press 20, drag 59, drag 60, drag 61, drag 70, release 70");
         slider.setSpan(20, 60);
         QTest::keyClick(&slider, key);
         QCOMPARE(slider.span(), spanOfOtherMain);
@@ -221,25 +220,8 @@ private slots:
     void otherPresses()
     {
         TestSpan slider;
-        QVERIFY(slider.press(slider.place(40)));
-        QVERIFY(!slider.isSliderDown());
-        QVERIFY(!slider.drag(slider.place(50)));
-        slider.release(slider.place(50));
         QVERIFY(!slider.press(slider.place(20), Qt::LeftButton, Qt::RightButton));
         QVERIFY(!slider.isSliderDown());
-
-        // A second button pressed in the middle is left alone; its release ends the drag.
-        slider.press(slider.place(20));
-        slider.press(slider.place(20), Qt::RightButton, Qt::LeftButton);
-        slider.drag(slider.place(25));
-        QCOMPARE(slider.lowerValue(), 25);
-        slider.release(slider.place(25), Qt::RightButton, Qt::LeftButton);
-        slider.drag(slider.place(40));
-        QCOMPARE(slider.lowerValue(), 25);
-        const QSignalSpy released(&slider, &QSlider::sliderReleased);
-        slider.release(slider.place(40));
-        QCOMPARE(released.count(), 0);
-
         slider.setRange(7, 7);
         QVERIFY(!slider.press(slider.place(7)));
         QVERIFY(!slider.isSliderDown());
@@ -254,13 +236,10 @@ private slots:
         TestSpan slider;
         slider.setTracking(false);
         QVERIFY(TestSupport::showActive(&slider));
-        slider.press(slider.place(20));
-        slider.drag(slider.place(30));
-        slider.takeLog();
+        slider.run("press 20, drag 30");
         const auto modal = TestSupport::interrupt(&slider, how);
-        QCOMPARE(slider.takeLog(), QString("lower 30, span 30 60"));
-        QVERIFY(!slider.isSliderDown());
-        slider.drag(slider.place(50));
+        QCOMPARE(slider.run("down"), QString("lower 30, span 30 60, down 0"));
+        slider.run("drag 50");
         QCOMPARE(slider.lowerPosition(), 30);
     }
 
@@ -268,17 +247,14 @@ private slots:
     {
         TestSpan slider;
         slider.setSpan(50, 50);
+        slider.takeLog();
         slider.show();
         connect(&slider, &QSlider::sliderPressed, &slider, &QWidget::hide);
-        slider.press(slider.place(50));
-        QVERIFY(!slider.isSliderDown());
-        slider.drag(slider.place(40));
-        QCOMPARE(slider.span(), Ints({50, 50}));
+        QCOMPARE(slider.run("press 50, down, drag 40"), QString("down 0, ignored"));
 
         auto doomed = std::make_unique<TestSpan>();
         doomed->show();
-        doomed->press(doomed->place(20));
-        doomed->drag(doomed->place(25));
+        doomed->run("press 20, drag 25");
         doomed.reset();
         QCoreApplication::processEvents();
     }
