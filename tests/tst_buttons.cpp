@@ -133,6 +133,7 @@ private slots:
             QVERIFY(count(image, QRect(left, 3, on ? 28 : 36, 19), pen) > 10);
             QCOMPARE(count(image, QRect(left, 21, 26, 5), pen), 0); // nothing below the baseline
             const QRect before = on ? QRect(3, 10, 17, 12) : QRect(31, 10, 9, 12);
+            QVERIFY(count(image, QRect(left, 3, 8, 19), pen) > 0);
             QVERIFY(TestSupport::isFilled(image, before, track));
         }
 

@@ -112,6 +112,12 @@ TabBar *tabBar(const QStringList &tabs)
     return bar;
 }
 
+template <typename Class>
+MakeWidget tabs(Class *make(const QStringList &), const QStringList &texts)
+{
+    return [=] { return make(texts); };
+}
+
 /// The contents of a line edit end two units above the lower edge under this style, which paints
 /// nothing behind them.
 class InsetStyle : public QProxyStyle
@@ -162,7 +168,6 @@ private slots:
         QTest::addColumn<Probes>("at1");
         QTest::addColumn<Probes>("at2");
         addFrames();
-        addSurfaces();
         addTabs();
         addGroupBoxes();
     }
@@ -478,16 +483,10 @@ private:
         add("rule", frame(QFrame::HLine, QFrame::Sunken),
             at(nothing, {{20, 0}, {20, 2}}) + at(softBlack, {{0, 1}, {39, 1}}),
             at(nothing, {{40, 0}, {40, 3}}) + at(softBlack, {{40, 1}, {40, 2}}));
-    }
-
-    static void addSurfaces()
-    {
-        add(
-            "widget", [] { return sized<Widget>(20, 20); }, at(w(0), {{0, 0}, {19, 19}}),
-            at(w(0), {{0, 0}, {39, 39}}));
-        add(
-            "splitter", [] { return sized<Splitter>(20, 20); }, at(nothing, {{0, 0}, {10, 10}}),
-            at(nothing, {{0, 0}, {20, 20}}));
+        const MakeWidget widget = [] { return sized<Widget>(20, 20); };
+        const MakeWidget splitter = [] { return sized<Splitter>(20, 20); };
+        add("widget", widget, at(w(0), {{0, 0}, {19, 19}}), at(w(0), {{0, 0}, {39, 39}}));
+        add("splitter", splitter, at(nothing, {{10, 10}}), at(nothing, {{20, 20}}));
         const auto statusBar = [] {
             auto *bar = sized<StatusBar>(100, 40);
             bar->setSizeGripEnabled(false);
@@ -511,36 +510,23 @@ private:
     {
         const QGradientStops bar = {{0.0, w(-8)}, {1.0, w(-16)}};
         const QGradientStops selected = {{0.0, w(10)}, {1.0, w(0)}};
-        add(
-            "tab bar",
-            [] {
-                return tabBar({"", "M"});
-            },
+        add("tab bar", tabs(tabBar, {"", "M"}),
             ramp(100, {1, 10, 20, 27}, 1, 1, 28, bar)
                 + at(TestSupport::blended(softBlack, w(-8)), {{100, 0}})
                 + at(softBlack, {{100, 28}}) + at(nothing, {{100, 29}}),
             ramp(200, {2, 20, 40, 54}, 2, 1, 28, bar) + at(softBlack, {{200, 56}})
                 + at(nothing, {{200, 57}}));
-        add(
-            "selected tab",
-            [] {
-                return tabBar({" ", ""});
-            },
+        add("selected tab", tabs(tabBar, {" ", ""}),
             ramp(50, {4, 10, 20, 29}, 1, 4, 30, selected) + ramp(3, {10, 20}, 1, 1, 28, bar)
                 + ramp(5, {10, 20}, 1, 4, 30, selected),
             ramp(100, {8, 20, 40, 59}, 2, 4, 30, selected));
-        add(
-            "tab widget",
-            [] {
-                return tabWidget({"A", ""});
-            },
+        add("tab widget", tabs(tabWidget, {"A", ""}),
             at(nothing, {{0, 40}, {399, 40}, {200, 58}})
                 + at(w(0), {{1, 40}, {398, 40}, {200, 57}}),
             at(nothing, {{1, 80}, {798, 80}, {400, 116}})
                 + at(w(0), {{2, 80}, {797, 80}, {400, 115}}));
         const QColor edge = w(20, 128);
-        add(
-            "tab widget with one textless tab", [] { return tabWidget({""}); },
+        add("one textless tab", tabs(tabWidget, {""}),
             at(Qt::black, {{0, 45}, {1, 45}, {0, 59}, {1, 59}}) + at(edge, {{2, 59}})
                 + at(TestSupport::blended(edge, w(0)), {{2, 45}}) + at(w(0), {{3, 45}})
                 + at(nothing, {{3, 59}}),

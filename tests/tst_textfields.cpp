@@ -165,14 +165,13 @@ private slots:
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("another") << " new  name "
-                                 << "new  name";
-        QTest::newRow("the same") << "old "
-                                  << "old";
-        QTest::newRow("zeros") << "x 100"
-                               << "x 100";
-        QTest::newRow("control characters")
-            << QString("a\tb\vc\fd") + QChar(0) + u8"e\u2028" << "abcde";
+        const auto row = [](const char *name, const QString &typed, const QString &stored) {
+            QTest::newRow(name) << typed << stored;
+        };
+        row("another", " new  name ", "new  name");
+        row("the same", "old ", "old");
+        row("zeros", "x 100", "x 100");
+        row("control characters", QString("a\tb\vc\fd") + QChar(0) + u8"e\u2028", "abcde");
     }
 
     void editing()
