@@ -6,8 +6,6 @@
 #include <nocturne/ItemDelegate>
 #include <nocturne/ListWidget>
 
-#include <QtCore/QMimeData>
-#include <QtCore/QUrl>
 #include <QtWidgets/QScrollBar>
 
 namespace {
@@ -49,18 +47,6 @@ void fill(QListWidget &list, int rows, int rowHeight = 40)
         auto *item = new QListWidgetItem(QString("Item %1").arg(row), &list);
         item->setSizeHint(QSize(100, rowHeight));
     }
-}
-
-template <typename Event>
-Event *sendDrag(QListWidget &list, const QPoint &position, QMimeData *data,
-                Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-{
-    static std::unique_ptr<Event> event;
-    event = std::make_unique<Event>(position, Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton,
-                                    modifiers);
-    event->ignore();
-    QCoreApplication::sendEvent(list.viewport(), event.get());
-    return event.get();
 }
 
 QPoint centerOf(const QListWidget &list, int row)
@@ -137,34 +123,6 @@ private slots:
         QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, centerOf(list, 1));
         QVERIFY(list.selectedItems().isEmpty());
         QCOMPARE(rows.size(), 3);
-    }
-
-    void dragsFromOutside()
-    {
-        ListWidget list;
-        fill(list, 3);
-        list.resize(200, 300);
-        list.setDragDropMode(QAbstractItemView::DragDrop);
-        list.show();
-        QVector<QStringList> drops;
-        connect(&list, &ListWidget::dragDropFiles, this,
-                [&drops](const QStringList &files) { drops << files; });
-        QMimeData files;
-        files.setUrls({QUrl::fromLocalFile("/a b"), QUrl("http://c")});
-        QMimeData nothing;
-
-        QVERIFY(sendDrag<QDragEnterEvent>(list, {5, 5}, &files)->isAccepted());
-        QVERIFY(sendDrag<QDragMoveEvent>(list, {9, 9}, &files)->isAccepted());
-        QVERIFY(sendDrag<QDropEvent>(list, {9, 9}, &files)->isAccepted());
-        QCOMPARE(drops, QVector<QStringList>({{"/a b", QString()}}));
-        QVERIFY(!sendDrag<QDragEnterEvent>(list, {5, 5}, &nothing)->isAccepted());
-        QVERIFY(!sendDrag<QDragMoveEvent>(list, {9, 9}, &nothing)->isAccepted());
-        sendDrag<QDropEvent>(list, {9, 9}, &nothing);
-        QCOMPARE(drops.size(), 1);
-
-        for (Qt::KeyboardModifier modifier : {Qt::ControlModifier, Qt::ShiftModifier})
-            QVERIFY(!sendDrag<QDragEnterEvent>(list, {5, 5}, &files, modifier)->isAccepted());
-        QCOMPARE(list.count(), 3);
     }
 
     void smallMovesStayWithThePress()

@@ -3,7 +3,6 @@
 #include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
 #include <nocturne/TreeWidget>
-#include <nocturne/theme/toolkitexports_p.h>
 
 #include <QtGui/QPaintEvent>
 #include <QtGui/QWindow>
@@ -39,34 +38,6 @@ public:
         return item;
     }
 };
-
-QImage expectedImage(const QSize &size, bool top, bool bottom, qreal ratio)
-{
-    QImage bar(30, 30, QImage::Format_ARGB32);
-    bar.fill(Qt::transparent);
-    QPainter barPainter(&bar);
-    barPainter.fillRect(0, 0, 30, 6, Qt::black);
-    barPainter.end();
-    QPixmap shadow(30, 30);
-    shadow.fill(Qt::transparent);
-    QPainter shadowPainter(&shadow);
-    qt_blurImage(&shadowPainter, bar, 30, false, false);
-    shadowPainter.end();
-
-    const auto fragment = QPainter::PixmapFragment::create(
-        QPointF(size.width() / 2.0, 15), QRectF(0, 0, 30, 30), size.width() / 30.0, 1.0);
-    return TestSupport::paintOn(
-        size, background,
-        [&](QPainter &painter) {
-            if (top)
-                painter.drawPixmapFragments(&fragment, 1, shadow);
-            painter.translate(0, size.height());
-            painter.scale(1, -1);
-            if (bottom)
-                painter.drawPixmapFragments(&fragment, 1, shadow);
-        },
-        ratio);
-}
 
 } // namespace
 
@@ -104,11 +75,21 @@ private slots:
         tree.resize(212, 160);
         tree.show();
         tree.verticalScrollBar()->setValue(value);
-        for (qreal ratio : {1.0, 1.5, 2.0}) {
-            for (bool enabled : {true, false}) {
-                tree.setEnabled(enabled);
-                QCOMPARE(TestSupport::render(tree, ratio),
-                         expectedImage(tree.size(), top, bottom, ratio));
+        // A black bar of six units, blurred over thirty.
+        const QMap<int, QRgb> shadow = {
+            {0, 0xff0a0b0d}, {10, 0xff14161a}, {20, 0xff181a1f}, {30, background}};
+        for (bool enabled : {true, false}) {
+            tree.setEnabled(enabled);
+            for (qreal ratio : {1.0, 1.5, 2.0}) {
+                const QImage image = TestSupport::render(tree, ratio);
+                for (int y : shadow.keys()) {
+                    const int row = qRound(y * ratio);
+                    const int x = image.width() / 2;
+                    COMPARE_PIXEL(image, x, row, top ? shadow[y] : background);
+                    COMPARE_PIXEL(image, x, image.height() - 1 - row,
+                                  bottom ? shadow[y] : background);
+                }
+                COMPARE_PIXEL(image, 0, 0, top ? 0xff101115 : background);
             }
         }
     }
