@@ -104,6 +104,22 @@ inline std::unique_ptr<QDialog> interrupt(QWidget *widget, const QString &how)
     return dialog;
 }
 
+/// Whether every pixel is the same, give or take one of 255: what shines through a smoothed corner
+/// is rounded once more when the corner was kept.
+inline bool sameImage(const QImage &a, const QImage &b)
+{
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QColor p = a.pixelColor(x, y);
+            const QColor q = b.pixelColor(x, y);
+            if (qAbs(p.red() - q.red()) > 1 || qAbs(p.green() - q.green()) > 1
+                || qAbs(p.blue() - q.blue()) > 1 || qAbs(p.alpha() - q.alpha()) > 1)
+                return false;
+        }
+    }
+    return a.size() == b.size();
+}
+
 /// A slider with a hand on its handles and a log of its signals, which the subclass connects.
 template <typename Base>
 class Driven : public Base
@@ -171,6 +187,23 @@ public:
     virtual void perform(const QString &verb, int number)
     {
         QFAIL(qPrintable(QString("%1 %2").arg(verb).arg(number)));
+    }
+
+    /// Whether the slider paints what \a paint does, pixel by pixel.
+    template <typename Paint>
+    bool paintsLike(Paint paint)
+    {
+        for (int ratio : {1, 2}) {
+            const auto onGray = [&](auto work) {
+                return paintOn(this->size(), Qt::darkGray, work, ratio);
+            };
+            if (!sameImage(onGray([this](QPainter &p) {
+                               this->render(&p, {}, {}, QWidget::DrawChildren);
+                           }),
+                           onGray([paint](QPainter &p) { paint(&p); })))
+                return false;
+        }
+        return true;
     }
 
     /// A slot that adds the name and the values of a signal to the log.

@@ -429,30 +429,23 @@ private slots:
         const Diagnostics diagnostics;
         Listener device("Device");
         device->openVirtualPort("in");
-        RtMidiOut bare(RtMidi::UNIX_JACK, "Bare");
         QMidiOut output;
-        const QString name = listed(output, "Device:in");
-        QVERIFY(output.openPort(name));
-        bare.openPort(static_cast<unsigned int>(output.portNames().indexOf(name)), "out");
+        QVERIFY(output.openPort(listed(output, "Device:in")));
         settle();
-        for (size_t size : {1u, 2u, 3u, 4u, 127u, 1024u, 4096u, 16000u, 32768u, 65536u}) {
-            Bytes bytes(size, 0x2A);
-            bytes.front() = 0xF0;
-            if (size > 1)
-                bytes.back() = 0xF7;
+        // What is longer than a cycle of the service is lost there, and nothing else with it.
+        for (size_t size : {1u, 2u, 3u, 4u, 127u, 1024u, 4096u, 16000u, 65536u, 127u}) {
             QMidiMessage message;
             message.setType(QMidiMessage::SystemExclusive);
-            message.setSysExData(bytes);
+            Bytes data(size, 0x2A);
+            data.front() = 0xF0;
+            message.setSysExData(data);
             const Bytes sent = message.rawMessage();
-            bare.sendMessage(&sent);
-            QTest::qWait(150);
-            const std::vector<Bytes> withoutUs = device.take();
             output.sendMessage(message);
-            QTRY_VERIFY(device.count() >= withoutUs.size());
-            QTest::qWait(150);
-            QCOMPARE(device.take(), withoutUs);
             if (size <= 16000)
-                QCOMPARE(withoutUs, std::vector<Bytes>{sent});
+                QTRY_COMPARE(device.count(), size_t(1));
+            QTest::qWait(100);
+            const std::vector<Bytes> received = device.take();
+            QVERIFY(received == std::vector<Bytes>{sent} || (size > 16000 && received.empty()));
         }
     }
 

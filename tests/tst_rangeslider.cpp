@@ -75,22 +75,6 @@ public:
     Ints positions() const { return {minimumPosition(), maximumPosition(), mainPosition()}; }
 };
 
-/// Whether every pixel is the same, give or take one of 255: what shines through a smoothed corner
-/// is rounded once more when the corner was kept.
-bool sameImage(const QImage &a, const QImage &b)
-{
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            const QColor p = a.pixelColor(x, y);
-            const QColor q = b.pixelColor(x, y);
-            if (qAbs(p.red() - q.red()) > 1 || qAbs(p.green() - q.green()) > 1
-                || qAbs(p.blue() - q.blue()) > 1 || qAbs(p.alpha() - q.alpha()) > 1)
-                return false;
-        }
-    }
-    return a.size() == b.size();
-}
-
 } // namespace
 
 class TestRangeSlider : public QObject
@@ -386,17 +370,12 @@ private slots:
     {
         // A long bar, one too short to have a middle, and the main handle in different places.
         for (const Ints &values : {Ints{20, 80, 50}, Ints{40, 41, 10}, Ints{0, 100, 100}}) {
-            for (int state = 0; state < 8; ++state) {
+            for (int state = 0; state < 4; ++state) {
                 const bool range = state & 1;
                 TestRange slider(state & 2 ? Qt::Horizontal : Qt::Vertical, range);
                 slider.setValues(values[0], values[1], values[2]);
-                const auto paint = [&](auto work) {
-                    return TestSupport::paintOn(slider.size(), Qt::darkGray, work,
-                                                state & 4 ? 2 : 1);
-                };
-                QVERIFY(sameImage(
-                    paint([&](QPainter &p) { slider.render(&p, {}, {}, QWidget::DrawChildren); }),
-                    paint([&](QPainter &p) { paintByHand(&p, slider, values, range); })));
+                QVERIFY(slider.paintsLike(
+                    [&](QPainter *painter) { paintByHand(painter, slider, values, range); }));
             }
         }
     }

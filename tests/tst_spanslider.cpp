@@ -266,15 +266,8 @@ private slots:
             TestSpan slider(orientation);
             for (const Ints &span : {Ints{20, 60}, Ints{50, 50}, Ints{0, 99}}) {
                 slider.setSpan(span[0], span[1]);
-                for (int ratio : {1, 2}) {
-                    const auto paint = [&](auto work) {
-                        return TestSupport::paintOn(slider.size(), Qt::darkGray, work, ratio);
-                    };
-                    QCOMPARE(paint([&](QPainter &p) {
-                                 slider.render(&p, {}, {}, QWidget::DrawChildren);
-                             }),
-                             paint([&](QPainter &p) { paintByHand(&p, slider, span); }));
-                }
+                QVERIFY(slider.paintsLike(
+                    [&](QPainter *painter) { paintByHand(painter, slider, span); }));
             }
         }
     }
