@@ -55,6 +55,23 @@ inline QColor blended(const QColor &top, const QColor &bottom)
     return image.pixelColor(0, 0);
 }
 
+/// How many device pixels of \a area have exactly \a color.
+inline int count(const QImage &image, const QRect &area, const QColor &color)
+{
+    int hits = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x)
+            hits += image.pixelColor(x, y) == color;
+    }
+    return hits;
+}
+
+/// Whether all of \a area has exactly \a color.
+inline bool isFilled(const QImage &image, const QRect &area, const QColor &color)
+{
+    return count(image, area, color) == area.width() * area.height();
+}
+
 } // namespace TestSupport
 
 /// Fails with both colours and the place when the device pixel at x, y differs.
@@ -69,5 +86,16 @@ inline QColor blended(const QColor &top, const QColor &bottom)
                                 .arg(actualColor.name(QColor::HexArgb), \
                                      expectedColor.name(QColor::HexArgb)))); \
     } while (false)
+
+namespace TestSupport {
+
+/// Fails where one of the device pixels at \a points is not \a color.
+inline void comparePixels(const QImage &image, const QColor &color, const QVector<QPoint> &points)
+{
+    for (const QPoint &point : points)
+        COMPARE_PIXEL(image, point.x(), point.y(), color);
+}
+
+} // namespace TestSupport
 
 #endif

@@ -8,59 +8,15 @@
 
 namespace {
 
-const char *const exportedClasses[] = {
-    "DarkUX",
-    "Singleton",
-    "DarkFusionStyle",
-    "DarkProxyStyle",
-    "TabWidget",
-    "TabBar",
-    "StatusBar",
-    "Splitter",
-    "SplitterHandle",
-    "Frame",
-    "GroupBox",
-    "TreeWidget",
-    "ListView",
-    "LineEdit",
-    "Widget",
-    "Menu",
-    "Dial",
-    "RadioButton",
-    "CheckBox",
-    "ButtonGroup",
-    "SlideCheckBox",
-    "DelayButton",
-    "DelayToolButton",
-    "ClickableLabel",
-    "SpinBox",
-    "Slider",
-    "RoundProgressBar",
-    "ProgressBar",
-    "ProgressIndicator",
-    "RangeSlider",
-    "SpanSlider",
-    "GradientTool",
-    "ColorButton",
-    "ColorToolButton",
-    "ColorBar",
-    "ListWidget",
-    "ItemDelegate",
-    "ComboBox",
-    "ComboBoxListView",
-    "FontComboBox",
-    "SearchLineEdit",
-    "LineEditButton",
-    "CroppingLabel",
-    "SimpleListWidget",
-    "MidiSequenceEdit",
-    "QMessageBoxEx",
-    "KeySequenceEdit",
-    "QBalloonTip",
-    "FileChooser",
-    "ComboFileChooser",
-    "LetterBoxWidget",
-};
+const char exportedClasses[] =
+    "DarkUX Singleton DarkFusionStyle DarkProxyStyle TabWidget TabBar StatusBar Splitter "
+    "SplitterHandle Frame GroupBox TreeWidget ListView LineEdit Widget Menu Dial "
+    "RadioButton CheckBox ButtonGroup SlideCheckBox DelayButton DelayToolButton "
+    "ClickableLabel SpinBox Slider RoundProgressBar ProgressBar ProgressIndicator "
+    "RangeSlider SpanSlider GradientTool ColorButton ColorToolButton ColorBar ListWidget "
+    "ItemDelegate ComboBox ComboBoxListView FontComboBox SearchLineEdit LineEditButton "
+    "CroppingLabel SimpleListWidget MidiSequenceEdit QMessageBoxEx KeySequenceEdit "
+    "QBalloonTip FileChooser ComboFileChooser LetterBoxWidget";
 
 struct Outcome
 {
@@ -86,26 +42,37 @@ Outcome run(const QString &program, const QStringList &arguments,
         QVERIFY2(outcome.exitCode == 0, outcome.output.constData()); \
     } while (false)
 
-QString buildDirectory()
+const QString buildDirectory = NOCTURNE_BUILD_DIR;
+
+QByteArray contentsOf(const QString &path)
 {
-    return QStringLiteral(NOCTURNE_BUILD_DIR);
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// What the groups of \a pattern catch in \a text, one match after the other.
+QVector<QStringList> findAll(const char *pattern, const QByteArray &text)
+{
+    QVector<QStringList> found;
+    auto matches = QRegularExpression(pattern, QRegularExpression::MultilineOption)
+                       .globalMatch(QString::fromUtf8(text));
+    while (matches.hasNext())
+        found << matches.next().capturedTexts();
+    return found;
 }
 
 /// A setting that the build was configured with.
-QString configured(const QString &name)
+QString configured(const QByteArray &name)
 {
-    QFile cache(buildDirectory() + QStringLiteral("/CMakeCache.txt"));
-    if (!cache.open(QIODevice::ReadOnly))
-        return QString();
-    const QRegularExpression entry(QStringLiteral("^%1:[A-Z]+=(.*)$").arg(name),
-                                   QRegularExpression::MultilineOption);
-    return entry.match(QString::fromUtf8(cache.readAll())).captured(1);
+    const auto found =
+        findAll("^" + name + ":[A-Z]+=(.*)$", contentsOf(buildDirectory + "/CMakeCache.txt"));
+    return found.isEmpty() ? QString() : found.first().at(1);
 }
 
 /// What a program must be compiled with to go with this build of the library.
 QStringList sanitizerFlags()
 {
-    const QString sanitizers = configured(QStringLiteral("NOCTURNE_SANITIZE"));
+    const QString sanitizers = configured("NOCTURNE_SANITIZE");
     return sanitizers.isEmpty() ? QStringList() : QStringList{"-fsanitize=" + sanitizers};
 }
 
@@ -129,30 +96,14 @@ QStringList filesBelow(const QString &directory, const QStringList &patterns)
 /// Classes and namespaces that the library's sources define.
 QSet<QString> ownScopes()
 {
-    const QRegularExpression definition(
-        QStringLiteral("^\\s*(?:class|struct|namespace) (?:NOCTURNE_\\w+ )?(\\w+)(?!.*;)"),
-        QRegularExpression::MultilineOption);
     QSet<QString> scopes;
-    const QString sources = QStringLiteral(NOCTURNE_SOURCE_DIR "/nocturne");
-    for (const QString &path : filesBelow(sources, {"*.h", "*.cpp"})) {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
-        auto matches = definition.globalMatch(QString::fromUtf8(file.readAll()));
-        while (matches.hasNext())
-            scopes << matches.next().captured(1);
+    for (const QString &path : filesBelow(NOCTURNE_SOURCE_DIR "/nocturne", {"*.h", "*.cpp"})) {
+        for (const QStringList &definition :
+             findAll("^\\s*(?:class|struct|namespace) (?:NOCTURNE_\\w+ )?(\\w+)(?!.*;)",
+                     contentsOf(path)))
+            scopes << definition.at(1);
     }
     return scopes;
-}
-
-/// The outermost class or namespace of a demangled symbol, or the function's own name.
-QString scopeOf(const QString &symbol)
-{
-    static const QRegularExpression prefix(
-        QStringLiteral("^(vtable for|VTT for|typeinfo for|typeinfo name for|guard variable for|"
-                       "non-virtual thunk to|virtual thunk to|covariant return thunk to) "));
-    static const QRegularExpression name(QStringLiteral("^\\w+"));
-    return name.match(QString(symbol).remove(prefix)).captured();
 }
 
 } // namespace
@@ -166,7 +117,7 @@ private slots:
     void initTestCase()
     {
         QVERIFY(m_prefix.isValid());
-        VERIFY_RUNS("cmake", {"--install", buildDirectory(), "--prefix", m_prefix.path()});
+        VERIFY_RUNS("cmake", {"--install", buildDirectory, "--prefix", m_prefix.path()});
         const QStringList libraries = filesBelow(m_prefix.path(), {"libnocturne.so.4"});
         QCOMPARE(libraries.size(), 1);
         m_library = libraries.first();
@@ -174,36 +125,35 @@ private slots:
 
     void bundleComesAndGoesWithTheLibrary()
     {
-        VERIFY_RUNS(buildDirectory() + "/bin/nocturne-loadprobe", {m_library});
+        VERIFY_RUNS(buildDirectory + "/bin/nocturne-loadprobe", {m_library});
     }
 
     void onlyTheExportedClassesAreVisible()
     {
         const Outcome symbols = run("nm", {"-DC", "--defined-only", m_library});
         QCOMPARE(symbols.exitCode, 0);
-        QSet<QString> exported;
-        for (const char *name : exportedClasses)
-            exported << QLatin1String(name);
+        const QStringList names = QString(exportedClasses).split(' ');
+        const QSet<QString> exported(names.begin(), names.end());
         const QSet<QString> hidden = ownScopes() - exported;
-        QVERIFY(hidden.contains(QStringLiteral("DarkFusionStylePrivate")));
+        QVERIFY(hidden.contains("DarkFusionStylePrivate"));
 
-        const QRegularExpression line(QStringLiteral("^[0-9a-f]+ (\\w) (.+)$"),
-                                      QRegularExpression::MultilineOption);
         QStringList strays;
         QSet<QString> seen;
-        auto matches = line.globalMatch(QString::fromUtf8(symbols.output));
-        while (matches.hasNext()) {
-            const QRegularExpressionMatch match = matches.next();
-            const QString scope = scopeOf(match.captured(2));
+        // The kind of a symbol and its outermost class or namespace, or the function's own name.
+        const char *line =
+            "^[0-9a-f]+ (\\w) (?:(?:vtable|VTT|typeinfo|typeinfo name|guard variable) "
+            "for |(?:non-virtual|virtual|covariant return) thunk to )?(\\w*).*$";
+        for (const QStringList &symbol : findAll(line, symbols.output)) {
+            const QString scope = symbol.at(2);
             seen << scope;
             // Inline functions of the toolkit's and the language's headers are weak or unique.
-            const bool weak = QStringLiteral("WVu").contains(match.captured(1));
-            const bool linkers = scope.startsWith(QLatin1Char('_'));
+            const bool weak = QString("WVu").contains(symbol.at(1));
+            const bool linkers = scope.startsWith('_');
             if (!exported.contains(scope) && !linkers && (!weak || hidden.contains(scope)))
-                strays << match.captured(2);
+                strays << symbol.at(0);
         }
-        QVERIFY2(strays.isEmpty(), qPrintable(strays.join(QLatin1Char('\n'))));
-        QVERIFY(seen.contains(QStringLiteral("DarkUX")));
+        QVERIFY2(strays.isEmpty(), qPrintable(strays.join('\n')));
+        QVERIFY(seen.contains("DarkUX"));
     }
 
     void bundleFunctionsExistButAreNotExported()
@@ -223,21 +173,19 @@ private slots:
             QSKIP("a sanitizer initialises every file");
         const Outcome symbols = run("nm", {m_library});
         QCOMPARE(symbols.exitCode, 0);
-        const QRegularExpression initialiser(QStringLiteral("_GLOBAL__sub_I_(\\S+)"));
         QStringList files;
-        auto matches = initialiser.globalMatch(QString::fromUtf8(symbols.output));
-        while (matches.hasNext())
-            files << matches.next().captured(1);
-        QVERIFY(files.removeAll(QStringLiteral("qrc_nocturne.cpp")) == 1);
-        files.removeAll(QStringLiteral("qmessageboxex.cpp"));
-        QVERIFY2(files.isEmpty(), qPrintable(files.join(QLatin1Char(' '))));
+        for (const QStringList &initialiser : findAll("_GLOBAL__sub_I_(\\S+)", symbols.output))
+            files << initialiser.at(1);
+        QVERIFY(files.removeAll("qrc_nocturne.cpp") == 1);
+        files.removeAll("qmessageboxex.cpp");
+        QVERIFY2(files.isEmpty(), qPrintable(files.join(' ')));
     }
 
     void publicHeadersOnly()
     {
         const QStringList headers = filesBelow(m_prefix.path() + "/include", {"*"});
         for (const QString &header : headers)
-            QVERIFY2(!header.endsWith(QLatin1String("_p.h")), qPrintable(header));
+            QVERIFY2(!header.endsWith("_p.h"), qPrintable(header));
         QVERIFY(headers.contains(m_prefix.path() + "/include/nocturne/DarkUX"));
         QVERIFY(headers.contains(m_prefix.path() + "/include/nocturne/theme/darkux.h"));
     }
@@ -248,7 +196,7 @@ private slots:
         VERIFY_RUNS("cmake",
                     {"-S", NOCTURNE_SOURCE_DIR "/tests/consumer", "-B", build.path(), "-G",
                      configured("CMAKE_GENERATOR"), "-DCMAKE_PREFIX_PATH=" + m_prefix.path(),
-                     "-DCMAKE_CXX_FLAGS=" + sanitizerFlags().join(QLatin1Char(' '))});
+                     "-DCMAKE_CXX_FLAGS=" + sanitizerFlags().join(' ')});
         VERIFY_RUNS("cmake", {"--build", build.path()});
         VERIFY_RUNS(build.filePath("consumer"), {}, withoutLeakCheck());
         VERIFY_RUNS(build.filePath("consumer-hostkit"), {}, withoutLeakCheck());
@@ -267,7 +215,7 @@ private slots:
         const QString sources = NOCTURNE_SOURCE_DIR "/tests/consumer";
         QStringList arguments = {
             "-std=c++17", "-fPIC", "-o", program, sources + "/main.cpp", sources + "/theme.cpp"};
-        arguments << QString::fromLocal8Bit(flags.output.simplified()).split(QLatin1Char(' '));
+        arguments << QString::fromLocal8Bit(flags.output.simplified()).split(' ');
         arguments << sanitizerFlags();
         VERIFY_RUNS(configured("CMAKE_CXX_COMPILER"), arguments);
         environment = withoutLeakCheck();

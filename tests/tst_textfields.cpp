@@ -1,4 +1,4 @@
-#include "testsupport.h"
+#include "gestures.h"
 
 #include <nocturne/CroppingLabel>
 #include <nocturne/SearchLineEdit>
@@ -10,8 +10,6 @@
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QVBoxLayout>
 
-#include <memory>
-
 namespace {
 
 /// Puts a clear picture of \a size among the resources, as a host does, while it lives.
@@ -22,16 +20,15 @@ public:
     {
         QImage picture(size, QImage::Format_RGB32);
         picture.fill(Qt::red);
-        picture.save(m_folder.filePath(QStringLiteral("picture.png")));
-        QFile description(m_folder.filePath(QStringLiteral("host.qrc")));
+        picture.save(m_folder.filePath("picture.png"));
+        QFile description(m_folder.filePath("host.qrc"));
         description.open(QIODevice::WriteOnly);
         description.write("<RCC><qresource prefix=\"/resources/icons\">"
                           "<file alias=\"deleffect.png\">picture.png</file></qresource></RCC>");
         description.close();
-        m_bundle = m_folder.filePath(QStringLiteral("host.rcc"));
-        QProcess::execute(
-            QLibraryInfo::location(QLibraryInfo::BinariesPath) + QStringLiteral("/rcc"),
-            {QStringLiteral("--binary"), description.fileName(), QStringLiteral("-o"), m_bundle});
+        m_bundle = m_folder.filePath("host.rcc");
+        QProcess::execute(QLibraryInfo::location(QLibraryInfo::BinariesPath) + "/rcc",
+                          {"--binary", description.fileName(), "-o", m_bundle});
         m_registered = QResource::registerResource(m_bundle);
     }
     ~ClearPicture() { QResource::unregisterResource(m_bundle); }
@@ -54,17 +51,14 @@ public:
         layout->addWidget(label);
         layout->addWidget(neighbour);
         window.resize(300, 120);
-        window.show();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QVERIFY(TestSupport::showActive(&window));
         neighbour->setFocus();
         QObject::connect(label, &CroppingLabel::editFinished, label, [this](const QString &text) {
-            reports << QLatin1String("finished ") + text + QLatin1Char('|') + label->fullText();
+            reports << "finished " + text + '|' + label->fullText();
         });
         QObject::connect(label, &CroppingLabel::editRemoved, label,
-                         [this] { reports << QLatin1String("removed ") + label->fullText(); });
-        QObject::connect(label, &CroppingLabel::clicked, label,
-                         [this] { reports << QStringLiteral("clicked"); });
+                         [this] { reports << "removed " + label->fullText(); });
+        QObject::connect(label, &CroppingLabel::clicked, label, [this] { reports << "clicked"; });
     }
 
     QLineEdit *editor() const { return label->findChild<QLineEdit *>(); }
@@ -74,11 +68,6 @@ public:
         QVERIFY(editor()->isVisible());
         QVERIFY(editor()->hasFocus());
         reports.clear();
-    }
-    void type(const QString &text)
-    {
-        editor()->selectAll();
-        QTest::keyClicks(editor(), text);
     }
 
     QStringList reports;
@@ -103,7 +92,7 @@ private slots:
         QVERIFY(button);
         QCOMPARE(button->size(), QSize(15, 13));
         QCOMPARE(button->cursor().shape(), Qt::ArrowCursor);
-        QCOMPARE(button->toolTip(), QStringLiteral("Clear"));
+        QCOMPARE(button->toolTip(), QString("Clear"));
         QCOMPARE(field.minimumWidth(), 37);
         QCOMPARE(field.textMargins(), QMargins(4, 0, 22, 0));
         field.resize(200, 25);
@@ -111,15 +100,15 @@ private slots:
         QCOMPARE(button->pos(), QPoint(177, 6));
 
         QVERIFY(!button->isVisible());
-        QTest::keyClicks(&field, QStringLiteral("ab"));
+        QTest::keyClicks(&field, "ab");
         QVERIFY(button->isVisible());
         COMPARE_PIXEL(TestSupport::render(field), 180, 10, Qt::red);
         field.setCursorPosition(0);
         QStringList reports;
         connect(&field, &SearchLineEdit::clearButtonClicked, this,
-                [&] { reports << QStringLiteral("clear ") + field.text(); });
+                [&] { reports << "clear " + field.text(); });
         QTest::mouseClick(button, Qt::RightButton);
-        QCOMPARE(field.text(), QStringLiteral("ab"));
+        QCOMPARE(field.text(), QString("ab"));
 
         // What the field itself is told of a press on the button leaves the cursor alone.
         for (bool over : {true, false}) {
@@ -128,7 +117,7 @@ private slots:
             QCOMPARE(field.cursorPosition(), over ? 0 : 2);
         }
         QTest::mouseClick(button, Qt::LeftButton);
-        QCOMPARE(reports, QStringList{QStringLiteral("clear ")});
+        QCOMPARE(reports, QStringList{"clear "});
         QVERIFY(!button->isVisible());
     }
 
@@ -138,18 +127,18 @@ private slots:
         QCOMPARE(field.findChild<LineEditButton *>()->size(), QSize(0, 0));
         QCOMPARE(field.minimumWidth(), 0);
         QCOMPARE(field.textMargins(), QMargins(4, 0, 0, 0));
-        QTest::keyClicks(&field, QStringLiteral("ab"));
-        QCOMPARE(field.text(), QStringLiteral("ab"));
+        QTest::keyClicks(&field, "ab");
+        QCOMPARE(field.text(), QString("ab"));
     }
 
     void labelElides()
     {
         CroppingLabel label;
-        label.setText(QStringLiteral("  <b>name</b> of & clip  "));
-        const QString text = QStringLiteral("<b>name</b> of & clip");
+        label.setText("  <b>name</b> of & clip  ");
+        const QString text = "<b>name</b> of & clip";
         QCOMPARE(label.fullText(), text);
         const int width = label.fontMetrics().horizontalAdvance(text);
-        const int dots = label.fontMetrics().horizontalAdvance(QStringLiteral("..."));
+        const int dots = label.fontMetrics().horizontalAdvance("...");
         label.resize(width - 10, 20);
         label.show();
         QVERIFY(label.text().endsWith(QChar(0x2026)));
@@ -176,13 +165,13 @@ private slots:
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("stored");
-
-        QTest::newRow("another") << QStringLiteral(" new  name ") << QStringLiteral("new  name");
-        QTest::newRow("the same") << QStringLiteral("old ") << QStringLiteral("old");
-        QTest::newRow("zeros") << QStringLiteral("x 100") << QStringLiteral("x 100");
-        QTest::newRow("control characters")
-            << QStringLiteral("a\tb\vc\fd") + QChar(0) + QStringLiteral("e\u2028")
-            << QStringLiteral("abcde");
+        const auto row = [](const char *name, const QString &typed, const QString &stored) {
+            QTest::newRow(name) << typed << stored;
+        };
+        row("another", " new  name ", "new  name");
+        row("the same", "old ", "old");
+        row("zeros", "x 100", "x 100");
+        row("control characters", QString("a\tb\vc\fd") + QChar(0) + u8"e\u2028", "abcde");
     }
 
     void editing()
@@ -191,18 +180,18 @@ private slots:
         QFETCH(QString, stored);
         for (bool byReturn : {true, false}) {
             LabelFixture f;
-            f.label->setText(QStringLiteral("old"));
+            f.label->setText("old");
             f.open();
-            QCOMPARE(f.editor()->text(), QStringLiteral("old"));
+            QCOMPARE(f.editor()->text(), QString("old"));
             f.editor()->setText(typed);
             if (byReturn)
                 QTest::keyClick(f.editor(), Qt::Key_Return);
             else
                 f.neighbour->setFocus();
             QVERIFY(!f.editor()->isVisible());
-            QStringList expected{QStringLiteral("removed ") + stored};
-            if (stored != QLatin1String("old"))
-                expected.prepend(QStringLiteral("finished %1|old").arg(typed));
+            QStringList expected{"removed " + stored};
+            if (stored != "old")
+                expected.prepend(QString("finished %1|old").arg(typed));
             QCOMPARE(f.reports, expected);
             QCOMPARE(f.label->text(), stored);
         }
@@ -211,41 +200,39 @@ private slots:
     void escapeRestoresTheText()
     {
         LabelFixture f;
-        f.label->setText(QStringLiteral("old"));
+        f.label->setText("old");
         f.open();
-        QTest::keyClicks(f.editor(), QStringLiteral("abc"));
+        QTest::keyClicks(f.editor(), "abc");
         f.editor()->home(false);
         QTest::keyClick(f.editor(), Qt::Key_Delete);
-        QTest::keyClicks(f.editor(), QStringLiteral("x"));
         QTest::keyClick(f.editor(), Qt::Key_Escape);
         QVERIFY(!f.editor()->isVisible());
-        QCOMPARE(f.reports, QStringList{QStringLiteral("removed old")});
+        QCOMPARE(f.reports, QStringList{"removed old"});
     }
 
     void whatOpensTheEditor()
     {
         LabelFixture f;
-        f.label->setText(QStringLiteral("old"));
+        f.label->setText("old");
         f.label->setEditable(false);
         QVERIFY(!f.label->testAttribute(Qt::WA_SetCursor));
         QTest::mouseClick(f.label, Qt::LeftButton);
         QVERIFY(!f.editor()->isVisible());
-        QCOMPARE(f.reports, QStringList{QStringLiteral("clicked")});
-
+        QCOMPARE(f.reports, QStringList{"clicked"});
         f.label->setEditable(true);
         QCOMPARE(f.label->cursor().shape(), Qt::PointingHandCursor);
         f.label->editBegin();
-        QCOMPARE(f.editor()->selectedText(), QStringLiteral("old"));
-        f.type(QStringLiteral("typed"));
+        QCOMPARE(f.editor()->selectedText(), QString("old"));
+        QTest::keyClicks(f.editor(), "typed");
         QTest::mouseClick(f.label, Qt::LeftButton);
-        QCOMPARE(f.editor()->text(), QStringLiteral("typed"));
+        QCOMPARE(f.editor()->text(), QString("typed"));
     }
 
     void onlyTheEditorIsSeenWhileEditing()
     {
         LabelFixture f;
         f.label->setFixedHeight(60);
-        f.label->setText(QStringLiteral("\u2588\u2588\u2588"));
+        f.label->setText("\u2588\u2588\u2588");
         f.label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
         f.label->resize(200, 60);
         const QImage closed = TestSupport::render(*f.label);
@@ -262,9 +249,7 @@ private slots:
         {
             CroppingLabel window;
             window.resize(200, 30);
-            window.show();
-            window.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&window));
+            QVERIFY(TestSupport::showActive(&window));
             window.editBegin();
             connect(&window, &CroppingLabel::editRemoved, this, [&reported] { reported = true; });
         }

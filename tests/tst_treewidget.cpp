@@ -1,12 +1,10 @@
-#include "testsupport.h"
+#include "gestures.h"
 
 #include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
 #include <nocturne/TreeWidget>
-#include <nocturne/theme/toolkitexports_p.h>
 
 #include <QtGui/QPaintEvent>
-#include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
@@ -40,48 +38,6 @@ public:
         return item;
     }
 };
-
-QImage expectedImage(const QSize &size, bool top, bool bottom, qreal ratio)
-{
-    QImage bar(30, 30, QImage::Format_ARGB32);
-    bar.fill(Qt::transparent);
-    QPainter barPainter(&bar);
-    barPainter.fillRect(0, 0, 30, 6, Qt::black);
-    barPainter.end();
-    QPixmap shadow(30, 30);
-    shadow.fill(Qt::transparent);
-    QPainter shadowPainter(&shadow);
-    qt_blurImage(&shadowPainter, bar, 30, false, false);
-    shadowPainter.end();
-
-    const auto fragment = QPainter::PixmapFragment::create(
-        QPointF(size.width() / 2.0, 15), QRectF(0, 0, 30, 30), size.width() / 30.0, 1.0);
-    return TestSupport::paintOn(
-        size, background,
-        [&](QPainter &painter) {
-            if (top)
-                painter.drawPixmapFragments(&fragment, 1, shadow);
-            painter.translate(0, size.height());
-            painter.scale(1, -1);
-            if (bottom)
-                painter.drawPixmapFragments(&fragment, 1, shadow);
-        },
-        ratio);
-}
-
-/// What stands on the screen now, as opposed to what a fresh paint would give.
-QImage onScreen(QWidget &window)
-{
-    return window.screen()
-        ->grabWindow(window.winId())
-        .toImage()
-        .convertToFormat(QImage::Format_RGB32);
-}
-
-QImage freshlyPainted(QWidget &window)
-{
-    return window.grab().toImage().convertToFormat(QImage::Format_RGB32);
-}
 
 } // namespace
 
@@ -119,68 +75,42 @@ private slots:
         tree.resize(212, 160);
         tree.show();
         tree.verticalScrollBar()->setValue(value);
-        for (qreal ratio : {1.0, 1.5, 2.0}) {
-            for (bool enabled : {true, false}) {
-                tree.setEnabled(enabled);
-                QCOMPARE(TestSupport::render(tree, ratio),
-                         expectedImage(tree.size(), top, bottom, ratio));
+        // A black bar of six units, blurred over thirty.
+        const QMap<int, QRgb> shadow = {
+            {0, 0xff0a0b0d}, {10, 0xff14161a}, {20, 0xff181a1f}, {30, background}};
+        for (bool enabled : {true, false}) {
+            tree.setEnabled(enabled);
+            for (qreal ratio : {1.0, 1.5, 2.0}) {
+                const QImage image = TestSupport::render(tree, ratio);
+                for (int y : shadow.keys()) {
+                    const int row = qRound(y * ratio);
+                    const int x = image.width() / 2;
+                    COMPARE_PIXEL(image, x, row, top ? shadow[y] : background);
+                    COMPARE_PIXEL(image, x, image.height() - 1 - row,
+                                  bottom ? shadow[y] : background);
+                }
+                COMPARE_PIXEL(image, 0, 0, top ? 0xff101115 : background);
             }
         }
     }
 
-    void shadowsFollowTheVerticalOffset_data()
-    {
-        QTest::addColumn<bool>("uniform");
-        QTest::newRow("uniform rows") << true;
-        QTest::newRow("rows of different heights") << false;
-    }
-
-    /// With a bar that counts rows, the offset in pixels passes the maximum within a few rows.
     void shadowsFollowTheVerticalOffset()
     {
-        QFETCH(bool, uniform);
-        BareTree tree;
-        tree.setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-        tree.setUniformRowHeights(uniform);
-        for (int i = 0; i < 120; ++i) {
-            QTreeWidgetItem *item = tree.addRow(uniform ? 10 : 8 + i % 5);
-            for (int child = 0; child < 4; ++child)
-                (new QTreeWidgetItem(item))->setSizeHint(0, QSize(10, 12));
-        }
-        tree.resize(100, 120);
-        tree.show();
-        QVERIFY(followsOffset(tree));
-
-        tree.expandItem(tree.topLevelItem(1));
-        QVERIFY(followsOffset(tree));
-        for (int i = 0; i < 10; ++i)
-            tree.topLevelItem(i)->setSizeHint(0, QSize(10, 3));
-        QVERIFY(followsOffset(tree));
-        tree.topLevelItem(0)->setHidden(true);
-        tree.topLevelItem(3)->setHidden(true);
-        QVERIFY(followsOffset(tree));
-        delete tree.takeTopLevelItem(1);
-        auto *first = new QTreeWidgetItem;
-        first->setSizeHint(0, QSize(10, 40));
-        tree.insertTopLevelItem(0, first);
-        QVERIFY(followsOffset(tree));
-        tree.clear();
-        QVERIFY(followsOffset(tree));
+        shadowsFollow(true);
+        shadowsFollow(false);
     }
 
     void scrollingLeavesNoTrace_data()
     {
-        QTest::addColumn<int>("mode");
+        QTest::addColumn<QAbstractItemView::ScrollMode>("mode");
         QTest::addColumn<bool>("rightToLeft");
         QTest::addColumn<bool>("bars");
-        for (bool bars : {false, true}) {
+        for (auto mode : {QAbstractItemView::ScrollPerItem, QAbstractItemView::ScrollPerPixel}) {
             for (bool rightToLeft : {false, true}) {
-                const char *direction = rightToLeft ? "right to left" : "left to right";
-                const char *floating = bars ? ", under bars" : "";
-                QTest::addRow("rows, %s%s", direction, floating)
-                    << int(QAbstractItemView::ScrollPerItem) << rightToLeft << bars;
-                QTest::addRow("pixels, %s%s", direction, floating)
-                    << int(QAbstractItemView::ScrollPerPixel) << rightToLeft << bars;
+                for (bool bars : {false, true}) {
+                    QTest::addRow("mode %d, right to left %d, bars %d", mode, rightToLeft, bars)
+                        << mode << rightToLeft << bars;
+                }
             }
         }
     }
@@ -188,7 +118,7 @@ private slots:
     /// Scrolling copies what is on the screen; the shadows must not be copied along.
     void scrollingLeavesNoTrace()
     {
-        QFETCH(int, mode);
+        QFETCH(QAbstractItemView::ScrollMode, mode);
         QFETCH(bool, rightToLeft);
         QFETCH(bool, bars);
         BareTree tree;
@@ -199,18 +129,17 @@ private slots:
             tree.setFrameShape(QFrame::StyledPanel);
         }
         tree.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-        tree.setVerticalScrollMode(static_cast<QAbstractItemView::ScrollMode>(mode));
+        tree.setVerticalScrollMode(mode);
         for (int i = 0; i < 200; ++i)
-            tree.addRow(16 + i % 7, QStringLiteral("row %1 with a long text").arg(i));
+            tree.addRow(16 + i % 7, QString("row %1 with a long text").arg(i));
         tree.resize(90, 200);
         tree.setColumnWidth(0, 300);
-        tree.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&tree));
+        QVERIFY(TestSupport::showExposed(&tree));
 
         const auto settle = [&tree] {
             for (int i = 0; i < 3; ++i) // lay out, then paint
                 QCoreApplication::processEvents();
-            return onScreen(tree) == freshlyPainted(tree);
+            return TestSupport::onScreen(tree) == TestSupport::freshlyPainted(tree);
         };
         QVERIFY(settle());
         for (int value : {1, 2, 4, 3, 0, 9, 8, 7, 60, 61, 62, 100000, 150, 151, 1, 0}) {
@@ -266,10 +195,9 @@ private slots:
         tree.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
         tree.header()->setStretchLastSection(false); // not all of the width has columns
         for (int i = 0; i < 400; ++i)
-            tree.addTopLevelItem(new QTreeWidgetItem({QStringLiteral("row %1").arg(i)}));
+            tree.addTopLevelItem(new QTreeWidgetItem({QString("row %1").arg(i)}));
         tree.resize(300, 600);
-        tree.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&tree));
+        QVERIFY(TestSupport::showExposed(&tree));
         QScrollBar *bar = tree.verticalScrollBar();
         bar->setValue(5);
         QTRY_VERIFY(tree.rows > 20);
@@ -306,8 +234,7 @@ private slots:
         tree.setItemDelegate(&delegate);
         tree.addTopLevelItems(items);
         tree.resize(100, 200);
-        tree.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&tree));
+        QVERIFY(TestSupport::showExposed(&tree));
 
         delegate.count = 0;
         tree.verticalScrollBar()->setValue(15000);
@@ -321,6 +248,38 @@ private slots:
     }
 
 private:
+    /// With a bar that counts rows, the offset in pixels passes the maximum within a few rows.
+    static void shadowsFollow(bool uniform)
+    {
+        BareTree tree;
+        tree.setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+        tree.setUniformRowHeights(uniform);
+        for (int i = 0; i < 120; ++i) {
+            QTreeWidgetItem *item = tree.addRow(uniform ? 10 : 8 + i % 5);
+            for (int child = 0; child < 4; ++child)
+                (new QTreeWidgetItem(item))->setSizeHint(0, QSize(10, 12));
+        }
+        tree.resize(100, 120);
+        tree.show();
+        QVERIFY(followsOffset(tree));
+
+        tree.expandItem(tree.topLevelItem(1));
+        QVERIFY(followsOffset(tree));
+        for (int i = 0; i < 10; ++i)
+            tree.topLevelItem(i)->setSizeHint(0, QSize(10, 3));
+        QVERIFY(followsOffset(tree));
+        tree.topLevelItem(0)->setHidden(true);
+        tree.topLevelItem(3)->setHidden(true);
+        QVERIFY(followsOffset(tree));
+        delete tree.takeTopLevelItem(1);
+        auto *first = new QTreeWidgetItem;
+        first->setSizeHint(0, QSize(10, 40));
+        tree.insertTopLevelItem(0, first);
+        QVERIFY(followsOffset(tree));
+        tree.clear();
+        QVERIFY(followsOffset(tree));
+    }
+
     static bool followsOffset(BareTree &tree)
     {
         QCoreApplication::processEvents();
