@@ -17,6 +17,9 @@
 class JackServer
 {
 public:
+    /// Bytes of /dev/shm that a server takes, whatever its ports.
+    static constexpr qint64 sharedMemory = 42 * 1024 * 1024;
+
     ~JackServer() { stop(); }
 
     static bool isInstalled()
@@ -69,8 +72,10 @@ private:
         if (!m_process.waitForStarted(5000))
             return false;
         // A server that finds its name taken ends at once; whoever answers then is another's.
-        if (m_process.waitForFinished(500))
+        if (m_process.waitForFinished(500)) {
+            qInfo("%s", m_process.readAll().constData());
             return false;
+        }
         QElapsedTimer timer;
         timer.start();
         while (!answers()) {

@@ -5,6 +5,7 @@
 #include <nocturne/midi/midiport_p.h>
 
 #include <QtCore/QMutex>
+#include <QtCore/QStorageInfo>
 #include <QtTest/QtTest>
 
 #include <atomic>
@@ -552,6 +553,8 @@ private slots:
         QVERIFY(timer.elapsed() < 20000);
 
         m_server.reset();
+        if (QStorageInfo("/dev/shm").bytesAvailable() < JackServer::sharedMemory)
+            QSKIP("what clients keep of the dead server leaves no shared memory for another");
         QVERIFY(needJack());
         Sender sender("Keys");
         QMidiIn fresh;
