@@ -61,7 +61,7 @@ public:
     }
     Log takeLog()
     {
-        const Log taken = log;
+        Log taken = log;
         log.clear();
         return taken;
     }

@@ -52,7 +52,8 @@ public:
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
                            const QWidget *widget = nullptr) const override
     {
-        return QCommonStyle::sizeFromContents(type, option, contents, widget);
+        return QCommonStyle::sizeFromContents(type, option, contents, // NOLINT: passes ours over
+                                              widget);
     }
 };
 

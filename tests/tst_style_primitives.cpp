@@ -155,8 +155,8 @@ private:
 
     DarkUX m_theme;
     DarkFusionStyle *m_style = nullptr;
-    const SearchLineEdit m_search;
-    const QComboBoxPrivateContainer m_popup;
+    const SearchLineEdit m_search{};
+    const QComboBoxPrivateContainer m_popup{};
 };
 
 void TestStylePrimitives::addFrames()

@@ -37,7 +37,7 @@ private:
     static constexpr double burstBytes = 8192.0;
     static constexpr double bytesPerMillisecond = 500.0;
     static constexpr double bytesPerEvent = 12.0;
-    static constexpr qint64 longestWait = 2000;              // ms
+    static constexpr qint64 longestWait = 2000;                      // ms
     static constexpr size_t longestQueue = size_t(16) * 1024 * 1024; // bytes
 
     static double cost(const QMidiMessage::Bytes &bytes) { return bytes.size() + bytesPerEvent; }
