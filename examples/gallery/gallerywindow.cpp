@@ -19,7 +19,7 @@ GalleryWindow::GalleryWindow(QWidget *parent)
     splitter->addWidget(m_list);
     splitter->addWidget(m_area);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({200, 1000});
+    splitter->setSizes({240, 1000});
     setCentralWidget(splitter);
     m_area->setWidgetResizable(true);
 
