@@ -53,8 +53,7 @@ void compare(Benchmark &benchmark, int stops)
 
 int main(int argc, char *argv[])
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useOffscreenPlatform();
     QApplication app(argc, argv);
     Benchmark benchmark;
     for (int stops : {2, 100, 1000})

@@ -53,8 +53,7 @@ void compare(Benchmark &benchmark, const QString &name, Ours &ours, const QSize 
 
 int main(int argc, char *argv[])
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useOffscreenPlatform();
     QApplication app(argc, argv);
     DarkUX theme;
     Benchmark benchmark;

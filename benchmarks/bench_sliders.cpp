@@ -116,8 +116,7 @@ std::unique_ptr<Drag> dragOf(const QByteArray &kind, QStyle *style)
 
 int main(int argc, char *argv[])
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useOffscreenPlatform();
     QApplication app(argc, argv);
     DarkUX theme;
     const std::unique_ptr<QStyle> dark(theme.style());

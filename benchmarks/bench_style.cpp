@@ -548,8 +548,7 @@ bool isWanted(const Control &control)
 
 int main(int argc, char *argv[])
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useOffscreenPlatform();
     QApplication app(argc, argv);
     DarkUX theme;
     app.setStyle(theme.style());

@@ -4,10 +4,18 @@
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QString>
 #include <QtCore/QVector>
+#include <QtCore/QtGlobal>
 
 #include <algorithm>
 #include <cstdio>
 #include <functional>
+
+/// Benchmarks need no display, unless the caller chose one. Call it before the application is made.
+inline void useOffscreenPlatform()
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
 
 /// Times a piece of our work against a peer's in one run.
 ///

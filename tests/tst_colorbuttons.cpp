@@ -1,3 +1,4 @@
+#include "modaldialog.h"
 #include "testsupport.h"
 
 #include <nocturne/ColorBar>
@@ -11,19 +12,9 @@
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QPushButton>
 
-#include <functional>
 #include <memory>
 
 namespace {
-
-void whenDialogOpens(const std::function<void(QColorDialog *)> &work)
-{
-    QTimer::singleShot(0, [work] {
-        auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        work(dialog);
-    });
-}
 
 void clickButton(QColorDialog *dialog, QDialogButtonBox::StandardButton which)
 {
@@ -77,7 +68,7 @@ private slots:
     void dialogCancelled()
     {
         Fixture f;
-        whenDialogOpens([&f](QColorDialog *dialog) {
+        whenOpen<QColorDialog>([&f](QColorDialog *dialog) {
             dialog->setCurrentColor(Qt::red);
             QCOMPARE(f.button.color(), QColor(Qt::red));
             dialog->setCurrentColor(Qt::blue);
@@ -102,7 +93,7 @@ private slots:
         QFETCH(Flags, flags);
         Fixture f;
         f.button.setRealtimeChange(realtime);
-        whenDialogOpens([](QColorDialog *dialog) {
+        whenOpen<QColorDialog>([](QColorDialog *dialog) {
             dialog->setCurrentColor(Qt::red);
             clickButton(dialog, QDialogButtonBox::Ok);
         });
@@ -118,7 +109,7 @@ private slots:
     {
         auto *button = new ColorButton;
         QCOMPARE(button->color(), QColor(Qt::black));
-        whenDialogOpens([button](QColorDialog *) { delete button; });
+        whenOpen<QColorDialog>([button](QColorDialog *) { delete button; });
         QMetaObject::invokeMethod(button, "changeColor");
     }
 

@@ -1,3 +1,4 @@
+#include "modaldialog.h"
 #include "testsupport.h"
 
 #include <nocturne/ComboBox>
@@ -11,24 +12,12 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolButton>
 
-#include <functional>
-
 namespace {
-
-/// Runs \a work on the file dialog once it is open.
-void whenOpen(const std::function<void(QFileDialog *)> &work)
-{
-    QTimer::singleShot(0, [work] {
-        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        work(dialog);
-    });
-}
 
 /// Types \a path into the dialog and confirms it as a user does.
 void choose(const QString &path)
 {
-    whenOpen([path](QFileDialog *dialog) {
+    whenOpen<QFileDialog>([path](QFileDialog *dialog) {
         auto *edit = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
         QVERIFY(edit);
         edit->setText(path);
@@ -38,7 +27,7 @@ void choose(const QString &path)
 
 void cancel()
 {
-    whenOpen([](QFileDialog *dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
+    whenOpen<QFileDialog>([](QFileDialog *dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
 }
 
 QString extensionsIn(const QString &filter)
@@ -94,7 +83,7 @@ private slots:
         chooser.setFileName(m_dir.filePath(QStringLiteral("still.png")));
         QSignalSpy changed(&chooser, &FileChooser::fileNameChanged);
 
-        whenOpen([this](QFileDialog *dialog) {
+        whenOpen<QFileDialog>([this](QFileDialog *dialog) {
             QCOMPARE(dialog->windowTitle(), m_dir.filePath(QStringLiteral("still.png")));
             QCOMPARE(dialog->directory().absolutePath(), m_dir.path());
             QCOMPARE(dialog->fileMode(), QFileDialog::ExistingFile);
@@ -139,10 +128,10 @@ private slots:
             edit->setText(m_dir.path());
             QTest::keyClick(edit, Qt::Key_Return);
         };
-        whenOpen(isForFolders);
+        whenOpen<QFileDialog>(isForFolders);
         click<FileChooser, QPushButton>(chooser);
         QCOMPARE(chooser.fileName(), m_dir.path());
-        whenOpen(isForFolders);
+        whenOpen<QFileDialog>(isForFolders);
         click<ComboFileChooser, QToolButton>(combo);
         QCOMPARE(combo.fileName(), m_dir.path());
     }
@@ -167,7 +156,7 @@ private slots:
         ComboFileChooser chooser;
         chooser.setOpenFileType(QFlags<OpenFileType>(types));
         chooser.setLastSelectedDir(m_dir.path());
-        whenOpen([=](QFileDialog *dialog) {
+        whenOpen<QFileDialog>([=](QFileDialog *dialog) {
             QCOMPARE(dialog->directory().absolutePath(), m_dir.path());
             const QString extensions = extensionsIn(dialog->nameFilters().first());
             QVERIFY2(extensions.startsWith(first), qPrintable(extensions));
@@ -212,7 +201,7 @@ private slots:
     void deletedWhileItsDialogIsOpen()
     {
         auto *chooser = new FileChooser;
-        whenOpen([chooser](QFileDialog *) { delete chooser; });
+        whenOpen<QFileDialog>([chooser](QFileDialog *) { delete chooser; });
         QMetaObject::invokeMethod(chooser, "chooseFile");
     }
 

@@ -1,3 +1,4 @@
+#include "modaldialog.h"
 #include "testsupport.h"
 
 #include <nocturne/GradientTool>
@@ -5,8 +6,6 @@
 #include <QtWidgets/QColorDialog>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QPushButton>
-
-#include <functional>
 
 namespace {
 
@@ -82,15 +81,6 @@ private:
 
     QPointer<QWidget> m_target;
 };
-
-void whenDialogOpens(const std::function<void(QColorDialog *)> &work)
-{
-    QTimer::singleShot(0, [work] {
-        auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        work(dialog);
-    });
-}
 
 void clickButton(QColorDialog *dialog, QDialogButtonBox::StandardButton which)
 {
@@ -382,7 +372,7 @@ private slots:
     {
         Fixture f;
         f.editor.setCurrentColor(QColor(10, 20, 30, 40));
-        whenDialogOpens([](QColorDialog *dialog) {
+        whenOpen<QColorDialog>([](QColorDialog *dialog) {
             dialog->setCurrentColor(QColor(1, 1, 1));
             dialog->setCurrentColor(QColor(200, 100, 50));
             clickButton(dialog, QDialogButtonBox::Cancel);
@@ -392,7 +382,7 @@ private slots:
                                    "ramp false", "ramp false", "ramp false"}));
         QCOMPARE(f.editor.getCurrentColor(), QColor(10, 20, 30, 40));
 
-        whenDialogOpens([&f](QColorDialog *dialog) {
+        whenOpen<QColorDialog>([&f](QColorDialog *dialog) {
             dialog->setCurrentColor(QColor(1, 2, 3));
             QCOMPARE(f.editor.getCurrentColor(), QColor(1, 2, 3, 40));
             clickButton(dialog, QDialogButtonBox::Ok);
@@ -423,7 +413,7 @@ private slots:
     void deletedWhileItsDialogIsOpen()
     {
         auto *f = new Fixture;
-        whenDialogOpens([f](QColorDialog *) {
+        whenOpen<QColorDialog>([f](QColorDialog *) {
             f->editor.setRamp({{0, Qt::red}, {1, Qt::blue}});
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             QApplication::activeModalWidget()->close();

@@ -1,22 +1,11 @@
+#include "modaldialog.h"
 #include "testsupport.h"
 
 #include <nocturne/QMessageBoxEx>
 
 #include <QtWidgets/QPushButton>
 
-#include <functional>
-
 namespace {
-
-/// Runs \a work on the message box as soon as it is open.
-void whenOpen(const std::function<void(QMessageBox *)> &work)
-{
-    QTimer::singleShot(0, [work] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        QVERIFY(box);
-        work(box);
-    });
-}
 
 QString textOf(QMessageBox *box, QMessageBox::StandardButton button)
 {
@@ -41,7 +30,7 @@ private slots:
     {
         QMessageBox plain;
         plain.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-        whenOpen([&plain](QMessageBox *box) {
+        whenOpen<QMessageBox>([&plain](QMessageBox *box) {
             QCOMPARE(textOf(box, QMessageBox::Yes), textOf(&plain, QMessageBox::Yes));
             QCOMPARE(textOf(box, QMessageBox::No), textOf(&plain, QMessageBox::No));
             QCOMPARE(box->windowTitle(), QStringLiteral("title"));
@@ -73,7 +62,7 @@ private slots:
             {QMessageBox::Warning, &QMessageBoxEx::warning},
             {QMessageBox::Critical, &QMessageBoxEx::critical},
         };
-        whenOpen([icon](QMessageBox *box) {
+        whenOpen<QMessageBox>([icon](QMessageBox *box) {
             QCOMPARE(int(box->icon()), icon);
             QCOMPARE(box->standardButtons(), QMessageBox::Retry | QMessageBox::Cancel);
             QCOMPARE(box->defaultButton(), box->button(QMessageBox::Retry));
@@ -87,11 +76,11 @@ private slots:
 
     void escapeGivesTheEscapeButton()
     {
-        whenOpen([](QMessageBox *box) { QTest::keyClick(box, Qt::Key_Escape); });
+        whenOpen<QMessageBox>([](QMessageBox *box) { QTest::keyClick(box, Qt::Key_Escape); });
         QCOMPARE(QMessageBoxEx::question(nullptr, QString(), QString(),
                                          QMessageBox::Yes | QMessageBox::Cancel),
                  QMessageBox::Cancel);
-        whenOpen([](QMessageBox *box) {
+        whenOpen<QMessageBox>([](QMessageBox *box) {
             QCOMPARE(box->standardButtons(), QMessageBox::Ok);
             box->close();
         });
@@ -101,7 +90,7 @@ private slots:
     void aParentDeletedMeanwhileGivesNoButton()
     {
         auto *parent = new QWidget;
-        whenOpen([parent](QMessageBox *) { delete parent; });
+        whenOpen<QMessageBox>([parent](QMessageBox *) { delete parent; });
         QCOMPARE(QMessageBoxEx::critical(parent, QString(), QString()), QMessageBox::NoButton);
     }
 
@@ -111,7 +100,7 @@ private slots:
         QMessageBoxEx::setCustomTextForButton(QMessageBox::Cancel, QStringLiteral("Stay"));
         QMessageBox plain(QMessageBox::Question, QString(), QString(),
                           QMessageBox::Yes | QMessageBox::No);
-        whenOpen([&plain](QMessageBox *box) {
+        whenOpen<QMessageBox>([&plain](QMessageBox *box) {
             QCOMPARE(textOf(box, QMessageBox::Yes), QStringLiteral("Go"));
             QCOMPARE(textOf(box, QMessageBox::No), textOf(&plain, QMessageBox::No));
             QVERIFY(!box->button(QMessageBox::Cancel));
