@@ -1,4 +1,4 @@
-#include "../tests/jackserver.h"
+#include "../tests/support/jackserver.h"
 #include "benchmark.h"
 
 #include <nocturne/QMidiIn>

@@ -16,7 +16,8 @@ std::unique_ptr<RtMidiIn> createInput(RtMidi::Api interface)
 void receiveMidiMessage(double seconds, std::vector<unsigned char> *bytes, void *input)
 {
     if (bytes && !bytes->empty())
-        emit static_cast<QMidiIn *>(input)->midiMessageReceived(decodeMidiMessage(seconds, *bytes));
+        Q_EMIT static_cast<QMidiIn *>(input)->midiMessageReceived(
+            decodeMidiMessage(seconds, *bytes));
 }
 
 QMidiIn::QMidiIn(QObject *parent)

@@ -3,7 +3,7 @@
 #include "stylecolors_p.h"
 #include "stylehelpers_p.h"
 
-#include <nocturne/theme/themepaint_p.h>
+#include <nocturne/painting/themepaint_p.h>
 
 #include <QtWidgets/QStyleOption>
 

@@ -2,7 +2,7 @@
 
 #include "darkfusionstyle_p.h"
 
-#include <nocturne/theme/toolkitexports_p.h>
+#include <nocturne/painting/toolkitexports_p.h>
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QAbstractButton>

@@ -2,7 +2,7 @@
 #include "stylehelpers_p.h"
 #include "stylepainting_p.h"
 
-#include <nocturne/theme/themepaint_p.h>
+#include <nocturne/painting/themepaint_p.h>
 
 namespace StylePaint {
 

@@ -1,6 +1,6 @@
 #include "stylecolors_p.h"
 
-#include <nocturne/theme/themepaint_p.h>
+#include <nocturne/painting/themepaint_p.h>
 
 #include <QtWidgets/QAbstractScrollArea>
 #include <QtWidgets/QScrollBar>

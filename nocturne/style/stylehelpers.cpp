@@ -3,7 +3,7 @@
 #include "stylecolors_p.h"
 #include "stylepainting_p.h"
 
-#include <nocturne/theme/toolkitexports_p.h>
+#include <nocturne/painting/toolkitexports_p.h>
 
 #include <QtGui/QPixmapCache>
 #include <QtWidgets/QApplication>

@@ -22,7 +22,7 @@ class NOCTURNE_EXPORT ButtonGroup : public QButtonGroup
 public:
     explicit ButtonGroup(QObject *parent = nullptr);
 
-public slots:
+public Q_SLOTS:
     /// Checks the button with the id \a value. An id that no button has changes nothing.
     void setValue(int value);
 };

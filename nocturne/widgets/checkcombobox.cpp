@@ -101,7 +101,7 @@ void CheckComboBox::wheelEvent(QWheelEvent *event)
 void CheckComboBox::modelDataChanged()
 {
     updateSummary();
-    emit globalCheckStateChanged(globalCheckState());
+    Q_EMIT globalCheckStateChanged(globalCheckState());
 }
 
 void CheckComboBox::itemPressed(const QModelIndex &index)

@@ -60,7 +60,7 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-signals:
+Q_SIGNALS:
     /// An item has changed, for one in its check state; \a state is globalCheckState(). Emitted
     /// once per change, even if the state of all together stays as it was.
     void globalCheckStateChanged(int state);
@@ -68,7 +68,7 @@ signals:
 protected:
     void wheelEvent(QWheelEvent *event) override;
 
-private slots:
+private Q_SLOTS:
     void modelDataChanged();
     void itemPressed(const QModelIndex &index);
 

@@ -6,5 +6,5 @@ ClickableLabel::ClickableLabel(QWidget *parent, Qt::WindowFlags)
 
 void ClickableLabel::mousePressEvent(QMouseEvent *)
 {
-    emit clicked();
+    Q_EMIT clicked();
 }

@@ -20,7 +20,7 @@ public:
     /// The label always has the default window flags; \a f has no effect.
     explicit ClickableLabel(QWidget *parent = nullptr, Qt::WindowFlags f = Qt::WindowFlags());
 
-signals:
+Q_SIGNALS:
     /// A mouse button, whichever, went down on the label. Releasing it emits nothing.
     void clicked();
 

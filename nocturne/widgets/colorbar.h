@@ -37,7 +37,7 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
 
-private slots:
+private Q_SLOTS:
     void timeOut();
 
 private:

@@ -1,6 +1,6 @@
 #include "colorbutton.h"
 
-#include <nocturne/theme/themepaint_p.h>
+#include <nocturne/painting/themepaint_p.h>
 
 #include <QtCore/QMimeData>
 #include <QtCore/QPointer>
@@ -80,17 +80,17 @@ void ColorButton::changeColor()
 
     const QPointer<ColorButton> self(this);
     setColor(before);
-    emit colorChanged(0.0, false);
+    Q_EMIT colorChanged(0.0, false);
     if (!accepted || !self)
         return;
     setColor(chosen);
-    emit colorChanged(0.0, true);
+    Q_EMIT colorChanged(0.0, true);
 }
 
 void ColorButton::colorChange(QColor c)
 {
     setColor(c);
-    emit colorChanged(0.0, false);
+    Q_EMIT colorChanged(0.0, false);
 }
 
 void ColorButton::mousePressEvent(QMouseEvent *event)
@@ -137,7 +137,7 @@ void ColorButton::dropEvent(QDropEvent *event)
     if (!event->isAccepted() || event->source() == this)
         return;
     setColor(event->mimeData()->colorData().value<QColor>());
-    emit colorChanged(0.0, true);
+    Q_EMIT colorChanged(0.0, true);
 }
 
 void ColorButton::paintEvent(QPaintEvent *)

@@ -37,7 +37,7 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-signals:
+Q_SIGNALS:
     /// The user has changed the colour; the number is always 0.0. The bool is true when a colour
     /// was accepted in the dialog or dropped onto the button. It is false for each preview while
     /// the dialog is open, and for the return to the old colour when the dialog closes, which
@@ -56,7 +56,7 @@ protected:
     void drawButton(QPainter *painter);
     void drawButtonLabel(QPainter *painter);
 
-private slots:
+private Q_SLOTS:
     void changeColor();
     void colorChange(QColor c);
 

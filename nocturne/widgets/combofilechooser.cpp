@@ -17,7 +17,7 @@ ComboFileChooser::ComboFileChooser(QWidget *parent)
 
     layout->addWidget(m_comboBox);
     connect(m_comboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            [this](int index) { emit fileNameChanged(m_comboBox->itemText(index)); });
+            [this](int index) { Q_EMIT fileNameChanged(m_comboBox->itemText(index)); });
 
     auto *button = new QToolButton;
     button->setIcon(QIcon(QStringLiteral(":/resources/appicons/fileopen.png")));
@@ -72,7 +72,7 @@ void ComboFileChooser::setLastSelectedDir(const QString &directory)
 void ComboFileChooser::chooseFile()
 {
     const QPointer<ComboFileChooser> self(this);
-    emit beforFileOpen();
+    Q_EMIT beforFileOpen();
     if (!self)
         return;
     const QString path = askForPath();

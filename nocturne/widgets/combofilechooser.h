@@ -49,12 +49,12 @@ public:
     /// it.
     void setLastSelectedDir(const QString &directory);
 
-public slots:
+public Q_SLOTS:
     /// Makes the item with that text the current one.
     void setFileName(QString fn);
     void setMode(ComboFileChooser::Mode m);
 
-signals:
+Q_SIGNALS:
     /// Another item has become current, once for each choice of a file or folder.
     /// Clearing the items reports an empty text.
     void fileNameChanged(QString fileName);
@@ -62,7 +62,7 @@ signals:
     /// The button was clicked; no dialog is open yet.
     void beforFileOpen();
 
-private slots:
+private Q_SLOTS:
     void chooseFile();
 
 private:

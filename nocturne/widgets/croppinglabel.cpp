@@ -149,7 +149,7 @@ void CroppingLabel::mouseReleaseEvent(QMouseEvent *event)
 {
     if (m_editable)
         showTextEdit();
-    emit clicked();
+    Q_EMIT clicked();
     QLabel::mouseReleaseEvent(event);
 }
 
@@ -180,7 +180,7 @@ void CroppingLabel::editingFinished()
     const QString typed = m_lineEdit->text();
     const QString cleaned = cleanedText(typed);
     if (cleaned != m_fullText)
-        emit editFinished(typed);
+        Q_EMIT editFinished(typed);
     setText(cleaned);
-    emit editRemoved();
+    Q_EMIT editRemoved();
 }

@@ -45,11 +45,11 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-public slots:
+public Q_SLOTS:
     /// Keeps the label from growing beyond its present text.
     void minimizeMaximumWidth();
 
-signals:
+Q_SIGNALS:
     /// An edit has ended with another text. \a newText is what was typed; fullText() will be that
     /// without spaces at its ends and without tabs, line breaks and the like.
     void editFinished(const QString &newText);
@@ -73,7 +73,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
-private slots:
+private Q_SLOTS:
     void editingFinished();
 
 private:

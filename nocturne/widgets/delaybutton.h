@@ -27,7 +27,7 @@ public:
     /// enabled again when the event loop next runs; negative values count as 0.
     void setDelay(int delay);
 
-private slots:
+private Q_SLOTS:
     void disableButton();
     void enableButton();
 

@@ -57,7 +57,7 @@ void FileChooser::chooseFile()
         return;
     m_lineEdit->setText(path);
     if (self)
-        emit fileNameChanged(path);
+        Q_EMIT fileNameChanged(path);
 }
 
 QString FileChooser::askForPath()

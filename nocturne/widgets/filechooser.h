@@ -33,17 +33,17 @@ public:
     /// What the button picks; OpenFile at first.
     Mode mode() const { return m_mode; }
 
-public slots:
+public Q_SLOTS:
     /// Puts \a fn into the line edit.
     void setFileName(QString fn);
     void setMode(FileChooser::Mode m);
 
-signals:
+Q_SIGNALS:
     /// The text has changed, by typing or by setFileName(); and once more after each choice, so
     /// that choosing the same file again is heard as well.
     void fileNameChanged(QString fileName);
 
-private slots:
+private Q_SLOTS:
     void chooseFile();
 
 private:

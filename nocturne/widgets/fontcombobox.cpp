@@ -38,7 +38,7 @@ void FontComboBox::wheelEvent(QWheelEvent *event)
 
 void FontComboBox::highlighted(const QString &value)
 {
-    emit highlightFontChanged(QFont(value));
+    Q_EMIT highlightFontChanged(QFont(value));
 }
 
 void FontComboBox::endPreview()
@@ -47,11 +47,11 @@ void FontComboBox::endPreview()
     m_takingChoice = true;
     QMetaObject::invokeMethod(
         this, [this] { m_takingChoice = false; }, Qt::QueuedConnection);
-    emit highlightFontChanged(currentFont());
+    Q_EMIT highlightFontChanged(currentFont());
 }
 
 void FontComboBox::previewChoice(const QFont &font)
 {
     if (m_takingChoice)
-        emit highlightFontChanged(font);
+        Q_EMIT highlightFontChanged(font);
 }

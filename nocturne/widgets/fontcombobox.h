@@ -27,7 +27,7 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-signals:
+Q_SIGNALS:
     /// The font to preview. While the popup is open: the family that the pointer or the keys are
     /// on, with default size and weight. When the popup closes: the current font; and once more
     /// when the popup was closed by choosing another.
@@ -36,7 +36,7 @@ signals:
 protected:
     void wheelEvent(QWheelEvent *event) override;
 
-private slots:
+private Q_SLOTS:
     void highlighted(const QString &value);
 
 private:

@@ -124,7 +124,7 @@ void GradientTool::setActiveSlider(int index)
     for (int i = 0; i < m_stops.size(); ++i)
         m_stops.at(i).second->setActive(i == active);
     m_activeIndex = active;
-    emit opacityValueChange(m_stops.at(active).second->color().alpha() / alphaPerPercent);
+    Q_EMIT opacityValueChange(m_stops.at(active).second->color().alpha() / alphaPerPercent);
 }
 
 int GradientTool::getSliderAlpha(int index) const
@@ -179,7 +179,7 @@ void GradientTool::setSliderColor(int index, QColor col)
         return;
     m_stops.at(index).second->setColor(col);
     updateBar();
-    emit rampChanged(0.0, true);
+    Q_EMIT rampChanged(0.0, true);
 }
 
 void GradientTool::setAlphaValue(double value)
@@ -206,7 +206,7 @@ void GradientTool::colorChange(QColor c)
     c.setAlpha(marker->color().alpha());
     marker->setColor(c);
     updateBar();
-    emit rampChanged(0.0, false);
+    Q_EMIT rampChanged(0.0, false);
 }
 
 bool GradientTool::colorRampSort(const QPair<double, GradientToolSlider *> &a,
@@ -353,7 +353,7 @@ void GradientTool::pressMarker(const QPoint &point)
         const QPointer<GradientTool> self(this);
         setActiveSlider(i);
         if (self)
-            emit sliderChanged(0.0, false);
+            Q_EMIT sliderChanged(0.0, false);
         return;
     }
 }
@@ -367,7 +367,7 @@ void GradientTool::pressBar(const QPoint &point)
     const QPointer<GradientTool> self(this);
     setActiveSlider(m_dragIndex);
     if (self)
-        emit rampChanged(0.0, true);
+        Q_EMIT rampChanged(0.0, true);
 }
 
 void GradientTool::mouseMoveEvent(QMouseEvent *event)
@@ -389,7 +389,7 @@ void GradientTool::mouseMoveEvent(QMouseEvent *event)
         marker->setGeometry(markerGeometry(position));
         m_stops[m_activeIndex].first = position;
         if (m_slideUpdate)
-            emit rampChanged(0.0, true);
+            Q_EMIT rampChanged(0.0, true);
     }
     if (self)
         notifyDragStep();
@@ -403,7 +403,7 @@ void GradientTool::notifyDragStep()
         return;
     const bool first = m_firstChange;
     m_firstChange = false;
-    emit rampChanged(0.0, first);
+    Q_EMIT rampChanged(0.0, first);
 }
 
 void GradientTool::mouseReleaseEvent(QMouseEvent *event)
@@ -434,7 +434,7 @@ void GradientTool::removeActiveStop()
     const QPointer<GradientTool> self(this);
     setActiveSlider(0);
     if (self && m_pressed)
-        emit rampChanged(0.0, m_firstChange);
+        Q_EMIT rampChanged(0.0, m_firstChange);
 }
 
 void GradientTool::mouseDoubleClickEvent(QMouseEvent *event)
@@ -446,7 +446,7 @@ void GradientTool::mouseDoubleClickEvent(QMouseEvent *event)
         if (!marker->geometry().contains(event->pos(), true))
             continue;
         const QPointer<GradientTool> self(this);
-        emit updateSliderColorRequest(i);
+        Q_EMIT updateSliderColorRequest(i);
         if (self)
             setActiveSlider(i);
         if (self && marker && m_colorDialog)
@@ -468,7 +468,7 @@ void GradientTool::chooseColor(GradientToolSlider *target)
 
     marker->setColor(before);
     updateBar();
-    emit rampChanged(0.0, false);
+    Q_EMIT rampChanged(0.0, false);
     if (!accepted || !self || !marker || !dialog)
         return;
 
@@ -476,7 +476,7 @@ void GradientTool::chooseColor(GradientToolSlider *target)
     chosen.setAlpha(before.alpha());
     marker->setColor(chosen);
     updateBar();
-    emit rampChanged(0.0, true);
+    Q_EMIT rampChanged(0.0, true);
 }
 
 bool GradientTool::event(QEvent *event)

@@ -81,7 +81,7 @@ public:
     /// first.
     void setSlideUpdate(bool update);
 
-public slots:
+public Q_SLOTS:
     /// Changes the colour of a stop and emits rampChanged(0.0, true). Numbers beyond the stops are
     /// ignored.
     void setSliderColor(int index, QColor col);
@@ -96,7 +96,7 @@ public slots:
     /// rampChanged(0.0, false).
     void colorChange(QColor c);
 
-signals:
+Q_SIGNALS:
     /// The ramp has changed; the number is always 0.0. The bool is true for a complete step: a
     /// stop was added, a colour assigned or accepted, the first step of a drag, or any step of a
     /// drag while setSlideUpdate() is on. It is false for previews, for what they are undone with,
@@ -119,7 +119,7 @@ protected:
 
     bool event(QEvent *event) override;
 
-protected slots:
+protected Q_SLOTS:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;

@@ -23,7 +23,7 @@ public:
     /// Hides what it paints while its stop is about to be removed.
     void setPainted(bool painted);
 
-protected slots:
+protected Q_SLOTS:
     void paintEvent(QPaintEvent *event) override;
 
 private:

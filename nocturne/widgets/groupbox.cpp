@@ -1,6 +1,6 @@
 #include "groupbox.h"
 
-#include <nocturne/theme/themepaint_p.h>
+#include <nocturne/painting/themepaint_p.h>
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>

@@ -83,7 +83,7 @@ void KeySequenceEdit::clearKeySequence()
     if (m_sequence.isEmpty())
         return;
     setKeySequence(QKeySequence());
-    emit keySequenceChanged(m_sequence);
+    Q_EMIT keySequenceChanged(m_sequence);
 }
 
 void KeySequenceEdit::defaultKeySequence()
@@ -120,7 +120,7 @@ void KeySequenceEdit::processKeyPress(QKeyEvent *event)
         return;
     m_oldSequence = m_sequence;
     setKeySequence(pressed);
-    emit keySequenceChanged(m_sequence);
+    Q_EMIT keySequenceChanged(m_sequence);
 }
 
 void KeySequenceEdit::paintEvent(QPaintEvent *)

@@ -1,6 +1,6 @@
 #include "letterboxwidget.h"
 
-#include <nocturne/theme/themepaint_p.h>
+#include <nocturne/painting/themepaint_p.h>
 
 #include <QtCore/QChildEvent>
 #include <QtWidgets/QLayout>

@@ -58,7 +58,7 @@ public:
 
     QSize sizeHint() const override;
 
-public slots:
+public Q_SLOTS:
     /// Lays the held widget out now.
     void resizeWidget();
 

@@ -17,5 +17,5 @@ LineEditButton::~LineEditButton() = default;
 void LineEditButton::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() & Qt::LeftButton)
-        emit clicked();
+        Q_EMIT clicked();
 }

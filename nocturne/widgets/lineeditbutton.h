@@ -23,7 +23,7 @@ public:
     LineEditButton();
     ~LineEditButton() override;
 
-signals:
+Q_SIGNALS:
     /// The button was pressed with the left mouse button.
     void clicked();
 

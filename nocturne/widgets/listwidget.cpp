@@ -1,9 +1,9 @@
 #include "listwidget.h"
 
-#include "edgeshadow_p.h"
 #include "ilistitem.h"
+#include <nocturne/painting/edgeshadow_p.h>
 
-#include <nocturne/theme/themepaint_p.h>
+#include <nocturne/painting/themepaint_p.h>
 
 #include <QtCore/QMimeData>
 #include <QtCore/QUrl>
@@ -69,7 +69,7 @@ void ListWidget::itemSelectionChange()
     if (selectedItems().isEmpty() && currentItem())
         currentItem()->setSelected(true);
     blockSignals(false);
-    emit itemSelectionChanged(currentRow());
+    Q_EMIT itemSelectionChanged(currentRow());
 }
 
 void ListWidget::setCurrentRowSlot(int idx)
@@ -141,7 +141,7 @@ void ListWidget::dropFromWithin(QDropEvent *event)
     QListWidgetItem *target = itemAt(event->pos());
     m_draggedIndex = QModelIndex();
     if (dragged && dragged != target)
-        emit itemMoved(dragged, target);
+        Q_EMIT itemMoved(dragged, target);
 }
 
 /// Reports the URLs; false when the list of them turns out to be empty.
@@ -153,7 +153,7 @@ bool ListWidget::dropUrls(QDropEvent *event)
         files << url.toLocalFile();
     if (files.isEmpty())
         return false;
-    emit dragDropFiles(files);
+    Q_EMIT dragDropFiles(files);
     event->acceptProposedAction();
     return true;
 }

@@ -50,7 +50,7 @@ public:
     /// Sets the margins around the scrolled area, in pixels.
     void setViewportMargins(int left, int top, int right, int bottom);
 
-signals:
+Q_SIGNALS:
     /// Files, or other things that have URLs, were dropped from another application. Holds a local
     /// path for each URL in their order, empty for a URL that is not a local file.
     void dragDropFiles(const QStringList &files);
@@ -64,7 +64,7 @@ signals:
     /// list.
     void itemMoved(QListWidgetItem *item, QListWidgetItem *target);
 
-private slots:
+private Q_SLOTS:
     void itemSelectionChange();
     void setCurrentRowSlot(int idx);
     void itemClick(QListWidgetItem *item);

@@ -12,5 +12,5 @@ Menu::Menu(QWidget *parent)
 
 void Menu::leaveEvent(QEvent *)
 {
-    emit leaved();
+    Q_EMIT leaved();
 }

@@ -20,7 +20,7 @@ public:
     explicit Menu(const QString &title, QWidget *parent = nullptr);
     explicit Menu(QWidget *parent = nullptr);
 
-signals:
+Q_SIGNALS:
     /// The pointer left the menu. Emitted instead of what a menu otherwise does then: the
     /// highlighted action stays highlighted.
     void leaved();

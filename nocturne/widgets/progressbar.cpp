@@ -1,6 +1,6 @@
 #include "progressbar.h"
 
-#include "glowbar_p.h"
+#include <nocturne/painting/glowbar_p.h>
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>

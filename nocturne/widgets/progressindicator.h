@@ -41,7 +41,7 @@ public:
     QSize sizeHint() const override;
     int heightForWidth(int width) const override;
 
-public slots:
+public Q_SLOTS:
     /// Starts turning from the upright position; while turning, only returns to it.
     void startAnimation();
     /// Stops where the wheel stands.

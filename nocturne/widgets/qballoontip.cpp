@@ -275,7 +275,7 @@ void QBalloonTip::mousePressEvent(QMouseEvent *event)
     const QPointer<QSystemTrayIcon> trayIcon = m_trayIcon;
     close();
     if (isLeft && trayIcon)
-        emit trayIcon->messageClicked();
+        Q_EMIT trayIcon->messageClicked();
 }
 
 void QBalloonTip::paintEvent(QPaintEvent *)

@@ -5,7 +5,7 @@
 #include "handleaccessible_p.h"
 #include "rangeslider_p.h"
 
-#include <nocturne/theme/themepaint_p.h>
+#include <nocturne/painting/themepaint_p.h>
 
 #include <QtGui/QHelpEvent>
 #include <QtGui/QMouseEvent>
@@ -155,26 +155,26 @@ void RangeSlider::setValues(int min, int max, int main)
     d->mainPosition = d->mainValue = now.main;
 
     if (isSliderDown() && now != oldPositions) {
-        emit positionsChanged(now.minimum, now.maximum, now.main);
+        Q_EMIT positionsChanged(now.minimum, now.maximum, now.main);
         if (now.minimum != oldPositions.minimum)
-            emit minimumPositionChanged(now.minimum);
+            Q_EMIT minimumPositionChanged(now.minimum);
         if (now.maximum != oldPositions.maximum)
-            emit maximumPositionChanged(now.maximum);
+            Q_EMIT maximumPositionChanged(now.maximum);
         if (now.main != oldPositions.main)
-            emit mainPositionChanged(now.main);
+            Q_EMIT mainPositionChanged(now.main);
     }
 
     if (now.minimum != oldValues.minimum) {
         HandleAccessibility::valueChanged(this, 0, now.minimum);
-        emit minimumValueChanged(now.minimum);
+        Q_EMIT minimumValueChanged(now.minimum);
     }
     if (now.maximum != oldValues.maximum) {
         HandleAccessibility::valueChanged(this, 1, now.maximum);
-        emit maximumValueChanged(now.maximum);
+        Q_EMIT maximumValueChanged(now.maximum);
     }
     if (now.main != oldValues.main) {
         HandleAccessibility::valueChanged(this, 2, now.main);
-        emit mainValueChanged(now.main);
+        Q_EMIT mainValueChanged(now.main);
     }
 
     if (now != oldPositions || now != oldValues)
@@ -214,12 +214,12 @@ void RangeSlider::setPositions(int min, int max, int main)
 
     if (isSliderDown()) {
         if (now.minimum != old.minimum)
-            emit minimumPositionChanged(now.minimum);
+            Q_EMIT minimumPositionChanged(now.minimum);
         if (now.maximum != old.maximum)
-            emit maximumPositionChanged(now.maximum);
+            Q_EMIT maximumPositionChanged(now.maximum);
         if (now.main != old.main)
-            emit mainPositionChanged(now.main);
-        emit positionsChanged(now.minimum, now.maximum, now.main);
+            Q_EMIT mainPositionChanged(now.main);
+        Q_EMIT positionsChanged(now.minimum, now.maximum, now.main);
     }
 
     if (hasTracking()) {
@@ -335,7 +335,7 @@ void RangeSlider::mousePressEvent(QMouseEvent *event)
     }
 
     const RangeSliderPrivate::Hit hit = d->hitTest(event->pos());
-    emit mousePressed(hit.handle);
+    Q_EMIT mousePressed(hit.handle);
     if (!m_mousePressed)
         return; // A receiver hid or disabled the slider, which ended the gesture.
 
@@ -374,14 +374,14 @@ void RangeSlider::endGesture()
 {
     RangeSliderPrivate *d = d_func();
     m_mousePressed = false;
-    emit mouseReleased(d->selectedHandles);
+    Q_EMIT mouseReleased(d->selectedHandles);
     setSliderDown(false);
     d->selectedHandles = RangeSliderPrivate::NoHandle;
     update();
 
     if (d->gestureChangedValue) {
         d->gestureChangedValue = false;
-        emit valuesChanged(d->minimumValue, d->maximumValue, d->mainValue);
+        Q_EMIT valuesChanged(d->minimumValue, d->maximumValue, d->mainValue);
     }
 }
 
@@ -615,7 +615,7 @@ void RangeSliderPrivate::reportHover(const QPoint &point)
     if (hoverValue == lastHoverValue)
         return;
     lastHoverValue = hoverValue;
-    emit q_ptr->sliderMoveChanged(point.x(), point.y(), hoverValue);
+    Q_EMIT q_ptr->sliderMoveChanged(point.x(), point.y(), hoverValue);
 }
 
 bool RangeSliderPrivate::showHandleToolTip(const QHelpEvent *event) const

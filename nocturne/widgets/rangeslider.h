@@ -97,7 +97,7 @@ public:
     /// loses the focus, is hidden or disabled.
     bool isKeyPressed() const;
 
-signals:
+Q_SIGNALS:
     /// A value changed, by a setter or by the user. The three are emitted in this order.
     void minimumValueChanged(int min);
     void maximumValueChanged(int max);
@@ -129,7 +129,7 @@ signals:
     /// A button came up while \a handle was grabbed, or 0 when none was.
     void mouseReleased(int handle);
 
-public slots:
+public Q_SLOTS:
     /// Sets one value, and pushes the other end of the range along when it is in the way.
     void setMinimumValue(int value);
     void setMaximumValue(int value);
@@ -145,7 +145,7 @@ public slots:
     /// host had blocked are unblocked.
     void positionChange(int value);
 
-protected slots:
+protected Q_SLOTS:
     /// Clamps the values again, for subclasses to connect to a change of the slider's range. The
     /// arguments are not used.
     void onRangeChanged(int minimum, int maximum, int main);

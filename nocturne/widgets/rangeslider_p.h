@@ -1,7 +1,7 @@
 #ifndef NOCTURNE_RANGESLIDER_P_H
 #define NOCTURNE_RANGESLIDER_P_H
 
-#include "paintsample_p.h"
+#include <nocturne/painting/paintsample_p.h>
 
 #include <nocturne/widgets/rangeslider.h>
 

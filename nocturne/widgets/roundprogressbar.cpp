@@ -2,7 +2,7 @@
 
 #include "ringaccessible_p.h"
 
-#include <nocturne/theme/themepaint_p.h>
+#include <nocturne/painting/themepaint_p.h>
 
 #include <QtGui/QAccessible>
 #include <QtGui/QConicalGradient>

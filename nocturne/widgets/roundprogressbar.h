@@ -105,7 +105,7 @@ public:
     bool hasHeightForWidth() const override;
     int heightForWidth(int width) const override;
 
-public slots:
+public Q_SLOTS:
     /// Sets the range, exchanged when \a min is the larger, and moves the value into it. A range
     /// of no length shows 0 %. Numbers that are not finite are ignored.
     void setRange(double min, double max);

@@ -54,5 +54,5 @@ void SearchLineEdit::textChanged(const QString &text)
 void SearchLineEdit::clearText()
 {
     clear();
-    emit clearButtonClicked();
+    Q_EMIT clearButtonClicked();
 }

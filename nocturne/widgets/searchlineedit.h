@@ -24,7 +24,7 @@ public:
     explicit SearchLineEdit(QWidget *parent = nullptr);
     ~SearchLineEdit() override;
 
-signals:
+Q_SIGNALS:
     /// The clear button was pressed; the text is empty by now.
     void clearButtonClicked();
 
@@ -33,7 +33,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
-private slots:
+private Q_SLOTS:
     void textChanged(const QString &text);
     void clearText();
 

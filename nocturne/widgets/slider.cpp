@@ -78,7 +78,7 @@ bool Slider::event(QEvent *event)
 void Slider::mousePressEvent(QMouseEvent *event)
 {
     const bool wasPressed = m_mousePressed;
-    emit mousePressed();
+    Q_EMIT mousePressed();
     if (wasPressed && !m_mousePressed)
         return; // A receiver hid or disabled the slider, which ended the gesture.
 
@@ -96,7 +96,7 @@ void Slider::mouseMoveEvent(QMouseEvent *event)
         if (value != m_lastHoverValue) {
             // Stored first, so that a receiver that moves the pointer does not get the value twice.
             m_lastHoverValue = value;
-            emit sliderMoveChanged(pos.x(), pos.y(), value);
+            Q_EMIT sliderMoveChanged(pos.x(), pos.y(), value);
         }
     }
     QSlider::mouseMoveEvent(event);
@@ -109,7 +109,7 @@ void Slider::mouseReleaseEvent(QMouseEvent *event)
 
 void Slider::mouseDoubleClickEvent(QMouseEvent *)
 {
-    emit mouseDoubleClick();
+    Q_EMIT mouseDoubleClick();
 }
 
 void Slider::paintEvent(QPaintEvent *event)
@@ -124,7 +124,7 @@ void Slider::sliderChange(SliderChange change)
     if (change == SliderValueChange && m_mousePressed) {
         const bool firstChange = m_firstChange;
         m_firstChange = false;
-        emit valueChanged(value(), firstChange);
+        Q_EMIT valueChanged(value(), firstChange);
     }
     QAbstractSlider::sliderChange(change);
 }

@@ -48,12 +48,12 @@ public:
     /// the slider is hidden, disabled or shut out by a modal window, which ends a drag.
     bool isMousePressed() const;
 
-public slots:
+public Q_SLOTS:
     /// Sets the value, clamped to the range, without any signal: for hosts that follow a value from
     /// elsewhere.
     void positionChange(int value);
 
-signals:
+Q_SIGNALS:
     /// The value changed while isMousePressed(). \a firstChange is true for the first change after
     /// the button went down, usually the jump to the clicked place, and false for every further
     /// one. Changes by keys and by calls emit QSlider::valueChanged(int) alone.

@@ -3,7 +3,7 @@
 #include "gestureend_p.h"
 #include "groovemapping_p.h"
 #include "handleaccessible_p.h"
-#include "paintsample_p.h"
+#include <nocturne/painting/paintsample_p.h>
 
 #include <QtCore/QDebug>
 #include <QtGui/QKeyEvent>
@@ -87,15 +87,15 @@ void SpanSlider::setSpan(int lower, int upper)
         m_lower = low;
         m_lowerPosition = low;
         HandleAccessibility::valueChanged(this, 0, low);
-        emit lowerValueChanged(low);
+        Q_EMIT lowerValueChanged(low);
     }
     if (upp != m_upper) {
         m_upper = upp;
         m_upperPosition = upp;
         HandleAccessibility::valueChanged(this, 1, upp);
-        emit upperValueChanged(upp);
+        Q_EMIT upperValueChanged(upp);
     }
-    emit spanChanged(m_lower, m_upper);
+    Q_EMIT spanChanged(m_lower, m_upper);
     update();
 }
 
@@ -107,7 +107,7 @@ void SpanSlider::setLowerPosition(int lower)
     if (!hasTracking())
         update();
     if (isSliderDown())
-        emit lowerPositionChanged(lower);
+        Q_EMIT lowerPositionChanged(lower);
     if (hasTracking() && !m_blockTracking)
         triggerAction(SliderMove, m_mainControl == LowerHandle);
 }
@@ -120,7 +120,7 @@ void SpanSlider::setUpperPosition(int upper)
     if (!hasTracking())
         update();
     if (isSliderDown())
-        emit upperPositionChanged(upper);
+        Q_EMIT upperPositionChanged(upper);
     if (hasTracking() && !m_blockTracking)
         triggerAction(SliderMove, m_mainControl == UpperHandle);
 }

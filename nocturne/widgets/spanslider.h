@@ -97,7 +97,7 @@ public:
     void setupPainter(QPainter *painter, Qt::Orientation orientation, qreal x1, qreal y1, qreal x2,
                       qreal y2) const;
 
-public slots:
+public Q_SLOTS:
     /// Sets one value; see setSpan().
     void setLowerValue(int lower);
     void setUpperValue(int upper);
@@ -117,7 +117,7 @@ public slots:
     /// Commits the position of the handle that was grabbed last; connected to sliderReleased().
     void movePressedHandle();
 
-signals:
+Q_SIGNALS:
     /// A value changed, by a setter or by the user. Comes after the signals of single values.
     void spanChanged(int lower, int upper);
     void lowerValueChanged(int lower);

@@ -52,7 +52,7 @@ void SpinBox::setValue(double val, bool relative)
 void SpinBox::valueChanged(int value)
 {
     if (!m_dragging)
-        emit valueChanged(double(value), true);
+        Q_EMIT valueChanged(double(value), true);
 }
 
 bool SpinBox::isDragging() const
@@ -95,7 +95,7 @@ void SpinBox::dragMove(QMouseEvent *event)
         return;
     const bool first = m_firstStep;
     m_firstStep = false;
-    emit valueChanged(target, first);
+    Q_EMIT valueChanged(target, first);
 }
 
 void SpinBox::dragEnd(QMouseEvent *event)

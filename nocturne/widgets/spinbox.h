@@ -51,7 +51,7 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-public slots:
+public Q_SLOTS:
     /// Sets the nearest whole number (halves round up), clamped to the range. The relative mode
     /// stays. Numbers that are not finite are ignored.
     void setValue(double val);
@@ -59,7 +59,7 @@ public slots:
     /// Reports a change that did not come from dragging. Connected to the signal of the same name.
     void valueChanged(int value);
 
-signals:
+Q_SIGNALS:
     /// The value has changed. \a first is true for the first change of a drag and for every change
     /// by keyboard, text or program; it is false for the further changes of the same drag, so that
     /// a host can merge one drag into one undo step.

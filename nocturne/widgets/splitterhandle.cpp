@@ -1,6 +1,6 @@
 #include "splitterhandle.h"
 
-#include <nocturne/theme/themepaint_p.h>
+#include <nocturne/painting/themepaint_p.h>
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
@@ -21,7 +21,7 @@ bool SplitterHandle::event(QEvent *event)
 
 void SplitterHandle::mousePressEvent(QMouseEvent *event)
 {
-    emit handlePressed();
+    Q_EMIT handlePressed();
     m_pressed = true;
     QSplitterHandle::mousePressEvent(event);
 }
@@ -36,7 +36,7 @@ void SplitterHandle::mouseMoveEvent(QMouseEvent *event)
 
 void SplitterHandle::mouseReleaseEvent(QMouseEvent *event)
 {
-    emit handleReleased();
+    Q_EMIT handleReleased();
     m_pressed = false;
     QSplitterHandle::mouseReleaseEvent(event);
 }

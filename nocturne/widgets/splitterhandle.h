@@ -23,7 +23,7 @@ public:
     /// A handle of \a parent, which must not be null.
     SplitterHandle(Qt::Orientation orientation, QSplitter *parent);
 
-signals:
+Q_SIGNALS:
     /// A mouse button went down on the handle; emitted before the drag starts.
     void handlePressed();
     /// A mouse button was released; emitted before the splitter ends the drag.

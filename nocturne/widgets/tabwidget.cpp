@@ -2,7 +2,7 @@
 
 #include "tabbar.h"
 
-#include <nocturne/theme/themepaint_p.h>
+#include <nocturne/painting/themepaint_p.h>
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOptionTabWidgetFrame>

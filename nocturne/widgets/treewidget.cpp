@@ -1,8 +1,8 @@
 #include "treewidget.h"
 
-#include "edgeshadow_p.h"
+#include <nocturne/painting/edgeshadow_p.h>
 
-#include <nocturne/theme/themepaint_p.h>
+#include <nocturne/painting/themepaint_p.h>
 
 #include <QtGui/QPaintEvent>
 #include <QtGui/QPainter>

@@ -1,6 +1,6 @@
 #include "widget.h"
 
-#include <nocturne/theme/themepaint_p.h>
+#include <nocturne/painting/themepaint_p.h>
 
 #include <QtGui/QPainter>
 

@@ -236,7 +236,7 @@ void MidiPage::simulate()
         message.setKey(7 + m_streamPosition % 4);
         message.setValue(m_streamPosition / 40 % 128);
         ++m_streamPosition;
-        emit m_input->midiMessageReceived(message);
+        Q_EMIT m_input->midiMessageReceived(message);
     }
 }
 

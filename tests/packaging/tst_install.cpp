@@ -1,0 +1,233 @@
+#include "testsupport.h"
+
+#include <QtCore/QDirIterator>
+#include <QtCore/QProcess>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QSet>
+#include <QtCore/QTemporaryDir>
+
+namespace {
+
+const char exportedClasses[] =
+    "DarkUX Singleton DarkFusionStyle DarkProxyStyle TabWidget TabBar StatusBar Splitter "
+    "SplitterHandle Frame GroupBox TreeWidget ListView LineEdit Widget Menu Dial "
+    "RadioButton CheckBox ButtonGroup SlideCheckBox DelayButton DelayToolButton "
+    "ClickableLabel SpinBox Slider RoundProgressBar ProgressBar ProgressIndicator "
+    "RangeSlider SpanSlider GradientTool ColorButton ColorToolButton ColorBar ListWidget "
+    "ItemDelegate ComboBox ComboBoxListView FontComboBox SearchLineEdit LineEditButton "
+    "CroppingLabel SimpleListWidget MidiSequenceEdit QMessageBoxEx KeySequenceEdit "
+    "QBalloonTip FileChooser ComboFileChooser LetterBoxWidget";
+
+struct Outcome
+{
+    int exitCode;
+    QByteArray output; ///< both channels
+};
+
+Outcome run(const QString &program, const QStringList &arguments,
+            const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment())
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(program, arguments);
+    if (!process.waitForFinished(240000) || process.exitStatus() != QProcess::NormalExit)
+        return {-1, process.readAll() + process.errorString().toLocal8Bit()};
+    return {process.exitCode(), process.readAll()};
+}
+
+#define VERIFY_RUNS(...) \
+    do { \
+        const Outcome outcome = run(__VA_ARGS__); \
+        QVERIFY2(outcome.exitCode == 0, outcome.output.constData()); \
+    } while (false)
+
+const QString buildDirectory = NOCTURNE_BUILD_DIR;
+
+QByteArray contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// What the groups of \a pattern catch in \a text, one match after the other.
+QVector<QStringList> findAll(const char *pattern, const QByteArray &text)
+{
+    QVector<QStringList> found;
+    auto matches = QRegularExpression(pattern, QRegularExpression::MultilineOption)
+                       .globalMatch(QString::fromUtf8(text));
+    while (matches.hasNext())
+        found << matches.next().capturedTexts();
+    return found;
+}
+
+/// A setting that the build was configured with.
+QString configured(const QByteArray &name)
+{
+    const auto found =
+        findAll("^" + name + ":[A-Z]+=(.*)$", contentsOf(buildDirectory + "/CMakeCache.txt"));
+    return found.isEmpty() ? QString() : found.first().at(1);
+}
+
+/// What a program must be compiled with to go with this build of the library.
+QStringList sanitizerFlags()
+{
+    const QString sanitizers = configured("NOCTURNE_SANITIZE");
+    return sanitizers.isEmpty() ? QStringList() : QStringList{"-fsanitize=" + sanitizers};
+}
+
+/// For programs with a display: what the platform's plug-in leaves is not the library's.
+QProcessEnvironment withoutLeakCheck()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("ASAN_OPTIONS", "detect_leaks=0");
+    return environment;
+}
+
+QStringList filesBelow(const QString &directory, const QStringList &patterns)
+{
+    QStringList files;
+    QDirIterator it(directory, patterns, QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext())
+        files << it.next();
+    return files;
+}
+
+/// Classes and namespaces that the library's sources define.
+QSet<QString> ownScopes()
+{
+    QSet<QString> scopes;
+    for (const QString &path : filesBelow(NOCTURNE_SOURCE_DIR "/nocturne", {"*.h", "*.cpp"})) {
+        for (const QStringList &definition :
+             findAll("^\\s*(?:class|struct|namespace) (?:NOCTURNE_\\w+ )?(\\w+)(?!.*;)",
+                     contentsOf(path)))
+            scopes << definition.at(1);
+    }
+    return scopes;
+}
+
+} // namespace
+
+/// The library as a host finds it: installed to a prefix that nothing else is in.
+class TestInstall : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_prefix.isValid());
+        VERIFY_RUNS("cmake", {"--install", buildDirectory, "--prefix", m_prefix.path()});
+        const QStringList libraries = filesBelow(m_prefix.path(), {"libnocturne.so.4"});
+        QCOMPARE(libraries.size(), 1);
+        m_library = libraries.first();
+    }
+
+    void bundleComesAndGoesWithTheLibrary()
+    {
+        VERIFY_RUNS(buildDirectory + "/bin/nocturne-loadprobe", {m_library});
+    }
+
+    void onlyTheExportedClassesAreVisible()
+    {
+        const Outcome symbols = run("nm", {"-DC", "--defined-only", m_library});
+        QCOMPARE(symbols.exitCode, 0);
+        const QStringList names = QString(exportedClasses).split(' ');
+        const QSet<QString> exported(names.begin(), names.end());
+        const QSet<QString> hidden = ownScopes() - exported;
+        QVERIFY(hidden.contains("DarkFusionStylePrivate"));
+
+        QStringList strays;
+        QSet<QString> seen;
+        // The kind of a symbol and its outermost class or namespace, or the function's own name.
+        const char *line =
+            "^[0-9a-f]+ (\\w) (?:(?:vtable|VTT|typeinfo|typeinfo name|guard variable) "
+            "for |(?:non-virtual|virtual|covariant return) thunk to )?(\\w*).*$";
+        for (const QStringList &symbol : findAll(line, symbols.output)) {
+            const QString scope = symbol.at(2);
+            seen << scope;
+            // Inline functions of the toolkit's and the language's headers are weak or unique.
+            const bool weak = QString("WVu").contains(symbol.at(1));
+            const bool linkers = scope.startsWith('_');
+            if (!exported.contains(scope) && !linkers && (!weak || hidden.contains(scope)))
+                strays << symbol.at(0);
+        }
+        QVERIFY2(strays.isEmpty(), qPrintable(strays.join('\n')));
+        QVERIFY(seen.contains("DarkUX"));
+    }
+
+    void bundleFunctionsExistButAreNotExported()
+    {
+        const QByteArray all = run("nm", {"-C", m_library}).output;
+        const QByteArray visible = run("nm", {"-DC", m_library}).output;
+        for (const char *name : {"qInitResources_nocturne()", "qCleanupResources_nocturne()"}) {
+            QVERIFY2(all.contains(name), name);
+            QVERIFY2(!visible.contains(name), name);
+        }
+    }
+
+    /// The initialisers of whole source files, which run when the library is loaded.
+    void onlyTheBundleAndTheButtonTextsAreBuiltAtLoad()
+    {
+        if (!sanitizerFlags().isEmpty())
+            QSKIP("a sanitizer initialises every file");
+        const Outcome symbols = run("nm", {m_library});
+        QCOMPARE(symbols.exitCode, 0);
+        QStringList files;
+        for (const QStringList &initialiser : findAll("_GLOBAL__sub_I_(\\S+)", symbols.output))
+            files << initialiser.at(1);
+        QVERIFY(files.removeAll("qrc_nocturne.cpp") == 1);
+        files.removeAll("qmessageboxex.cpp");
+        QVERIFY2(files.isEmpty(), qPrintable(files.join(' ')));
+    }
+
+    void publicHeadersOnly()
+    {
+        const QStringList headers = filesBelow(m_prefix.path() + "/include", {"*"});
+        for (const QString &header : headers)
+            QVERIFY2(!header.endsWith("_p.h"), qPrintable(header));
+        QVERIFY(headers.contains(m_prefix.path() + "/include/nocturne/DarkUX"));
+        QVERIFY(headers.contains(m_prefix.path() + "/include/nocturne/theme/darkux.h"));
+    }
+
+    void cmakeFindsIt()
+    {
+        const QTemporaryDir build;
+        VERIFY_RUNS("cmake",
+                    {"-S", NOCTURNE_SOURCE_DIR "/tests/packaging/consumer", "-B", build.path(), "-G",
+                     configured("CMAKE_GENERATOR"), "-DCMAKE_PREFIX_PATH=" + m_prefix.path(),
+                     "-DCMAKE_CXX_FLAGS=" + sanitizerFlags().join(' ')});
+        VERIFY_RUNS("cmake", {"--build", build.path()});
+        VERIFY_RUNS(build.filePath("consumer"), {}, withoutLeakCheck());
+        VERIFY_RUNS(build.filePath("consumer-hostkit"), {}, withoutLeakCheck());
+    }
+
+    void pkgConfigFindsIt()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        const QString libraries = QFileInfo(m_library).path();
+        environment.insert("PKG_CONFIG_PATH", libraries + "/pkgconfig");
+        const Outcome flags = run("pkg-config", {"--cflags", "--libs", "nocturne"}, environment);
+        QVERIFY2(flags.exitCode == 0, flags.output.constData());
+
+        const QTemporaryDir build;
+        const QString program = build.filePath("consumer");
+        const QString sources = NOCTURNE_SOURCE_DIR "/tests/packaging/consumer";
+        QStringList arguments = {
+            "-std=c++17", "-fPIC", "-o", program, sources + "/main.cpp", sources + "/theme.cpp"};
+        arguments << QString::fromLocal8Bit(flags.output.simplified()).split(' ');
+        arguments << sanitizerFlags();
+        VERIFY_RUNS(configured("CMAKE_CXX_COMPILER"), arguments);
+        environment = withoutLeakCheck();
+        environment.insert("LD_LIBRARY_PATH", libraries);
+        VERIFY_RUNS(program, {}, environment);
+    }
+
+private:
+    QTemporaryDir m_prefix;
+    QString m_library;
+};
+
+NOCTURNE_TEST_MAIN(TestInstall)
+
+#include "tst_install.moc"

@@ -1,0 +1,436 @@
+#include "stylepainting.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QRandomGenerator>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QMainWindow>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QTabBar>
+#include <QtWidgets/QTextEdit>
+#include <QtWidgets/QToolBar>
+
+#include <limits>
+#include <memory>
+#include <type_traits>
+
+// Options that no widget makes: every type in the place of every other, with anything in its
+// fields. The style must come back, in time, with the painter as it was, having painted nothing
+// where there is no option or no room.
+
+using namespace StylePainting;
+
+namespace {
+
+constexpr quint32 seed = 20260;
+constexpr int rounds = 30000;
+constexpr qint64 slowestCall = 2000; // milliseconds; most take microseconds
+
+/// The elements that the style paints itself; the common style does not stand everything. The
+/// separator of tool bars is not here: it leaves its pen.
+struct Own : QStyle
+{
+    static constexpr PrimitiveElement frames[] = {
+        PE_FrameDefaultButton, PE_FrameStatusBarItem,    PE_Frame,           PE_FrameMenu,
+        PE_FrameDockWidget,    PE_FrameWindow,           PE_FrameFocusRect,  PE_FrameGroupBox,
+        PE_FrameLineEdit,      PE_FrameTabWidget,        PE_FrameTabBarBase, PE_PanelLineEdit,
+        PE_PanelMenu,          PE_PanelScrollAreaCorner, PE_PanelTipLabel,   PE_PanelButtonCommand,
+        PE_PanelButtonTool};
+    static constexpr PrimitiveElement indicators[] = {PE_IndicatorButtonDropDown,
+                                                      PE_IndicatorTabClose,
+                                                      PE_IndicatorArrowDown,
+                                                      PE_IndicatorArrowLeft,
+                                                      PE_IndicatorArrowRight,
+                                                      PE_IndicatorArrowUp,
+                                                      PE_IndicatorBranch,
+                                                      PE_IndicatorCheckBox,
+                                                      PE_IndicatorDockWidgetResizeHandle,
+                                                      PE_IndicatorHeaderArrow,
+                                                      PE_IndicatorItemViewItemCheck,
+                                                      PE_IndicatorRadioButton,
+                                                      PE_IndicatorToolBarHandle};
+    static constexpr ControlElement controls[] = {
+        CE_PushButton,       CE_PushButtonLabel, CE_ToolButtonLabel,   CE_ComboBoxLabel,
+        CE_TabBarTabShape,   CE_HeaderSection,   CE_ProgressBarGroove, CE_ProgressBarContents,
+        CE_ProgressBarLabel, CE_MenuItem,        CE_MenuVMargin,       CE_MenuHMargin,
+        CE_MenuEmptyArea,    CE_MenuBarItem,     CE_MenuBarEmptyArea,  CE_DockWidgetTitle,
+        CE_RubberBand,       CE_SizeGrip,        CE_Splitter,          CE_ToolBar};
+    // A dial has no parts to ask for, and stands last.
+    static constexpr ComplexControl complexControls[] = {
+        CC_SpinBox, CC_ComboBox, CC_ScrollBar, CC_Slider, CC_GroupBox, CC_TitleBar, CC_Dial};
+};
+
+/// Palettes from which sums and factors leave the range of a colour, or that hold no colours.
+QVector<QPalette> extremePalettes()
+{
+    QPalette gradient = themePalette();
+    gradient.setBrush(QPalette::Window, QLinearGradient(0, 0, 0, 10));
+    QPalette texture = themePalette();
+    texture.setBrush(QPalette::Window, QBrush(QPixmap(4, 4)));
+    return {themePalette(),
+            QPalette(Qt::black),
+            QPalette(Qt::white),
+            QPalette(QColor()),
+            QPalette(QColor(1, 2, 3, 0)),
+            gradient,
+            texture};
+}
+
+/// Rectangles that have no inside, hardly any, or more than any device.
+QVector<QRect> extremeRects()
+{
+    return {{},           {5, 5, 0, 20}, {5, 5, 20, 0},      {5, 5, -7, -9},
+            {5, 5, 1, 1}, {5, 5, 2, 3},  {-50, -50, 30, 20}, {-100000, -100000, 200000, 200000}};
+}
+
+/// Everything of a painter that an element could leave changed.
+struct PainterState
+{
+    explicit PainterState(const QPainter &painter)
+        : values{painter.pen(),        painter.brush(),
+                 painter.font(),       int(painter.renderHints()),
+                 painter.transform(),  painter.hasClipping(),
+                 painter.clipRegion(), painter.opacity()}
+    {}
+
+    QVariantList values;
+};
+
+/// Options of every type with random fields, the same in the same order in every run. The last one
+/// made stays until the next.
+class OptionMaker
+{
+public:
+    int below(int limit) { return m_generator.bounded(limit); }
+    QSize size() { return QSize(below(60) - 10, below(60) - 10); }
+    QRect rect()
+    {
+        if (below(3) == 0)
+            return m_rects.at(below(m_rects.size()));
+        return QRect(below(30) - 10, below(30) - 10, below(120), below(60));
+    }
+
+    const QStyleOption *simple()
+    {
+        if (below(3) == 0)
+            return complex();
+        return anyOf<QStyleOption, QStyleOptionButton, QStyleOptionFrame, QStyleOptionTab,
+                     QStyleOptionTabWidgetFrame, QStyleOptionTabBarBase, QStyleOptionProgressBar,
+                     QStyleOptionMenuItem, QStyleOptionHeader, QStyleOptionDockWidget,
+                     QStyleOptionToolBar, QStyleOptionFocusRect, QStyleOptionRubberBand>();
+    }
+    const QStyleOptionComplex *complex()
+    {
+        return static_cast<const QStyleOptionComplex *>(
+            anyOf<QStyleOptionComplex, QStyleOptionSlider, QStyleOptionSpinBox,
+                  QStyleOptionToolButton, QStyleOptionComboBox, QStyleOptionTitleBar,
+                  QStyleOptionGroupBox>());
+    }
+
+private:
+    /// One of these types, or none at all.
+    template <typename... Options>
+    const QStyleOption *anyOf()
+    {
+        static constexpr void (OptionMaker::*makers[])() = {&OptionMaker::make<Options>...};
+        if (below(20) == 0)
+            return nullptr;
+        (this->*makers[below(int(sizeof...(Options)))])();
+        return m_option.get();
+    }
+    template <typename Option>
+    void make()
+    {
+        auto option = std::make_shared<Option>();
+        pick(option->state, option->rect);
+        option->direction = below(2) ? Qt::LeftToRight : Qt::RightToLeft;
+        option->palette = m_palettes.at(below(m_palettes.size()));
+        option->palette.setCurrentColorGroup(static_cast<QPalette::ColorGroup>(below(3)));
+        fill(*option);
+        m_option = option;
+    }
+
+    template <typename... Values>
+    void pick(Values &...values)
+    {
+        (pickOne(values), ...);
+    }
+    /// Mostly small, sometimes at an end of the range.
+    void pickOne(int &value)
+    {
+        const int numbers[] = {std::numeric_limits<int>::max(), std::numeric_limits<int>::min(),
+                               static_cast<int>(m_generator.generate())};
+        const int which = below(8);
+        value = which < 3 ? numbers[which] : below(120) - 20;
+    }
+    void pickOne(bool &value) { value = below(2) == 0; }
+    void pickOne(QIcon &value) { value = below(2) ? QIcon() : m_icon; }
+    void pickOne(QSize &value) { value = size(); }
+    void pickOne(QRect &value) { value = rect(); }
+    void pickOne(QString &value)
+    {
+        static const char *const texts[] = {"", "Text", "&Item\tCtrl+I", "\t", "two\nlines"};
+        const int which = below(6);
+        value = which < 5 ? QString::fromLatin1(texts[which]) : QString(400, QLatin1Char('w'));
+    }
+    template <typename Enum, typename = std::enable_if_t<std::is_enum_v<Enum>>>
+    void pickOne(Enum &value)
+    {
+        value = static_cast<Enum>(below(4)); // in the range of each of them
+    }
+    template <typename Enum>
+    void pickOne(QFlags<Enum> &value)
+    {
+        value = QFlags<Enum>(static_cast<int>(m_generator.generate() & 0x7fffffff));
+    }
+
+    template <typename... Enums>
+    void pickOfEight(Enums &...values)
+    {
+        ((values = static_cast<Enums>(below(8))), ...);
+    }
+
+    void fill(QStyleOption &) {}
+    void fill(QStyleOptionButton &o) { pick(o.features, o.text, o.icon, o.iconSize); }
+    void fill(QStyleOptionFrame &o) { pick(o.lineWidth, o.midLineWidth); }
+    void fill(QStyleOptionTab &o)
+    {
+        pick(o.position, o.selectedPosition, o.features);
+        pickOfEight(o.shape);
+    }
+    void fill(QStyleOptionTabWidgetFrame &o)
+    {
+        pick(o.selectedTabRect);
+        pickOfEight(o.shape);
+    }
+    void fill(QStyleOptionTabBarBase &o)
+    {
+        pick(o.selectedTabRect, o.tabBarRect);
+        pickOfEight(o.shape);
+    }
+    void fill(QStyleOptionProgressBar &o)
+    {
+        pick(o.minimum, o.maximum, o.progress, o.text, o.orientation, o.invertedAppearance);
+        if (below(2))
+            o.minimum = o.maximum = 0;
+    }
+    void fill(QStyleOptionMenuItem &o)
+    {
+        pick(o.checkType, o.checked, o.text, o.icon);
+        pickOfEight(o.menuItemType);
+        o.maxIconWidth = below(60);
+        o.tabWidth = below(200) - 50;
+    }
+    void fill(QStyleOptionHeader &o)
+    {
+        pick(o.text, o.icon, o.position, o.sortIndicator, o.orientation);
+    }
+    void fill(QStyleOptionDockWidget &o) { pick(o.title, o.verticalTitleBar); }
+    void fill(QStyleOptionToolBar &o)
+    {
+        pick(o.positionOfLine);
+        o.toolBarArea = static_cast<Qt::ToolBarArea>(1 << below(4));
+    }
+
+    void fill(QStyleOptionComplex &o)
+    {
+        pick(o.subControls);
+        o.activeSubControls = QStyle::SubControls(below(2) ? 0 : 1 << below(10));
+    }
+    void fill(QStyleOptionSlider &o)
+    {
+        fill(static_cast<QStyleOptionComplex &>(o));
+        pick(o.minimum, o.maximum, o.sliderPosition, o.sliderValue, o.singleStep, o.pageStep);
+        pick(o.orientation, o.tickInterval, o.tickPosition, o.upsideDown, o.dialWrapping);
+    }
+    void fill(QStyleOptionSpinBox &o)
+    {
+        fill(static_cast<QStyleOptionComplex &>(o));
+        pick(o.buttonSymbols, o.stepEnabled, o.frame);
+    }
+    void fill(QStyleOptionToolButton &o)
+    {
+        fill(static_cast<QStyleOptionComplex &>(o));
+        pick(o.features, o.text, o.icon, o.iconSize);
+        pickOfEight(o.arrowType, o.toolButtonStyle);
+    }
+    void fill(QStyleOptionComboBox &o)
+    {
+        fill(static_cast<QStyleOptionComplex &>(o));
+        pick(o.editable, o.currentText, o.currentIcon, o.iconSize);
+    }
+    void fill(QStyleOptionTitleBar &o)
+    {
+        fill(static_cast<QStyleOptionComplex &>(o));
+        pick(o.text, o.icon, o.titleBarState, o.titleBarFlags);
+    }
+    void fill(QStyleOptionGroupBox &o)
+    {
+        fill(static_cast<QStyleOptionComplex &>(o));
+        pick(o.text, o.textAlignment, o.lineWidth);
+    }
+
+    QRandomGenerator m_generator{seed};
+    const QVector<QPalette> m_palettes = extremePalettes();
+    const QVector<QRect> m_rects = extremeRects();
+    const QIcon m_icon = redIcon();
+    std::shared_ptr<QStyleOption> m_option;
+};
+
+} // namespace
+
+class TestStyleFuzz : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void primitives();
+    void controls();
+    void complexControls();
+    void geometry();
+    void hugeRange();
+
+private:
+    template <typename Element, std::size_t Count, typename Make, typename Paint>
+    QString firstFault(const Element (&elements)[Count], Make make, Paint paint);
+    QString fault(const QStyleOption *option, const Drawing &paint);
+
+    DarkUX m_theme;
+    std::unique_ptr<DarkFusionStyle> m_style{m_theme.style()};
+    QMainWindow m_window;
+    QVector<const QWidget *> m_widgets;
+    QImage m_image;
+};
+
+void TestStyleFuzz::initTestCase()
+{
+    m_image = picture(QSize(64, 48), [](QPainter &) {});
+    auto *text = new QTextEdit;
+    m_window.setCentralWidget(text);
+    m_widgets = {nullptr,
+                 &m_window,
+                 m_window.addToolBar(QString()),
+                 text,
+                 text->verticalScrollBar(),
+                 new QComboBox(&m_window),
+                 new QPushButton(&m_window),
+                 new QTabBar(&m_window)};
+}
+
+/// What is wrong after \a paint with \a option, or nothing.
+QString TestStyleFuzz::fault(const QStyleOption *option, const Drawing &paint)
+{
+    const bool paintsNothing = !option || option->rect.isEmpty();
+    const QImage before = paintsNothing ? m_image.copy() : QImage();
+    QPainter painter(&m_image);
+    painter.setPen(QPen(Qt::magenta, 3, Qt::DashLine));
+    painter.setBrush(Qt::Dense4Pattern);
+    painter.setClipRect(0, 0, 55, 40);
+    painter.translate(2, 1);
+    const PainterState state(painter);
+    QElapsedTimer timer;
+    timer.start();
+    paint(painter);
+    if (timer.elapsed() > slowestCall)
+        return QStringLiteral("takes %1 ms").arg(timer.elapsed());
+    if (PainterState(painter).values != state.values)
+        return QStringLiteral("leaves the painter changed");
+    if (paintsNothing && m_image != before)
+        return QStringLiteral("paints something nowhere");
+    return QString();
+}
+
+template <typename Element, std::size_t Count, typename Make, typename Paint>
+QString TestStyleFuzz::firstFault(const Element (&elements)[Count], Make make, Paint paint)
+{
+    OptionMaker maker;
+    for (int round = 0; round < rounds; ++round) {
+        const Element element = elements[maker.below(int(Count))];
+        const auto *option = (maker.*make)();
+        const QWidget *widget = m_widgets.at(maker.below(m_widgets.size()));
+        const QString message = fault(option, [&](QPainter &painter) {
+            (m_style.get()->*paint)(element, option, &painter, widget);
+        });
+        if (!message.isEmpty())
+            return QStringLiteral("round %1, element %2: %3").arg(round).arg(element).arg(message);
+    }
+    return QString();
+}
+
+void TestStyleFuzz::primitives()
+{
+    QCOMPARE(firstFault(Own::frames, &OptionMaker::simple, &QStyle::drawPrimitive), QString());
+    QCOMPARE(firstFault(Own::indicators, &OptionMaker::simple, &QStyle::drawPrimitive), QString());
+}
+
+void TestStyleFuzz::controls()
+{
+    QCOMPARE(firstFault(Own::controls, &OptionMaker::simple, &QStyle::drawControl), QString());
+}
+
+void TestStyleFuzz::complexControls()
+{
+    QCOMPARE(firstFault(Own::complexControls, &OptionMaker::complex, &QStyle::drawComplexControl),
+             QString());
+}
+
+/// The questions that layouts and mouse events ask.
+void TestStyleFuzz::geometry()
+{
+    OptionMaker maker;
+    QElapsedTimer timer;
+    timer.start();
+    for (int round = 0; round < rounds; ++round) {
+        const QWidget *widget = m_widgets.at(maker.below(m_widgets.size()));
+        const auto control =
+            Own::complexControls[maker.below(int(std::size(Own::complexControls)) - 1)];
+        const QStyleOptionComplex *complex = maker.complex();
+        m_style->subControlRect(control, complex, QStyle::SubControl(1 << maker.below(14)), widget);
+        m_style->hitTestComplexControl(control, complex, maker.rect().topLeft(), widget);
+
+        // Beyond the last of each kind, too.
+        const QStyleOption *option = maker.simple();
+        const int question = maker.below(140) - 1;
+        m_style->subElementRect(QStyle::SubElement(question), option, widget);
+        m_style->sizeFromContents(QStyle::ContentsType(question), option, maker.size(), widget);
+        m_style->pixelMetric(QStyle::PixelMetric(question), option, widget);
+        m_style->styleHint(QStyle::StyleHint(question), option, widget);
+        if (round % 50 == 0) {
+            m_style->standardPixmap(QStyle::StandardPixmap(question), option, widget);
+            m_style->standardIcon(QStyle::StandardPixmap(question), option, widget);
+        }
+    }
+    QVERIFY(timer.elapsed() < rounds);
+}
+
+/// A range that a slider can really have, but that the toolkit's arithmetic does not stand.
+void TestStyleFuzz::hugeRange()
+{
+    auto huge = makeOption<QStyleOptionSlider>(QRect(0, 0, 120, 20));
+    huge.orientation = Qt::Horizontal;
+    huge.minimum = -1;
+    huge.maximum = std::numeric_limits<int>::max();
+    huge.tickPosition = QSlider::TicksBelow;
+    huge.subControls = QStyle::SC_All;
+    auto plain = huge;
+    plain.minimum = 0;
+    plain.maximum = 100;
+    const std::pair<int, int> positions[] = {{huge.minimum, 0}, {huge.maximum, 100}};
+    for (const auto control : {QStyle::CC_Slider, QStyle::CC_ScrollBar}) {
+        const auto handle =
+            control == QStyle::CC_Slider ? QStyle::SC_SliderHandle : QStyle::SC_ScrollBarSlider;
+        for (const auto &position : positions) {
+            huge.sliderPosition = position.first;
+            plain.sliderPosition = position.second;
+            QCOMPARE(m_style->subControlRect(control, &huge, handle).center().x() > 60,
+                     position.second == 100);
+            QCOMPARE(m_style->subControlRect(control, &huge, handle),
+                     m_style->subControlRect(control, &plain, handle));
+            m_style->drawComplexControl(control, &huge, std::make_unique<QPainter>(&m_image).get());
+        }
+    }
+}
+
+NOCTURNE_TEST_MAIN(TestStyleFuzz)
+#include "tst_style_fuzz.moc"

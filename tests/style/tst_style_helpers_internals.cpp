@@ -1,0 +1,461 @@
+#include "stylepainting.h"
+
+#include <nocturne/style/stylecolors_p.h>
+#include <nocturne/style/stylehelpers_p.h>
+
+#include <QtCore/QSet>
+#include <QtGui/QPixmapCache>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
+
+#include <memory>
+
+// The hidden tools that all paint functions of the style share.
+
+using namespace StylePainting;
+
+namespace {
+
+QImage arrow(const QColor &color, int rotation)
+{
+    return StyleHelpers::colorizedImage(StyleHelpers::arrowImageFileName(), color, rotation)
+        .toImage()
+        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+QStyleOptionSlider dialOption()
+{
+    auto option = makeOption<QStyleOptionSlider>(QRect(0, 0, 64, 64));
+    option.subControls = QStyle::SC_DialTickmarks | QStyle::SC_DialHandle;
+    option.maximum = 100;
+    option.pageStep = 20;
+    option.tickInterval = 10;
+    option.upsideDown = true;
+    return option;
+}
+
+} // namespace
+
+class tst_StyleHelpers : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QPixmapCache::clear(); }
+
+    void derivedColors();
+    void scrollBarBackground();
+
+    void cacheKeys();
+    void keptDrawings();
+    void cachedDrawingIsPaintedOnce();
+    void uncacheableDrawingIsPaintedInPlace();
+
+    void colorizedArrow();
+    void colorizedChannels();
+    void arrowDrawing();
+    void toolButtonArrows();
+
+    void titleBarButton();
+
+    void dialTicks();
+    void dialTickCounts_data();
+    void dialTickCounts();
+    void dialPositions();
+    void dialFollowsItsRectangle();
+
+private:
+    DarkUX m_theme;
+};
+
+void tst_StyleHelpers::derivedColors()
+{
+    const QPalette palette = m_theme.palette();
+    QCOMPARE(StyleColors::buttonColor(palette).rgba(), qRgb(0x48, 0x48, 0x48));
+    QCOMPARE(StyleColors::outlineColor(palette), palette.color(QPalette::Window).darker(140));
+
+    // Grey 134 is lightened by (180 - 134) / 6 percent.
+    QPalette light(palette);
+    light.setColor(QPalette::Button, QColor(200, 100, 100));
+    const QColor button = QColor(200, 100, 100).lighter(107);
+    QCOMPARE(StyleColors::buttonColor(light).hue(), button.hue());
+    QCOMPARE(StyleColors::buttonColor(light).value(), button.value());
+    QCOMPARE(StyleColors::buttonColor(light).saturation(), int(button.saturation() * 0.75));
+
+    QPalette bright(palette);
+    bright.setColor(QPalette::Highlight, QColor(40, 80, 255));
+    QCOMPARE(StyleColors::highlightedOutlineColor(bright).lightness(), 160);
+    bright.setColor(QPalette::Highlight, QColor(20, 40, 100));
+    QCOMPARE(StyleColors::highlightedOutlineColor(bright), QColor(20, 40, 100).darker(125));
+
+    QPalette textured(palette);
+    textured.setBrush(QPalette::Window, QBrush(QPixmap(4, 4)));
+    QCOMPARE(StyleColors::outlineColor(textured), QColor(0, 0, 0, 160));
+    QCOMPARE(StyleColors::tabFrameColor(textured), QColor(255, 255, 255, 8));
+
+    QCOMPARE(StyleColors::mergedColors(QColor(0x19, 0x1a, 0x1e, 40), QColor(0xbb, 0xbb, 0xbb), 85),
+             QColor(49, 50, 53, 40));
+    QCOMPARE(StyleColors::mergedColors(QColor(200, 0, 100), QColor(0, 200, 100), 200),
+             QColor(255, 0, 100));
+}
+
+void tst_StyleHelpers::scrollBarBackground()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::red);
+    QScrollArea area;
+    QPalette areaPalette;
+    areaPalette.setColor(QPalette::Base, Qt::green);
+    area.setPalette(areaPalette);
+    QScrollBar loose;
+    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, area.verticalScrollBar()),
+             QColor(Qt::green));
+    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, &loose), QColor(Qt::red));
+    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, &area), QColor(Qt::red));
+    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, nullptr), QColor(Qt::red));
+}
+
+void tst_StyleHelpers::cacheKeys()
+{
+    const QSize size(20, 10);
+    QStyleOptionSlider option;
+    option.palette = m_theme.palette();
+    const QString key = StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, size);
+    QCOMPARE(StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, size), key);
+    QVERIFY(key.startsWith(QLatin1Char('x')));
+
+    // Whatever a drawing depends on gives it a key of its own.
+    QSet<QString> keys = {key, StyleHelpers::styleCacheKey(QStringLiteral("y"), &option, size),
+                          StyleHelpers::styleCacheKey(QStringLiteral("x"), nullptr, size)};
+    const auto addSize = [&](const QSize &other) {
+        keys << StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, other);
+    };
+    addSize(QSize(10, 20));
+    addSize(QSize(20 + 0x10000, 10));
+    const auto addChanged = [&](const std::function<void(QStyleOptionSlider *)> &change) {
+        QStyleOptionSlider changed(option);
+        change(&changed);
+        keys << StyleHelpers::styleCacheKey(QStringLiteral("x"), &changed, size);
+    };
+    addChanged([](auto *other) { other->state = QStyle::State_Window; }); // a high bit
+    addChanged([](auto *other) { other->direction = Qt::RightToLeft; });
+    addChanged([](auto *other) { other->activeSubControls = QStyle::SC_SliderHandle; });
+    addChanged([](auto *other) { other->palette.setColor(QPalette::Text, Qt::red); });
+    addChanged([](auto *other) { other->palette.setCurrentColorGroup(QPalette::Disabled); });
+    QCOMPARE(keys.size(), 10);
+
+    keys.clear();
+    QStyleOptionSpinBox spinBox;
+    for (int i = 0; i < 24; ++i) {
+        spinBox.frame = i % 2;
+        spinBox.stepEnabled = QAbstractSpinBox::StepEnabled(i / 2 % 4);
+        spinBox.buttonSymbols = QAbstractSpinBox::ButtonSymbols(i / 8);
+        keys << StyleHelpers::styleCacheKey(QStringLiteral("s"), &spinBox, size);
+    }
+    QCOMPARE(keys.size(), 24);
+}
+
+/// Each is looked up under its key, then replaced there, so that what is drawn next tells where it
+/// came from.
+void tst_StyleHelpers::keptDrawings()
+{
+    const std::unique_ptr<QStyle> style(m_theme.style());
+    const auto compare = [](const char *prefix, const QStyleOption &option, const QRect &kept,
+                            const Drawing &paint) {
+        const QString key =
+            StyleHelpers::styleCacheKey(QLatin1String(prefix), &option, kept.size());
+        picture(paint);
+        QPixmap mark;
+        QVERIFY2(QPixmapCache::find(key, &mark), prefix);
+        mark.fill(Qt::green);
+        QPixmapCache::insert(key, mark);
+        const QImage image = picture(paint);
+        QCOMPARE(painted(image), QRegion(kept & everything));
+        QVERIFY(isFilled(image, kept & everything, Qt::green));
+        if (qstrncmp(prefix, "pushbutton", 10) == 0)
+            return;
+        // Where it would be blurred, nothing kept is drawn.
+        const QImage finer =
+            TestSupport::paintOn(canvas, background, paint, qApp->devicePixelRatio() * 1.5);
+        for (int x = 0; x < finer.width(); ++x)
+            QVERIFY(finer.pixelColor(x, finer.height() / 4) != QColor(Qt::green));
+    };
+    const auto comparePrimitive = [&](const char *prefix, QStyle::PrimitiveElement element,
+                                      const QStyleOption &option, const QRect &kept) {
+        compare(prefix, option, kept,
+                [&](QPainter &painter) { style->drawPrimitive(element, &option, &painter); });
+    };
+    auto button = makeOption<QStyleOptionButton>(QRect(2, 2, 40, 24));
+    comparePrimitive("checkbox", QStyle::PE_IndicatorCheckBox, button, button.rect);
+    // A circle as wide as the rectangle, one unit right of and below its middle.
+    comparePrimitive("radiobutton", QStyle::PE_IndicatorRadioButton, button, QRect(2, -6, 40, 40));
+    comparePrimitive("pushbutton-0", QStyle::PE_PanelButtonCommand, button, button.rect);
+    button.features = QStyleOptionButton::DefaultButton;
+    comparePrimitive("pushbutton-1", QStyle::PE_PanelButtonCommand, button, button.rect);
+
+    const auto progress = makeOption<QStyleOptionProgressBar>(button.rect);
+    compare("progressgroove", progress, QRect(2, 1, 40, 25), [&](QPainter &painter) {
+        style->drawControl(QStyle::CE_ProgressBarGroove, &progress, &painter);
+    });
+    compare("progressbusy", progress, progress.rect, [&](QPainter &painter) {
+        style->drawControl(QStyle::CE_ProgressBarContents, &progress, &painter);
+    });
+}
+
+void tst_StyleHelpers::cachedDrawingIsPaintedOnce()
+{
+    int painted = 0;
+    const auto paint = [&](QPainter *painter) {
+        ++painted;
+        painter->fillRect(0, 0, 4, 4, Qt::red);
+    };
+    const QImage image = TestSupport::paintOn(QSize(12, 12), Qt::black, [&](QPainter &painter) {
+        for (const QPoint &place : {QPoint(1, 1), QPoint(6, 6)})
+            StyleHelpers::drawCached(&painter, place, QStringLiteral("once"), QSize(5, 5), paint);
+        StyleHelpers::drawCached(&painter, QPoint(), QStringLiteral("none"), QSize(0, 5), paint);
+    });
+    QCOMPARE(painted, 1);
+    COMPARE_PIXEL(image, 0, 0, Qt::black);
+    COMPARE_PIXEL(image, 1, 1, Qt::red);
+    COMPARE_PIXEL(image, 5, 5, Qt::black);
+    COMPARE_PIXEL(image, 9, 9, Qt::red);
+}
+
+void tst_StyleHelpers::uncacheableDrawingIsPaintedInPlace()
+{
+    const auto paint = [](QPainter *painter) { painter->fillRect(0, 0, 3, 1, Qt::red); };
+    const QSize huge(1000000, 1000000);
+    QImage image = TestSupport::paintOn(QSize(8, 8), Qt::black, [&](QPainter &painter) {
+        StyleHelpers::drawCached(&painter, QPoint(2, 2), QStringLiteral("huge"), huge, paint);
+    });
+    COMPARE_PIXEL(image, 2, 2, Qt::red);
+
+    // Three units to the right are three units down for a painter turned by 90 degrees.
+    image = TestSupport::paintOn(QSize(8, 8), Qt::black, [&](QPainter &painter) {
+        painter.translate(8, 0);
+        painter.rotate(90);
+        StyleHelpers::drawCachedUnlessTransformed(&painter, QPoint(2, 2), QStringLiteral("turned"),
+                                                  QSize(3, 1), paint);
+        QVERIFY(painter.worldTransform().isRotating());
+    });
+    COMPARE_PIXEL(image, 5, 2, Qt::red);
+    COMPARE_PIXEL(image, 5, 4, Qt::red);
+    QPixmap pixmap;
+    QVERIFY(!StyleHelpers::findCached(QStringLiteral("huge"), &pixmap));
+    QVERIFY(!StyleHelpers::findCached(QStringLiteral("turned"), &pixmap));
+}
+
+/// The toolkit's arrow, or the style's own where that is missing: an upright triangle.
+void tst_StyleHelpers::colorizedArrow()
+{
+    const QColor color(200, 150, 100);
+    const QImage up = arrow(color, 0);
+    QVERIFY(up.width() >= up.height());
+    QCOMPARE(up.mirrored(true, false), up);
+    QCOMPARE(qAlpha(up.pixel(0, 0)), 0);
+    int above = 0;
+    for (int y = 0; y < up.height(); ++y) {
+        int coverage = 0;
+        for (int x = 0; x < up.width(); ++x)
+            coverage += qAlpha(up.pixel(x, y));
+        QVERIFY2(coverage >= above, qPrintable(QStringLiteral("row %1").arg(y)));
+        above = coverage;
+    }
+    COMPARE_PIXEL(up, up.width() / 2, up.height() - 2, color);
+    QCOMPARE(arrow(color, 180), up.mirrored(true, true));
+    QCOMPARE(arrow(color, 90), up.transformed(QTransform().rotate(90)));
+    QCOMPARE(arrow(color, -90), up.transformed(QTransform().rotate(-90)));
+
+    QPixmap cached;
+    QVERIFY(QPixmapCache::find(QStringLiteral("$qt_ia-") + StyleHelpers::arrowImageFileName()
+                                   + QStringLiteral("46698cff0"),
+                               &cached));
+    QVERIFY(StyleHelpers::colorizedImage(QStringLiteral(":/no/such.png"), Qt::red).isNull());
+    QVERIFY(!QImage(StyleHelpers::groupBoxImageFileName()).isNull());
+}
+
+void tst_StyleHelpers::colorizedChannels()
+{
+    QTemporaryDir directory;
+    const QString fileName = directory.filePath(QStringLiteral("channels.png"));
+    QImage source(3, 1, QImage::Format_ARGB32);
+    source.setPixelColor(0, 0, QColor(0, 40, 255));   // all of the colour, on grey
+    source.setPixelColor(1, 0, QColor(30, 60, 30));   // grey alone
+    source.setPixelColor(2, 0, QColor(0, 0, 255, 0)); // nothing
+    QVERIFY(source.save(fileName));
+
+    const QImage image = StyleHelpers::colorizedImage(fileName, QColor(100, 50, 250)).toImage();
+    COMPARE_PIXEL(image, 0, 0, QColor(140, 90, (40 + 250) % 256));
+    COMPARE_PIXEL(image, 1, 0, QColor(60, 60, 60));
+    QCOMPARE(image.pixelColor(2, 0).alpha(), 0);
+
+    // No channel exceeds the alpha of a translucent colour.
+    const QImage faint = StyleHelpers::colorizedImage(fileName, QColor(100, 50, 200, 80)).toImage();
+    QCOMPARE(faint.convertToFormat(QImage::Format_ARGB32_Premultiplied).pixelColor(0, 0).alpha(),
+             80);
+}
+
+void tst_StyleHelpers::arrowDrawing()
+{
+    const QVector<QPair<QStyle::PrimitiveElement, Qt::ArrowType>> arrows = {
+        {QStyle::PE_IndicatorArrowUp, Qt::UpArrow},
+        {QStyle::PE_IndicatorArrowDown, Qt::DownArrow},
+        {QStyle::PE_IndicatorArrowLeft, Qt::LeftArrow},
+        {QStyle::PE_IndicatorArrowRight, Qt::RightArrow}};
+    for (const auto &arrow : arrows) {
+        QStyleOption option;
+        option.palette.setColor(QPalette::WindowText, Qt::white);
+        const auto draw = [&](const QRect &rect) {
+            option.rect = rect;
+            return TestSupport::paintOn(QSize(40, 24), Qt::black, [&](QPainter &painter) {
+                StyleHelpers::drawArrowImage(arrow.first, &painter, &option);
+            });
+        };
+        for (const QRect &rect : {QRect(3, 4, 11, 11), QRect(2, 2, 30, 10), QRect(5, 5, 5, 5)}) {
+            const QImage image = draw(rect);
+            const QRegion drawn = painted(image, Qt::black);
+            QVERIFY(rect.contains(drawn.boundingRect()));
+            QCOMPARE(directionOf(drawn), arrow.second);
+            COMPARE_PIXEL(image, rect.center().x(), rect.center().y(), Qt::white);
+        }
+        for (const QRect &rect : {QRect(5, 5, 9, 1), QRect(5, 5, 1, 9), QRect()})
+            QVERIFY(painted(draw(rect), Qt::black).isEmpty());
+    }
+    StyleHelpers::drawArrowImage(QStyle::PE_IndicatorArrowUp, nullptr, nullptr);
+}
+
+void tst_StyleHelpers::toolButtonArrows()
+{
+    const Recorder style;
+    QStyleOptionToolButton option;
+    option.state = QStyle::State_MouseOver;
+    for (Qt::ArrowType type :
+         {Qt::NoArrow, Qt::UpArrow, Qt::DownArrow, Qt::LeftArrow, Qt::RightArrow}) {
+        option.arrowType = type;
+        StyleHelpers::drawToolButtonArrow(&style, &option, QRect(1, 2, 3, 4), nullptr, nullptr);
+    }
+    const QVector<QStyle::PrimitiveElement> expected = {
+        QStyle::PE_IndicatorArrowUp, QStyle::PE_IndicatorArrowDown, QStyle::PE_IndicatorArrowLeft,
+        QStyle::PE_IndicatorArrowRight};
+    QCOMPARE(style.pieces.size(), expected.size());
+    for (int i = 0; i < expected.size(); ++i) {
+        QCOMPARE(style.pieces.at(i).element, expected.at(i));
+        QCOMPARE(style.pieces.at(i).rect, QRect(1, 2, 3, 4));
+        QCOMPARE(style.pieces.at(i).state, QStyle::State(QStyle::State_MouseOver));
+    }
+}
+
+void tst_StyleHelpers::titleBarButton()
+{
+    QStyleOptionTitleBar option;
+    option.palette = m_theme.palette();
+    const QColor back(20, 40, 60);
+    const QColor highlight = option.palette.color(QPalette::Highlight);
+    const auto draw = [&](bool hover, bool sunken) {
+        return TestSupport::paintOn(QSize(24, 24), back, [&](QPainter &painter) {
+            StyleHelpers::drawTitleBarButton(&painter, &option, QRect(3, 3, 16, 16), hover, sunken);
+        });
+    };
+    QImage image = draw(false, false);
+    // The button's #3c3c3c at seven tenths, then darker by a tenth.
+    const QColor border = QColor(42, 42, 42).darker(110);
+    COMPARE_PIXEL(image, 10, 3, border);
+    COMPARE_PIXEL(image, 4, 4, border);
+    COMPARE_PIXEL(image, 3, 3, back);
+    COMPARE_PIXEL(image, 10, 10, back);
+    const QColor light = TestSupport::blended(QColor(255, 255, 255, 60), back);
+    COMPARE_PIXEL(image, 10, 4, light);
+    COMPARE_PIXEL(image, 4, 10, light);
+
+    image = draw(true, false);
+    COMPARE_PIXEL(image, 10, 10, TestSupport::blended(QColor(255, 255, 255, 20), back));
+    image = draw(true, true);
+    COMPARE_PIXEL(image, 10, 10, highlight.darker(120));
+    COMPARE_PIXEL(image, 10, 4, highlight.darker(130));
+
+    option.titleBarState = QStyle::State_Active;
+    image = draw(false, false);
+    COMPARE_PIXEL(image, 10, 3, highlight.darker(180));
+}
+
+void tst_StyleHelpers::dialTicks()
+{
+    const QStyleOptionSlider option = dialOption();
+    const QVector<QLineF> lines = StyleHelpers::dialTickLines(&option);
+    QCOMPARE(lines.size(), 11);
+    const QPointF center(32.5, 32.5);
+    const auto distance = [&](const QPointF &point) { return QLineF(center, point).length(); };
+
+    // At 240 degrees, a long mark; the next one is short, and one unit further in.
+    QCOMPARE(StyleHelpers::dialBigLineSize(32), 5);
+    QCOMPARE(QLineF(center, lines.first().p2()).angle(), 240.0);
+    QCOMPARE(distance(lines.first().p1()), 27.0);
+    QCOMPARE(distance(lines.first().p2()), 32.0);
+    QCOMPARE(distance(lines.at(1).p1()), 29.0);
+    QCOMPARE(distance(lines.at(1).p2()), 31.0);
+    QCOMPARE(distance(lines.at(2).p2()), 32.0);
+    QCOMPARE(QLineF(center, lines.last().p2()).angle(), 300.0);
+}
+
+void tst_StyleHelpers::dialTickCounts_data()
+{
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<int>("interval");
+    QTest::addColumn<int>("count");
+    QTest::newRow("no interval") << 0 << 100 << 0 << 0;
+    QTest::newRow("bad interval") << 0 << 100 << -5 << 0;
+    QTest::newRow("rounded up") << 0 << 100 << 30 << 5;
+    QTest::newRow("no range") << 5 << 5 << 1 << 0;
+    QTest::newRow("backwards") << 5 << 2 << 1 << 0;
+    QTest::newRow("wide range") << 0 << 5000 << 7 << (7 + 999) / 7 + 1;
+    QTest::newRow("widest range") << INT_MIN << INT_MAX << INT_MAX << 2;
+}
+
+void tst_StyleHelpers::dialTickCounts()
+{
+    QFETCH(int, minimum);
+    QFETCH(int, maximum);
+    QFETCH(int, interval);
+    QStyleOptionSlider option = dialOption();
+    option.minimum = minimum;
+    option.maximum = maximum;
+    option.tickInterval = interval;
+    option.pageStep = 0;
+    QTEST(StyleHelpers::dialTickLines(&option).size(), "count");
+}
+
+void tst_StyleHelpers::dialPositions()
+{
+    QStyleOptionSlider option = dialOption();
+    const QPointF center(32, 32);
+    const auto angle = [&](int value) {
+        option.sliderPosition = value;
+        return qRound(QLineF(center, StyleHelpers::dialRadialPos(&option, 1.0)).angle());
+    };
+    QCOMPARE(angle(0), 240);
+    QCOMPARE(angle(50), 90);
+    QCOMPARE(angle(100), 300);
+    QCOMPARE(QLineF(center, StyleHelpers::dialRadialPos(&option, 0.5)).length(), 12.0);
+
+    option.upsideDown = false;
+    QCOMPARE(angle(0), 300);
+    option.dialWrapping = true;
+    QCOMPARE(angle(25), 0);
+    option.minimum = option.maximum = 7;
+    QCOMPARE(angle(7), 90);
+}
+
+void tst_StyleHelpers::dialFollowsItsRectangle()
+{
+    QStyleOptionSlider option = dialOption();
+    const auto draw = [&](QPainter &painter) { StyleHelpers::drawDial(&option, &painter); };
+    const QImage dial = TestSupport::paintOn(QSize(64, 64), Qt::transparent, draw);
+    option.rect.moveTo(20, 10);
+    const QImage moved = TestSupport::paintOn(QSize(90, 80), Qt::transparent, draw);
+    QCOMPARE(moved.copy(20, 10, 64, 64), dial);
+}
+
+NOCTURNE_TEST_MAIN(tst_StyleHelpers)
+
+#include "tst_style_helpers_internals.moc"

@@ -1,0 +1,311 @@
+#include "gestures.h"
+
+#include <nocturne/CheckComboBox>
+#include <nocturne/ComboBox>
+#include <nocturne/ComboBoxDelegate>
+#include <nocturne/ComboBoxListView>
+#include <nocturne/FontComboBox>
+
+#include <QtGui/QStandardItemModel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
+
+namespace {
+
+void addGroups(ComboBox &combo)
+{
+    combo.addParentItem("Cameras");
+    combo.addChildItem("Left", 11);
+    combo.addChildItem("Right", 12);
+    combo.insertSeparator(3);
+    combo.addParentItem("Clips");
+    combo.addChildItem("Intro", 21);
+}
+
+/// One row of \a combo as its delegate paints it on white.
+QImage paintedRow(QComboBox &combo, int row, const QAbstractItemDelegate &delegate,
+                  Qt::TextElideMode elide = Qt::ElideRight, int width = 120)
+{
+    QStyleOptionViewItem option;
+    option.initFrom(&combo);
+    option.font = combo.font();
+    option.rect = QRect(0, 0, width, 20);
+    option.state = QStyle::State_Enabled;
+    option.textElideMode = elide;
+    option.palette.setColor(QPalette::Text, Qt::black);
+    option.palette.setColor(QPalette::Disabled, QPalette::Text, Qt::red);
+    const QModelIndex index = combo.model()->index(row, 0);
+    if (!(index.flags() & Qt::ItemIsEnabled))
+        option.state = QStyle::State_None;
+    return TestSupport::paintOn({width, 20}, Qt::white, [&](QPainter &painter) {
+        painter.setRenderHint(QPainter::TextAntialiasing, false);
+        delegate.paint(&painter, option, index);
+    });
+}
+
+int leftmostInk(const QImage &image)
+{
+    for (int x = 0; x < image.width(); ++x) {
+        if (!TestSupport::isFilled(image, QRect(x, 0, 1, image.height()), Qt::white))
+            return x;
+    }
+    return -1;
+}
+
+/// A check combo box with the items A, B and C, and the states it has reported.
+class CheckFixture
+{
+public:
+    CheckFixture()
+    {
+        combo.setNoneCheckedText("none");
+        combo.setAllCheckedText("all");
+        combo.setUndeterminedText("?");
+        for (const char *text : {"A", "B", "C"})
+            items << combo.addCheckItem(text, text, Qt::Unchecked);
+        QObject::connect(&combo, &CheckComboBox::globalCheckStateChanged, &combo,
+                         [this](int state) { states << state; });
+        combo.resize(150, 30);
+        combo.show();
+    }
+
+    QString summary() const { return combo.lineEdit()->text(); }
+
+    /// Where a click on the check box of \a row goes.
+    QPoint boxOf(int row) const
+    {
+        return combo.view()->visualRect(items.at(row)->index()).topLeft() + QPoint(10, 8);
+    }
+
+    CheckComboBox combo;
+    QVector<QStandardItem *> items;
+    QVector<int> states;
+};
+
+} // namespace
+
+class TestComboBoxes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void groups()
+    {
+        ComboBox combo;
+        QCOMPARE(combo.focusPolicy(), Qt::StrongFocus);
+        addGroups(combo);
+        QVERIFY(qobject_cast<QStandardItemModel *>(combo.model()));
+        QStringList kinds;
+        for (int row = 0; row < combo.count(); ++row) {
+            const QString kind = combo.itemData(row, Qt::AccessibleDescriptionRole).toString();
+            kinds << kind;
+            const Qt::ItemFlags flags = combo.model()->index(row, 0).flags();
+            const Qt::ItemFlags choosable = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+            QCOMPARE((flags & choosable) == choosable, kind == "child");
+        }
+        QCOMPARE(kinds.join(' '), QString("parent child child separator parent child"));
+        QCOMPARE(combo.itemText(1), QString("Left    "));
+        combo.setCurrentIndex(combo.findData(12));
+        QCOMPARE(combo.currentIndex(), 2);
+        QCOMPARE(combo.currentData(Qt::DisplayRole).toString(), QString("Right    "));
+
+        // The keys pass headings over.
+        combo.show();
+        QTest::keyClick(&combo, Qt::Key_Down);
+        QCOMPARE(combo.currentIndex(), 5);
+        QTest::keyClick(&combo, Qt::Key_Home);
+        QCOMPARE(combo.currentIndex(), 1);
+
+        ComboBox other;
+        other.addItem("plain");
+        other.addChildItem("a child before any parent", 1);
+        other.addParentItem("group");
+        QCOMPARE(other.count(), 2);
+        QVERIFY(other.itemDelegate()->inherits("ComboBoxDelegate"));
+    }
+
+    void wheelScrollsTheAreaAround()
+    {
+        ComboBox grouped;
+        addGroups(grouped);
+        grouped.setCurrentIndex(1);
+        CheckFixture checks;
+        FontComboBox fonts;
+        for (QComboBox *combo : QVector<QComboBox *>{&grouped, &checks.combo, &fonts}) {
+            QScrollArea area;
+            QWidget content;
+            content.resize(200, 2000);
+            combo->setParent(&content);
+            area.setWidget(&content);
+            area.resize(220, 200);
+            area.show();
+            const int current = combo->currentIndex();
+            QWheelEvent wheel = TestSupport::wheelOver(*combo);
+            QSpontaneKeyEvent::setSpontaneous(&wheel); // only the user's events go on to parents
+            qApp->notify(combo, &wheel);
+            QCOMPARE(combo->currentIndex(), current);
+            QVERIFY(area.verticalScrollBar()->value() > 0);
+            combo->setParent(nullptr);
+            area.takeWidget();
+        }
+    }
+
+    void delegatePaintsByKind()
+    {
+        ComboBox combo;
+        addGroups(combo);
+        combo.addItem("Left    ");
+        const ComboBoxDelegate delegate;
+        const QItemDelegate plain;
+        QStyleOptionViewItem option;
+        QCOMPARE(delegate.sizeHint(option, combo.model()->index(3, 0)), QSize(0, 10));
+        QCOMPARE(delegate.sizeHint(option, combo.model()->index(1, 0)),
+                 plain.sizeHint(option, combo.model()->index(1, 0)));
+
+        const QImage separator = paintedRow(combo, 3, delegate);
+        QVERIFY(TestSupport::isFilled(separator, QRect(0, 8, 120, 1), Qt::white));
+        QVERIFY(TestSupport::isFilled(separator, QRect(0, 9, 120, 1), Qt::gray));
+        QVERIFY(TestSupport::isFilled(separator, QRect(0, 10, 120, 1), Qt::white));
+
+        const QImage heading = paintedRow(combo, 0, delegate);
+        QVERIFY(leftmostInk(heading) >= 0);
+        QCOMPARE(TestSupport::count(heading, heading.rect(), Qt::red), 0);
+        QVERIFY(heading != paintedRow(combo, 0, plain));
+
+        const QImage child = paintedRow(combo, 1, delegate);
+        const QImage other = paintedRow(combo, 6, delegate);
+        QCOMPARE(other, paintedRow(combo, 6, plain));
+        const int indent = QFontMetrics(combo.font()).horizontalAdvance("    ");
+        QCOMPARE(leftmostInk(child), leftmostInk(other) + indent);
+
+        // Too narrow a row cuts the text off without dots.
+        QCOMPARE(paintedRow(combo, 1, delegate, Qt::ElideRight, 40),
+                 paintedRow(combo, 1, delegate, Qt::ElideNone, 40));
+    }
+
+    void listViewKnowsItsComboBox()
+    {
+        QComboBox combo;
+        auto *view = new ComboBoxListView(&combo);
+        QVERIFY(!view->parent());
+        QCOMPARE(view->comboBox(), &combo);
+        combo.setView(view);
+        QCOMPARE(combo.view(), view);
+    }
+
+    void summaries()
+    {
+        CheckFixture f;
+        QCOMPARE(f.combo.globalCheckState(), 0);
+        QCOMPARE(f.summary(), QString("none"));
+        QCOMPARE(f.items.at(1)->data(Qt::UserRole + 1).toString(), QString("B"));
+        QCOMPARE(f.items.at(1)->flags(), Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
+        const auto summaryWith = [&f](int item, Qt::CheckState state) {
+            f.items.at(item)->setCheckState(state);
+            return f.summary();
+        };
+        QCOMPARE(summaryWith(2, Qt::Checked), QString("C"));
+        QCOMPARE(summaryWith(0, Qt::Checked), QString("A, C"));
+        QCOMPARE(summaryWith(1, Qt::Checked), QString("all"));
+        QCOMPARE(summaryWith(1, Qt::PartiallyChecked), QString("?"));
+        for (QStandardItem *item : f.items)
+            item->setCheckState(Qt::Unchecked);
+        QCOMPARE(f.states, QVector<int>({1, 1, 2, 3, 3, 1, 0}));
+
+        f.combo.addCheckItem("D", {}, Qt::Checked);
+        QCOMPARE(f.summary(), QString("D"));
+        QCOMPARE(f.states.size(), 7);
+        f.combo.clear();
+        QCOMPARE(f.combo.globalCheckState(), 3);
+        QCOMPARE(f.summary(), QString("?"));
+    }
+
+    void everyPressToggles()
+    {
+        CheckFixture f;
+        QTest::mousePress(f.combo.lineEdit(), Qt::LeftButton);
+        QVERIFY(f.combo.view()->isVisible());
+        QTest::mouseRelease(f.combo.lineEdit(), Qt::LeftButton);
+        QTest::qWait(QApplication::doubleClickInterval() + 50);
+
+        QWidget *popup = f.combo.view()->viewport();
+        const QPoint besideTheBox = f.boxOf(1) + QPoint(60, 0);
+        for (const QPoint &position : {f.boxOf(1), besideTheBox}) {
+            QTest::mouseClick(popup, Qt::LeftButton, {}, position);
+            QCOMPARE(f.items.at(1)->checkState(), Qt::Checked);
+            // A fast second click arrives as a double click.
+            QTest::mouseDClick(popup, Qt::LeftButton, {}, position);
+            QCOMPARE(f.items.at(1)->checkState(), Qt::Unchecked);
+        }
+        QCOMPARE(f.states, QVector<int>({1, 0, 1, 0}));
+        f.combo.view()->setCurrentIndex(f.items.at(2)->index());
+        QTest::keyClick(f.combo.view(), Qt::Key_Space);
+        QCOMPARE(f.items.at(2)->checkState(), Qt::Checked);
+        QVERIFY(f.combo.view()->isVisible());
+    }
+
+    void theSummaryStays()
+    {
+        CheckFixture f;
+        f.items.at(0)->setCheckState(Qt::Checked);
+        f.items.at(1)->setCheckState(Qt::Checked);
+        QLineEdit *field = f.combo.lineEdit();
+        field->setFocus();
+        field->selectAll();
+        QVERIFY(!field->hasSelectedText());
+        for (Qt::Key key : {Qt::Key_X, Qt::Key_Down, Qt::Key_Return, Qt::Key_Backspace}) {
+            QTest::keyClick(field, key);
+            QCOMPARE(f.summary(), QString("A, B"));
+        }
+        f.combo.setCurrentIndex(2);
+        QCOMPARE(f.summary(), QString("A, B"));
+        QCOMPARE(f.combo.count(), 3);
+    }
+
+    void fontPreview_data()
+    {
+        QTest::addColumn<bool>("choose");
+        QTest::newRow("cancelled") << false;
+        QTest::newRow("chosen") << true;
+    }
+
+    void fontPreview()
+    {
+        QFETCH(bool, choose);
+        FontComboBox combo;
+        QCOMPARE(combo.sizeHint(), QSize(79, 26));
+        if (combo.count() < 3)
+            QSKIP("There are too few fonts");
+        combo.setCurrentIndex(0);
+        combo.show();
+        const QString before = combo.currentFont().family(); // need not be in the list
+        QStringList previews;
+        connect(&combo, &FontComboBox::highlightFontChanged, this, [&](const QFont &font) {
+            previews << font.family();
+            if (combo.view()->isVisible())
+                QCOMPARE(font, QFont(font.family()));
+        });
+        combo.showPopup();
+        previews.clear();
+        QTest::keyClick(combo.view(), Qt::Key_Down);
+        QTest::keyClick(combo.view(), Qt::Key_Down);
+        QStringList expected{combo.itemText(1), combo.itemText(2)};
+        QCOMPARE(previews, expected);
+
+        QTest::keyClick(combo.view(), choose ? Qt::Key_Return : Qt::Key_Escape);
+        expected << before;
+        if (choose)
+            expected << combo.itemText(2);
+        QCOMPARE(previews, expected);
+        QCOMPARE(previews.last(), combo.currentFont().family());
+
+        QCoreApplication::processEvents();
+        combo.setCurrentIndex(1);
+        QCOMPARE(previews, expected);
+    }
+};
+
+NOCTURNE_TEST_MAIN(TestComboBoxes)
+
+#include "tst_comboboxes.moc"

@@ -1,0 +1,332 @@
+#include "gestures.h"
+
+#include <nocturne/SpanSlider>
+
+#include <QtGui/QAccessible>
+
+using Ints = QVector<int>;
+
+namespace {
+
+/// A span slider that starts at 20 and 60.
+class TestSpan : public TestSupport::Driven<SpanSlider>
+{
+public:
+    explicit TestSpan(Qt::Orientation orientation = Qt::Horizontal,
+                      HandleMovementMode mode = FreeMovement)
+        : Driven(orientation)
+    {
+        setHandleMovementMode(mode);
+        setSpan(20, 60);
+        connect(this, &SpanSlider::lowerValueChanged, this, note("lower"));
+        connect(this, &SpanSlider::upperValueChanged, this, note("upper"));
+        connect(this, &SpanSlider::lowerPositionChanged, this, note("lowerpos"));
+        connect(this, &SpanSlider::upperPositionChanged, this, note("upperpos"));
+        connect(this, &SpanSlider::spanChanged, this, note("span"));
+    }
+
+    QStyleOptionSlider optionAt(int position) const override
+    {
+        QStyleOptionSlider option;
+        initStyleOption(&option, LowerHandle);
+        option.sliderPosition = option.sliderValue = position;
+        return option;
+    }
+
+    void perform(const QString &verb, int number) override
+    {
+        if (verb == "tracking")
+            setTracking(number);
+        else if (verb == "down")
+            note("down")(isSliderDown());
+    }
+
+    Ints span() const { return {lowerValue(), upperValue()}; }
+};
+
+} // namespace
+
+class TestSpanSlider : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QApplication::setStyle(QStyleFactory::create("fusion")); }
+    void cleanup() { QVERIFY(TestSupport::nothingIsHeld()); }
+
+    void setters()
+    {
+        TestSpan slider;
+        slider.setSpan(70, 10);
+        QCOMPARE(slider.takeLog(), QString("lower 10, upper 70, span 10 70"));
+        slider.setSpan(70, 10);
+        QCOMPARE(slider.takeLog(), QString());
+        slider.setSpan(-5, 150);
+        QCOMPARE(slider.span(), Ints({0, 99}));
+        QCOMPARE(slider.lowerPosition(), 0);
+        QCOMPARE(slider.upperPosition(), 99);
+        slider.setLowerValue(30);
+        slider.setUpperValue(20);
+        QCOMPARE(slider.span(), Ints({20, 30}));
+        slider.takeLog();
+        slider.setRange(25, 50);
+        QCOMPARE(slider.takeLog(), QString("lower 25, span 25 30"));
+        slider.setLowerPosition(28);
+        QCOMPARE(slider.takeLog(), QString("lower 28, span 28 30"));
+    }
+
+    void dragsBothHandles_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<bool>("mirrored");
+        QTest::addColumn<bool>("inverted");
+        QTest::newRow("horizontal") << Qt::Horizontal << false << false;
+        QTest::newRow("right to left") << Qt::Horizontal << true << false;
+        QTest::newRow("inverted") << Qt::Horizontal << false << true;
+        QTest::newRow("vertical") << Qt::Vertical << false << false;
+        QTest::newRow("vertical, inverted") << Qt::Vertical << true << true;
+    }
+
+    void dragsBothHandles()
+    {
+        QFETCH(Qt::Orientation, orientation);
+        QFETCH(bool, mirrored);
+        QFETCH(bool, inverted);
+        TestSpan slider(orientation);
+        slider.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+        slider.setInvertedAppearance(inverted);
+        const bool startsFirst = slider.pick(slider.place(0)) < slider.pick(slider.place(99));
+        QCOMPARE(startsFirst, orientation == Qt::Horizontal ? mirrored == inverted : inverted);
+        QCOMPARE(slider.run("press 20, down, drag 40, release 40"),
+                 QString("down 1, lowerpos 40, lower 40, span 40 60"));
+        QCOMPARE(slider.run("press 60, drag 90, release 90, down"),
+                 QString("upperpos 90, upper 90, span 40 90, down 0"));
+        QCOMPARE(slider.run("tracking 0, press 40, drag 30, drag 35, release 35"),
+                 QString("lowerpos 30, lowerpos 35, lower 35, span 35 90"));
+        // A second button pressed in the middle is left alone; its release ends the drag.
+        const QSignalSpy released(&slider, &QSlider::sliderReleased);
+        QCOMPARE(slider.run("tracking 1, press 35, right 35, drag 25, rightup 25, drag 40, down, "
+                            "release 40"),
+                 QString("lowerpos 25, lower 25, span 25 90, ignored, down 0"));
+        QCOMPARE(released.count(), 1);
+        // A press between the handles grabs neither.
+        QCOMPARE(slider.run("press 50, down, drag 60, release 60"), QString("down 0, ignored"));
+    }
+
+    void handlesThatMeet_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<Ints>("drag"); // lower and upper value, from and to
+        QTest::addColumn<Ints>("span");
+        const auto row = [](int mode, const Ints &drag, const Ints &span) {
+            QTest::addRow("mode %d, from %d to %d", mode, drag[2], drag[3]) << mode << drag << span;
+        };
+        // Free handles pass and swap their roles.
+        row(SpanSlider::FreeMovement, {20, 60, 20, 80}, {60, 80});
+        row(SpanSlider::FreeMovement, {20, 60, 60, 10}, {10, 20});
+        row(SpanSlider::NoCrossing, {20, 60, 20, 80}, {60, 60});
+        row(SpanSlider::NoOverlapping, {20, 60, 20, 80}, {59, 60});
+        row(SpanSlider::NoOverlapping, {20, 60, 60, 5}, {20, 21});
+        // Handles on one value part in either direction.
+        for (int mode : {SpanSlider::FreeMovement, SpanSlider::NoCrossing}) {
+            row(mode, {50, 50, 50, 40}, {40, 50});
+            row(mode, {50, 50, 50, 70}, {50, 70});
+        }
+    }
+
+    void handlesThatMeet()
+    {
+        QFETCH(int, mode);
+        QFETCH(Ints, drag);
+        QFETCH(Ints, span);
+        TestSpan slider(Qt::Horizontal, static_cast<SpanSlider::HandleMovementMode>(mode));
+        slider.setSpan(drag[0], drag[1]);
+        slider.run(QString("press %1, drag %1").arg(drag[2]));
+        for (int position = drag[2]; position != drag[3]; position += drag[2] < drag[3] ? 1 : -1)
+            slider.run(QString("drag %1").arg(position));
+        slider.run(QString("drag %1, release %1").arg(drag[3]));
+        QCOMPARE(slider.span(), span);
+        QVERIFY(slider.lowerPosition() <= slider.upperPosition());
+    }
+
+    void leavingTheDragAreaSnapsBack()
+    {
+        TestSupport::LimitedDragStyle style;
+        TestSpan slider;
+        slider.setStyle(&style);
+        QCOMPARE(slider.run("press 60, drag 70, leave 70, release 70"),
+                 QString("upperpos 70, upper 70, span 20 70, upperpos 60, upper 60, span 20 60"));
+    }
+
+    void keys_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<Ints>("span");
+        QTest::addColumn<Ints>("spanOfOtherMain"); // after the handles have swapped their roles
+        const Qt::Orientation across = Qt::Horizontal;
+        QTest::newRow("home") << across << Qt::Key_Home << Ints{0, 60} << Ints{0, 60};
+        QTest::newRow("end") << across << Qt::Key_End << Ints{20, 99} << Ints{20, 99};
+        QTest::newRow("left") << across << Qt::Key_Left << Ints{19, 60} << Ints{20, 59};
+        QTest::newRow("right") << across << Qt::Key_Right << Ints{21, 60} << Ints{20, 61};
+        QTest::newRow("up") << across << Qt::Key_Up << Ints{20, 61} << Ints{21, 60};
+        QTest::newRow("down") << Qt::Vertical << Qt::Key_Down << Ints{19, 60} << Ints{20, 59};
+    }
+
+    void keys()
+    {
+        QFETCH(Qt::Orientation, orientation);
+        QFETCH(Qt::Key, key);
+        QFETCH(Ints, span);
+        QFETCH(Ints, spanOfOtherMain);
+        TestSpan slider(orientation);
+        QTest::keyClick(&slider, key);
+        QCOMPARE(slider.span(), span);
+        slider.setSpan(20, 60);
+        slider.run("press 20, drag 59, drag 60, drag 61, drag 70, release 70");
+        slider.setSpan(20, 60);
+        QTest::keyClick(&slider, key);
+        QCOMPARE(slider.span(), spanOfOtherMain);
+    }
+
+    void keysInverted()
+    {
+        TestSpan slider;
+        slider.setInvertedAppearance(true);
+        slider.setInvertedControls(true);
+        QTest::keyClick(&slider, Qt::Key_Left);
+        QTest::keyClick(&slider, Qt::Key_Up);
+        QCOMPARE(slider.span(), Ints({21, 59}));
+        QKeyEvent letter(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+        QCoreApplication::sendEvent(&slider, &letter);
+        QVERIFY(!letter.isAccepted());
+    }
+
+    void actions()
+    {
+        TestSpan slider;
+        slider.triggerAction(QAbstractSlider::SliderSingleStepAdd, true);
+        slider.triggerAction(QAbstractSlider::SliderSingleStepSub, false);
+        slider.triggerAction(QAbstractSlider::SliderNoAction, true);
+        QCOMPARE(slider.span(), Ints({21, 59}));
+        QTest::ignoreMessage(QtWarningMsg, "QxtSpanSliderPrivate::triggerAction: Unknown action");
+        slider.triggerAction(QAbstractSlider::SliderPageStepAdd, false);
+        QCOMPARE(slider.span(), Ints({0, 59}));
+        // To the far end, past the other handle.
+        slider.triggerAction(QAbstractSlider::SliderToMaximum, true);
+        QCOMPARE(slider.upperValue(), 99);
+    }
+
+    void otherPresses()
+    {
+        TestSpan slider;
+        QVERIFY(!slider.press(slider.place(20), Qt::LeftButton, Qt::RightButton));
+        QVERIFY(!slider.isSliderDown());
+        slider.setRange(7, 7);
+        QVERIFY(!slider.press(slider.place(7)));
+        QVERIFY(!slider.isSliderDown());
+        QVERIFY(!TestSupport::takesWheel(&slider));
+    }
+
+    void interruptedDrag_data() { TestSupport::addInterruptions(); }
+
+    void interruptedDrag()
+    {
+        QFETCH(QString, how);
+        TestSpan slider;
+        slider.setTracking(false);
+        QVERIFY(TestSupport::showActive(&slider));
+        slider.run("press 20, drag 30");
+        const auto modal = TestSupport::interrupt(&slider, how);
+        QCOMPARE(slider.run("down"), QString("lower 30, span 30 60, down 0"));
+        slider.run("drag 50");
+        QCOMPARE(slider.lowerPosition(), 30);
+    }
+
+    void receiversThatTakeTheSliderAway()
+    {
+        TestSpan slider;
+        slider.setSpan(50, 50);
+        slider.takeLog();
+        slider.show();
+        connect(&slider, &QSlider::sliderPressed, &slider, &QWidget::hide);
+        QCOMPARE(slider.run("press 50, down, drag 40"), QString("down 0, ignored"));
+
+        auto doomed = std::make_unique<TestSpan>();
+        doomed->show();
+        doomed->run("press 20, drag 25");
+        doomed.reset();
+        QCoreApplication::processEvents();
+    }
+
+    /// Paints groove, span and handles piece by piece and compares every pixel.
+    void painting()
+    {
+        for (Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+            TestSpan slider(orientation);
+            for (const Ints &span : {Ints{20, 60}, Ints{50, 50}, Ints{0, 99}}) {
+                slider.setSpan(span[0], span[1]);
+                QVERIFY(slider.paintsLike(
+                    [&](QPainter *painter) { paintByHand(painter, slider, span); }));
+            }
+        }
+    }
+
+    void handlesAreAccessible()
+    {
+        TestSpan slider(Qt::Horizontal, SpanSlider::NoOverlapping);
+        slider.show();
+        QAccessibleInterface *group = QAccessible::queryAccessibleInterface(&slider);
+        QCOMPARE(group->childCount(), 2);
+        QAccessibleInterface *lower = group->child(0);
+        QCOMPARE(lower->text(QAccessible::Name), QString("Lower"));
+        QCOMPARE(group->child(1)->text(QAccessible::Name), QString("Upper"));
+        QCOMPARE(lower->rect().center(), slider.mapToGlobal(slider.place(20)));
+        QAccessibleValueInterface *upper = group->child(1)->valueInterface();
+        QCOMPARE(lower->valueInterface()->currentValue().toInt(), 20);
+        QCOMPARE(lower->valueInterface()->maximumValue().toInt(), 59);
+        QCOMPARE(upper->minimumValue().toInt(), 21);
+        lower->valueInterface()->setCurrentValue(90);
+        QCOMPARE(slider.span(), Ints({59, 60}));
+        upper->setCurrentValue(70);
+        QCOMPARE(slider.span(), Ints({59, 70}));
+        slider.setEnabled(false);
+        upper->setCurrentValue(80);
+        QCOMPARE(slider.span(), Ints({59, 70}));
+    }
+
+private:
+    static void paintByHand(QPainter *painter, const TestSpan &slider, const Ints &span)
+    {
+        const QStyle *style = slider.style();
+        const bool horizontal = slider.orientation() == Qt::Horizontal;
+        QStyleOptionSlider option = slider.optionAt(0);
+        option.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderTickmarks;
+        style->drawComplexControl(QStyle::CC_Slider, &option, painter, &slider);
+
+        const QRect groove = slider.rectOf(QStyle::SC_SliderGroove)
+                                 .adjusted(0, 0, horizontal ? -1 : 0, horizontal ? 0 : -1);
+        const QPoint a = slider.place(span[0]);
+        const QPoint b = slider.place(span[1]);
+        const QRect box = horizontal ? QRect(QPoint(a.x(), a.y() - 2), QPoint(b.x(), a.y() + 1))
+                                     : QRect(QPoint(a.x() - 2, b.y()), QPoint(a.x() + 1, a.y()));
+        const QColor highlight = slider.palette().color(QPalette::Highlight);
+        QLinearGradient gradient(groove.topLeft(),
+                                 horizontal ? groove.bottomLeft() : groove.topRight());
+        gradient.setColorAt(0, highlight.darker(120));
+        gradient.setColorAt(1, highlight.lighter(108));
+        painter->setBrush(gradient);
+        painter->setPen(QPen(highlight.darker(horizontal ? 130 : 150), 0));
+        painter->drawRect(box.intersected(groove));
+
+        for (SpanSlider::SpanHandle handle : {SpanSlider::LowerHandle, SpanSlider::UpperHandle}) {
+            slider.initStyleOption(&option, handle);
+            option.subControls = QStyle::SC_SliderHandle;
+            style->drawComplexControl(QStyle::CC_Slider, &option, painter, &slider);
+        }
+    }
+};
+
+NOCTURNE_TEST_MAIN(TestSpanSlider)
+
+#include "tst_spanslider.moc"

@@ -1,0 +1,267 @@
+#include "gestures.h"
+
+#include <nocturne/CroppingLabel>
+#include <nocturne/SearchLineEdit>
+
+#include <QtCore/QLibraryInfo>
+#include <QtCore/QProcess>
+#include <QtCore/QResource>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QTextDocument>
+#include <QtWidgets/QVBoxLayout>
+
+namespace {
+
+/// Puts a clear picture of \a size among the resources, as a host does, while it lives.
+class ClearPicture
+{
+public:
+    explicit ClearPicture(const QSize &size)
+    {
+        QImage picture(size, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        picture.save(m_folder.filePath("picture.png"));
+        QFile description(m_folder.filePath("host.qrc"));
+        description.open(QIODevice::WriteOnly);
+        description.write("<RCC><qresource prefix=\"/resources/icons\">"
+                          "<file alias=\"deleffect.png\">picture.png</file></qresource></RCC>");
+        description.close();
+        m_bundle = m_folder.filePath("host.rcc");
+        QProcess::execute(QLibraryInfo::location(QLibraryInfo::BinariesPath) + "/rcc",
+                          {"--binary", description.fileName(), "-o", m_bundle});
+        m_registered = QResource::registerResource(m_bundle);
+    }
+    ~ClearPicture() { QResource::unregisterResource(m_bundle); }
+
+    bool isRegistered() const { return m_registered; }
+
+private:
+    QTemporaryDir m_folder;
+    QString m_bundle;
+    bool m_registered = false;
+};
+
+/// A label in an active window, with a neighbour to give the focus to, and what it reports.
+class LabelFixture
+{
+public:
+    LabelFixture()
+    {
+        auto *layout = new QVBoxLayout(&window);
+        layout->addWidget(label);
+        layout->addWidget(neighbour);
+        window.resize(300, 120);
+        QVERIFY(TestSupport::showActive(&window));
+        neighbour->setFocus();
+        QObject::connect(label, &CroppingLabel::editFinished, label, [this](const QString &text) {
+            reports << "finished " + text + '|' + label->fullText();
+        });
+        QObject::connect(label, &CroppingLabel::editRemoved, label,
+                         [this] { reports << "removed " + label->fullText(); });
+        QObject::connect(label, &CroppingLabel::clicked, label, [this] { reports << "clicked"; });
+    }
+
+    QLineEdit *editor() const { return label->findChild<QLineEdit *>(); }
+    void open()
+    {
+        QTest::mouseClick(label, Qt::LeftButton);
+        QVERIFY(editor()->isVisible());
+        QVERIFY(editor()->hasFocus());
+        reports.clear();
+    }
+
+    QStringList reports;
+    QWidget window;
+    CroppingLabel *label = new CroppingLabel(&window);
+    QLineEdit *neighbour = new QLineEdit(&window);
+};
+
+} // namespace
+
+class TestTextFields : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void searchFieldWithPicture()
+    {
+        const ClearPicture picture(QSize(15, 13));
+        QVERIFY(picture.isRegistered());
+        SearchLineEdit field;
+        auto *button = field.findChild<LineEditButton *>();
+        QVERIFY(button);
+        QCOMPARE(button->size(), QSize(15, 13));
+        QCOMPARE(button->cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(button->toolTip(), QString("Clear"));
+        QCOMPARE(field.minimumWidth(), 37);
+        QCOMPARE(field.textMargins(), QMargins(4, 0, 22, 0));
+        field.resize(200, 25);
+        field.show();
+        QCOMPARE(button->pos(), QPoint(177, 6));
+
+        QVERIFY(!button->isVisible());
+        QTest::keyClicks(&field, "ab");
+        QVERIFY(button->isVisible());
+        COMPARE_PIXEL(TestSupport::render(field), 180, 10, Qt::red);
+        field.setCursorPosition(0);
+        QStringList reports;
+        connect(&field, &SearchLineEdit::clearButtonClicked, this,
+                [&] { reports << "clear " + field.text(); });
+        QTest::mouseClick(button, Qt::RightButton);
+        QCOMPARE(field.text(), QString("ab"));
+
+        // What the field itself is told of a press on the button leaves the cursor alone.
+        for (bool over : {true, false}) {
+            button->setAttribute(Qt::WA_UnderMouse, over);
+            QTest::mouseClick(&field, Qt::LeftButton, {}, QPoint(160, 12));
+            QCOMPARE(field.cursorPosition(), over ? 0 : 2);
+        }
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(reports, QStringList{"clear "});
+        QVERIFY(!button->isVisible());
+    }
+
+    void searchFieldWithoutPicture()
+    {
+        SearchLineEdit field;
+        QCOMPARE(field.findChild<LineEditButton *>()->size(), QSize(0, 0));
+        QCOMPARE(field.minimumWidth(), 0);
+        QCOMPARE(field.textMargins(), QMargins(4, 0, 0, 0));
+        QTest::keyClicks(&field, "ab");
+        QCOMPARE(field.text(), QString("ab"));
+    }
+
+    void labelElides()
+    {
+        CroppingLabel label;
+        label.setText("  <b>name</b> of & clip  ");
+        const QString text = "<b>name</b> of & clip";
+        QCOMPARE(label.fullText(), text);
+        const int width = label.fontMetrics().horizontalAdvance(text);
+        const int dots = label.fontMetrics().horizontalAdvance("...");
+        label.resize(width - 10, 20);
+        label.show();
+        QVERIFY(label.text().endsWith(QChar(0x2026)));
+        QCOMPARE(label.toolTip(), Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
+        label.setElideMode(Qt::ElideLeft);
+        QVERIFY(label.text().startsWith(QChar(0x2026)));
+        label.resize(width + 10, 20);
+        QCOMPARE(label.text(), text);
+        QCOMPARE(label.toolTip(), QString());
+        QFont font = label.font();
+        font.setPixelSize(60);
+        label.setFont(font);
+        QVERIFY(label.text() != text);
+
+        label.setFont(QFont());
+        QCOMPARE(label.sizeHint().width(), 0);
+        QVERIFY(label.sizeHint().height() >= label.fontMetrics().height());
+        QCOMPARE(label.minimumSizeHint().width(), dots);
+        label.minimizeMaximumWidth();
+        QCOMPARE(label.maximumWidth(), width + dots);
+    }
+
+    void editing_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("stored");
+        const auto row = [](const char *name, const QString &typed, const QString &stored) {
+            QTest::newRow(name) << typed << stored;
+        };
+        row("another", " new  name ", "new  name");
+        row("the same", "old ", "old");
+        row("zeros", "x 100", "x 100");
+        row("control characters", QString("a\tb\vc\fd") + QChar(0) + u8"e\u2028", "abcde");
+    }
+
+    void editing()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, stored);
+        for (bool byReturn : {true, false}) {
+            LabelFixture f;
+            f.label->setText("old");
+            f.open();
+            QCOMPARE(f.editor()->text(), QString("old"));
+            f.editor()->setText(typed);
+            if (byReturn)
+                QTest::keyClick(f.editor(), Qt::Key_Return);
+            else
+                f.neighbour->setFocus();
+            QVERIFY(!f.editor()->isVisible());
+            QStringList expected{"removed " + stored};
+            if (stored != "old")
+                expected.prepend(QString("finished %1|old").arg(typed));
+            QCOMPARE(f.reports, expected);
+            QCOMPARE(f.label->text(), stored);
+        }
+    }
+
+    void escapeRestoresTheText()
+    {
+        LabelFixture f;
+        f.label->setText("old");
+        f.open();
+        QTest::keyClicks(f.editor(), "abc");
+        f.editor()->home(false);
+        QTest::keyClick(f.editor(), Qt::Key_Delete);
+        QTest::keyClick(f.editor(), Qt::Key_Escape);
+        QVERIFY(!f.editor()->isVisible());
+        QCOMPARE(f.reports, QStringList{"removed old"});
+    }
+
+    void whatOpensTheEditor()
+    {
+        LabelFixture f;
+        f.label->setText("old");
+        f.label->setEditable(false);
+        QVERIFY(!f.label->testAttribute(Qt::WA_SetCursor));
+        QTest::mouseClick(f.label, Qt::LeftButton);
+        QVERIFY(!f.editor()->isVisible());
+        QCOMPARE(f.reports, QStringList{"clicked"});
+        f.label->setEditable(true);
+        QCOMPARE(f.label->cursor().shape(), Qt::PointingHandCursor);
+        f.label->editBegin();
+        QCOMPARE(f.editor()->selectedText(), QString("old"));
+        QTest::keyClicks(f.editor(), "typed");
+        QTest::mouseClick(f.label, Qt::LeftButton);
+        QCOMPARE(f.editor()->text(), QString("typed"));
+    }
+
+    void onlyTheEditorIsSeenWhileEditing()
+    {
+        LabelFixture f;
+        f.label->setFixedHeight(60);
+        f.label->setText("\u2588\u2588\u2588");
+        f.label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+        f.label->resize(200, 60);
+        const QImage closed = TestSupport::render(*f.label);
+        f.open();
+        QCOMPARE(f.editor()->height(), 24);
+        const QImage open = TestSupport::render(*f.label);
+        QVERIFY(closed.pixelColor(10, 8).alpha() > 0);
+        QCOMPARE(open.pixelColor(10, 8).alpha(), 0);
+    }
+
+    void aLabelMayGoWhileItIsEdited()
+    {
+        bool reported = false;
+        {
+            CroppingLabel window;
+            window.resize(200, 30);
+            QVERIFY(TestSupport::showActive(&window));
+            window.editBegin();
+            connect(&window, &CroppingLabel::editRemoved, this, [&reported] { reported = true; });
+        }
+        QVERIFY(!reported);
+
+        LabelFixture f;
+        f.open();
+        delete f.label;
+        QCOMPARE(f.reports, QStringList());
+    }
+};
+
+NOCTURNE_TEST_MAIN(TestTextFields)
+
+#include "tst_textfields.moc"
