@@ -28,7 +28,7 @@ QString shownText(const QMidiMessage &message)
 MidiSequenceEdit::MidiSequenceEdit(QWidget *parent)
     : QWidget(parent)
 {
-    FieldFrame::setUp(this);
+    Nocturne::FieldFrame::setUp(this);
 }
 
 MidiSequenceEdit::~MidiSequenceEdit() = default;
@@ -39,7 +39,7 @@ void MidiSequenceEdit::setKeySequence(QMidiMessage *sequence)
     if (m_sequence)
         updateKeySequence(m_sequence);
     else
-        FieldFrame::setText(this, QString());
+        Nocturne::FieldFrame::setText(this, QString());
 }
 
 void MidiSequenceEdit::updateKeySequence(QMidiMessage *sequence)
@@ -47,7 +47,7 @@ void MidiSequenceEdit::updateKeySequence(QMidiMessage *sequence)
     if (!m_sequence || !sequence)
         return;
     copyShownFields(*sequence, m_sequence);
-    FieldFrame::setText(this, shownText(*m_sequence));
+    Nocturne::FieldFrame::setText(this, shownText(*m_sequence));
 }
 
 void MidiSequenceEdit::setOldKeySequence(const QMidiMessage &sequence)
@@ -76,5 +76,5 @@ void MidiSequenceEdit::updateOldKeySequence()
 
 void MidiSequenceEdit::paintEvent(QPaintEvent *)
 {
-    FieldFrame::paint(this);
+    Nocturne::FieldFrame::paint(this);
 }

@@ -8,6 +8,8 @@
 #include <QtGui/QPainter>
 #include <QtGui/QPixmap>
 
+namespace Nocturne {
+
 namespace {
 
 constexpr int barHeight = 6;
@@ -103,3 +105,5 @@ void paintEdgeShadows(QPainter *painter, const QSize &size, bool top, bool botto
         painter->restore();
     }
 }
+
+} // namespace Nocturne

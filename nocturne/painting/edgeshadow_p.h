@@ -4,6 +4,8 @@
 class QPainter;
 class QSize;
 
+namespace Nocturne {
+
 /// The height of a shadow, in units.
 constexpr int edgeShadowHeight = 30;
 
@@ -11,5 +13,7 @@ constexpr int edgeShadowHeight = 30;
 /// of an area of \a size. The shadow is 30 units high and stretched to the width; it is blurred
 /// once and kept.
 void paintEdgeShadows(QPainter *painter, const QSize &size, bool top, bool bottom);
+
+} // namespace Nocturne
 
 #endif

@@ -7,6 +7,8 @@
 #include <QtGui/QPainter>
 #include <QtGui/QPixmap>
 
+namespace Nocturne {
+
 namespace {
 
 constexpr qreal blurRadius = 3.0;
@@ -56,3 +58,5 @@ void drawGlowBar(QPainter *painter, const QPoint &topLeft, const GlowBar &bar)
     painter->drawPixmap(topLeft + QPoint(endWidth + repeated, 0), pixmap,
                         QRect(endWidth, 0, pixmap.width() - endWidth, height));
 }
+
+} // namespace Nocturne

@@ -4,6 +4,8 @@
 #include <QtGui/QPaintEngine>
 #include <QtGui/QPainter>
 
+namespace Nocturne {
+
 namespace {
 
 constexpr int endLength = 4;
@@ -121,3 +123,5 @@ void PaintSample::cut(const QImage &sample, Qt::Orientation orientation)
             m_stripes << Stripe{i, 1, color};
     }
 }
+
+} // namespace Nocturne

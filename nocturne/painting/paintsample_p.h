@@ -11,6 +11,8 @@
 
 class QPainter;
 
+namespace Nocturne {
+
 /// Draws a small shape from a sample that was painted once. The pixels are the same, up to the
 /// rounding where smoothed edges let the background through, but a drag that repaints with every
 /// move is spared to fill a path or a gradient each time.
@@ -63,5 +65,7 @@ private:
     QPixmap m_tail;
     QVector<Stripe> m_stripes; ///< between head and tail
 };
+
+} // namespace Nocturne
 
 #endif

@@ -4,7 +4,7 @@
 
 #include <QtGui/QLinearGradient>
 
-namespace ThemePaint {
+namespace Nocturne::ThemePaint {
 
 QColor color(QPalette::ColorRole role)
 {
@@ -35,4 +35,4 @@ QBrush verticalGradient(const QRectF &rect, std::initializer_list<QGradientStop>
     return gradient;
 }
 
-} // namespace ThemePaint
+} // namespace Nocturne::ThemePaint

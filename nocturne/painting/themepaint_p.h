@@ -8,7 +8,7 @@
 #include <initializer_list>
 
 /// What the paint events of the library's own widgets take from the theme.
-namespace ThemePaint {
+namespace Nocturne::ThemePaint {
 
 /// The accent of value fills, progress and focus rings.
 constexpr QRgb accentBlue = 0xff419bf9; // rgb(65, 155, 249)
@@ -30,6 +30,6 @@ QColor window(int shift = 0, int alpha = 255);
 /// at 1 it thus ends short of the bottom edge, which is meant.
 QBrush verticalGradient(const QRectF &rect, std::initializer_list<QGradientStop> stops);
 
-} // namespace ThemePaint
+} // namespace Nocturne::ThemePaint
 
 #endif

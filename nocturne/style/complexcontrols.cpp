@@ -67,21 +67,22 @@ QStyleOptionSlider madeSound(QStyleOptionSlider option)
 
 } // namespace
 
-int ComplexControls::sliderPosition(const QStyleOptionSlider *option, int value, int span,
-                                    bool upsideDown)
+int Nocturne::ComplexControls::sliderPosition(const QStyleOptionSlider *option, int value, int span,
+                                              bool upsideDown)
 {
     const int divisor = hasHugeRange(option) ? 2 : 1;
     return QStyle::sliderPositionFromValue(option->minimum / divisor, option->maximum / divisor,
                                            value / divisor, span, upsideDown);
 }
 
-QPixmap ComplexControls::arrowPixmap(const QColor &color, int rotation)
+QPixmap Nocturne::ComplexControls::arrowPixmap(const QColor &color, int rotation)
 {
-    return StyleHelpers::colorizedImage(StyleHelpers::arrowImageFileName(), color, rotation);
+    return Nocturne::StyleHelpers::colorizedImage(Nocturne::StyleHelpers::arrowImageFileName(),
+                                                  color, rotation);
 }
 
-void ComplexControls::drawArrow(QPainter *painter, const QPointF &centre, const QColor &color,
-                                int rotation)
+void Nocturne::ComplexControls::drawArrow(QPainter *painter, const QPointF &centre,
+                                          const QColor &color, int rotation)
 {
     const QPixmap arrow = arrowPixmap(color, rotation);
     const QSizeF size = QSizeF(arrow.size()) / 2.0;
@@ -89,10 +90,10 @@ void ComplexControls::drawArrow(QPainter *painter, const QPointF &centre, const 
     painter->drawPixmap(target, arrow, arrow.rect());
 }
 
-void ComplexControls::paintDial(const QStyle *, const QStyleOptionSlider *option, QPainter *painter,
-                                const QWidget *)
+void Nocturne::ComplexControls::paintDial(const QStyle *, const QStyleOptionSlider *option,
+                                          QPainter *painter, const QWidget *)
 {
-    StyleHelpers::drawDial(option, painter);
+    Nocturne::StyleHelpers::drawDial(option, painter);
 }
 
 void DarkFusionStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
@@ -102,19 +103,19 @@ void DarkFusionStyle::drawComplexControl(ComplexControl control, const QStyleOpt
         return;
     switch (control) {
     case CC_SpinBox:
-        return paintAs(ComplexControls::paintSpinBox, this, option, painter, widget);
+        return paintAs(Nocturne::ComplexControls::paintSpinBox, this, option, painter, widget);
     case CC_ComboBox:
-        return paintAs(ComplexControls::paintComboBox, this, option, painter, widget);
+        return paintAs(Nocturne::ComplexControls::paintComboBox, this, option, painter, widget);
     case CC_ScrollBar:
-        return paintAs(ComplexControls::paintScrollBar, this, option, painter, widget);
+        return paintAs(Nocturne::ComplexControls::paintScrollBar, this, option, painter, widget);
     case CC_Slider:
-        return paintAs(ComplexControls::paintSlider, this, option, painter, widget);
+        return paintAs(Nocturne::ComplexControls::paintSlider, this, option, painter, widget);
     case CC_GroupBox:
-        return paintAs(ComplexControls::paintGroupBox, this, option, painter, widget);
+        return paintAs(Nocturne::ComplexControls::paintGroupBox, this, option, painter, widget);
     case CC_TitleBar:
-        return paintAs(ComplexControls::paintTitleBar, this, option, painter, widget);
+        return paintAs(Nocturne::ComplexControls::paintTitleBar, this, option, painter, widget);
     case CC_Dial:
-        return paintAs(ComplexControls::paintDial, this, option, painter, widget);
+        return paintAs(Nocturne::ComplexControls::paintDial, this, option, painter, widget);
     default:
         QCommonStyle::drawComplexControl(control, option, painter, widget);
     }
@@ -144,15 +145,15 @@ QRect DarkFusionStyle::subControlRect(ComplexControl control, const QStyleOption
     const QRect base = QCommonStyle::subControlRect(control, option, part, widget);
     switch (control) {
     case CC_SpinBox:
-        return placedAs(ComplexControls::spinBoxRect, this, option, part, base, widget);
+        return placedAs(Nocturne::ComplexControls::spinBoxRect, this, option, part, base, widget);
     case CC_ComboBox:
-        return placedAs(ComplexControls::comboBoxRect, this, option, part, base, widget);
+        return placedAs(Nocturne::ComplexControls::comboBoxRect, this, option, part, base, widget);
     case CC_Slider:
-        return placedAs(ComplexControls::sliderRect, this, option, part, base, widget);
+        return placedAs(Nocturne::ComplexControls::sliderRect, this, option, part, base, widget);
     case CC_GroupBox:
-        return placedAs(ComplexControls::groupBoxRect, this, option, part, base, widget);
+        return placedAs(Nocturne::ComplexControls::groupBoxRect, this, option, part, base, widget);
     case CC_TitleBar:
-        return placedAs(ComplexControls::titleBarRect, this, option, part, base, widget);
+        return placedAs(Nocturne::ComplexControls::titleBarRect, this, option, part, base, widget);
     default:
         return base;
     }

@@ -5,7 +5,7 @@
 
 #include <QtWidgets/QStyleOption>
 
-namespace ComplexControls {
+namespace Nocturne::ComplexControls {
 
 using StyleHelpers::PainterSaver;
 
@@ -119,4 +119,4 @@ void paintComboBox(const QStyle *style, const QStyleOptionComboBox *option, QPai
     });
 }
 
-} // namespace ComplexControls
+} // namespace Nocturne::ComplexControls

@@ -4,7 +4,7 @@
 
 #include <QtWidgets/QStyleOption>
 
-namespace ComplexControls {
+namespace Nocturne::ComplexControls {
 
 using StyleHelpers::dpiScaled;
 
@@ -218,4 +218,4 @@ QRect titleBarRect(const QStyle *, const QStyleOptionTitleBar *option, QStyle::S
     return QStyle::visualRect(option->direction, bounds, rect);
 }
 
-} // namespace ComplexControls
+} // namespace Nocturne::ComplexControls

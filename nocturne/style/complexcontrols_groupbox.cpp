@@ -4,7 +4,7 @@
 
 #include <QtWidgets/QStyleOption>
 
-namespace ComplexControls {
+namespace Nocturne::ComplexControls {
 
 using StyleHelpers::PainterSaver;
 
@@ -68,4 +68,4 @@ void paintGroupBox(const QStyle *style, const QStyleOptionGroupBox *option, QPai
         paintGroupBoxCheckBox(style, option, painter, widget);
 }
 
-} // namespace ComplexControls
+} // namespace Nocturne::ComplexControls

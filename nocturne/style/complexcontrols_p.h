@@ -19,7 +19,7 @@ class QWidget;
 ///
 /// Every function takes the style it works for; what a style on top may want to change is asked of
 /// its proxy(). The option is never null, its rectangle never empty when something is painted.
-namespace ComplexControls {
+namespace Nocturne::ComplexControls {
 
 void paintSpinBox(const QStyle *style, const QStyleOptionSpinBox *option, QPainter *painter,
                   const QWidget *widget);
@@ -60,6 +60,6 @@ QRect groupBoxRect(const QStyle *style, const QStyleOptionGroupBox *option, QSty
 QRect titleBarRect(const QStyle *style, const QStyleOptionTitleBar *option, QStyle::SubControl part,
                    const QRect &base, const QWidget *widget);
 
-} // namespace ComplexControls
+} // namespace Nocturne::ComplexControls
 
 #endif

@@ -5,7 +5,7 @@
 
 #include <QtWidgets/QStyleOption>
 
-namespace ComplexControls {
+namespace Nocturne::ComplexControls {
 
 using StyleHelpers::PainterSaver;
 
@@ -272,4 +272,4 @@ void paintScrollBar(const QStyle *style, const QStyleOptionSlider *option, QPain
         paintSolidScrollBar(bar, painter);
 }
 
-} // namespace ComplexControls
+} // namespace Nocturne::ComplexControls

@@ -9,7 +9,7 @@
 
 #include <limits>
 
-namespace ComplexControls {
+namespace Nocturne::ComplexControls {
 
 using StyleHelpers::PainterSaver;
 
@@ -185,4 +185,4 @@ void paintSlider(const QStyle *style, const QStyleOptionSlider *option, QPainter
         paintSliderHandle(option, painter, handle);
 }
 
-} // namespace ComplexControls
+} // namespace Nocturne::ComplexControls

@@ -5,7 +5,7 @@
 
 #include <QtWidgets/QStyleOption>
 
-namespace ComplexControls {
+namespace Nocturne::ComplexControls {
 
 using StyleHelpers::PainterSaver;
 
@@ -116,4 +116,4 @@ void paintSpinBox(const QStyle *style, const QStyleOptionSpinBox *option, QPaint
     });
 }
 
-} // namespace ComplexControls
+} // namespace Nocturne::ComplexControls

@@ -5,7 +5,7 @@
 
 #include <QtWidgets/QStyleOption>
 
-namespace ComplexControls {
+namespace Nocturne::ComplexControls {
 
 using StyleHelpers::PainterSaver;
 
@@ -259,4 +259,4 @@ void paintTitleBar(const QStyle *style, const QStyleOptionTitleBar *option, QPai
     paintTitleBarButtons(bar, painter);
 }
 
-} // namespace ComplexControls
+} // namespace Nocturne::ComplexControls

@@ -8,7 +8,7 @@ constexpr int elementCount = QStyle::CE_ShapedFrame + 1;
 
 /// What paints each element; null where the common style does.
 constexpr auto controlFunctions = [] {
-    using namespace StylePaint;
+    using namespace Nocturne::StylePaint;
     std::array<Function, elementCount> functions{};
     functions[QStyle::CE_PushButton] = paintPushButton;
     functions[QStyle::CE_PushButtonLabel] = paintPushButtonLabel;

@@ -4,7 +4,7 @@
 #include <QtGui/QWindow>
 #include <QtWidgets/QPushButton>
 
-namespace StylePaint {
+namespace Nocturne::StylePaint {
 
 using StyleHelpers::PainterSaver;
 
@@ -240,4 +240,4 @@ void paintComboBoxLabel(const PaintCall &call)
     }
 }
 
-} // namespace StylePaint
+} // namespace Nocturne::StylePaint

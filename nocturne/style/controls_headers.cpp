@@ -2,7 +2,7 @@
 #include "stylehelpers_p.h"
 #include "stylepainting_p.h"
 
-namespace StylePaint {
+namespace Nocturne::StylePaint {
 
 namespace {
 
@@ -71,4 +71,4 @@ void paintHeaderSection(const PaintCall &call)
                              [header](QPainter *painter) { paintSection(painter, *header); });
 }
 
-} // namespace StylePaint
+} // namespace Nocturne::StylePaint

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace StylePaint {
+namespace Nocturne::StylePaint {
 
 using StyleHelpers::PainterSaver;
 
@@ -280,4 +280,4 @@ void paintMenuBarEmptyArea(const PaintCall &call)
     paintMenuBarLine(call);
 }
 
-} // namespace StylePaint
+} // namespace Nocturne::StylePaint

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace StylePaint {
+namespace Nocturne::StylePaint {
 
 using StyleHelpers::PainterSaver;
 
@@ -236,4 +236,4 @@ void paintProgressLabel(const PaintCall &call)
     paintClippedLabel(call.painter, *option, rect, passed, flipped ? text : alternate);
 }
 
-} // namespace StylePaint
+} // namespace Nocturne::StylePaint

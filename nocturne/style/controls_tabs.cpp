@@ -4,7 +4,7 @@
 
 #include <QtWidgets/QTabBar>
 
-namespace StylePaint {
+namespace Nocturne::StylePaint {
 
 using StyleHelpers::PainterSaver;
 
@@ -147,4 +147,4 @@ void paintTabShape(const PaintCall &call)
     }
 }
 
-} // namespace StylePaint
+} // namespace Nocturne::StylePaint

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace StylePaint {
+namespace Nocturne::StylePaint {
 
 using StyleHelpers::PainterSaver;
 
@@ -196,4 +196,4 @@ void paintToolBar(const PaintCall &call)
     paintToolBarLines(call.painter, *toolBar);
 }
 
-} // namespace StylePaint
+} // namespace Nocturne::StylePaint

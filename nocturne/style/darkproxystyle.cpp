@@ -67,7 +67,7 @@ void DarkProxyStyle::drawControl(ControlElement element, const QStyleOption *opt
 void DarkProxyStyle::drawMenuBadge(const QStyleOption *option, const QString &label,
                                    QPainter *painter, const QWidget *widget) const
 {
-    const StyleHelpers::PainterSaver saver(painter);
+    const Nocturne::StyleHelpers::PainterSaver saver(painter);
     painter->setBackgroundMode(Qt::OpaqueMode);
     painter->setBackground(Qt::red);
     painter->setBrush(Qt::blue);

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace StyleHelpers {
+namespace Nocturne::StyleHelpers {
 
 namespace {
 
@@ -224,4 +224,4 @@ void drawDial(const QStyleOptionSlider *option, QPainter *painter)
     paintDialKnob(painter, option, metrics);
 }
 
-} // namespace StyleHelpers
+} // namespace Nocturne::StyleHelpers

@@ -11,7 +11,7 @@ constexpr int elementCount = QStyle::PE_PanelMenu + 1;
 
 /// What paints each element; null where the common style does.
 constexpr auto primitiveFunctions = [] {
-    using namespace StylePaint;
+    using namespace Nocturne::StylePaint;
     std::array<Function, elementCount> functions{};
     functions[QStyle::PE_FrameDefaultButton] = paintNothing;
     functions[QStyle::PE_FrameStatusBarItem] = paintNothing;
@@ -49,13 +49,13 @@ constexpr auto primitiveFunctions = [] {
 
 } // namespace
 
-QIcon &StylePaint::tabCloseIcon(const DarkFusionStyle *style)
+QIcon &Nocturne::StylePaint::tabCloseIcon(const DarkFusionStyle *style)
 {
     return static_cast<const DarkFusionStylePrivate *>(QObjectPrivate::get(style))
         ->tabBarcloseButtonIcon;
 }
 
-bool StylePaint::showsPixmapsUnchanged(const QPainter *painter)
+bool Nocturne::StylePaint::showsPixmapsUnchanged(const QPainter *painter)
 {
     const QTransform transform = painter->deviceTransform();
     const qreal ratio = qApp->devicePixelRatio();

@@ -4,7 +4,7 @@
 
 #include <nocturne/painting/themepaint_p.h>
 
-namespace StylePaint {
+namespace Nocturne::StylePaint {
 
 using StyleHelpers::PainterSaver;
 
@@ -131,4 +131,4 @@ void paintIndicatorTabClose(const PaintCall &call)
     call.proxy()->drawItemPixmap(call.painter, call.rect(), Qt::AlignCenter, cross);
 }
 
-} // namespace StylePaint
+} // namespace Nocturne::StylePaint

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-namespace StylePaint {
+namespace Nocturne::StylePaint {
 
 using StyleHelpers::PainterSaver;
 
@@ -225,4 +225,4 @@ void paintPanelTipLabel(const PaintCall &call)
     paintPanel(call, Qt::black, Qt::gray);
 }
 
-} // namespace StylePaint
+} // namespace Nocturne::StylePaint

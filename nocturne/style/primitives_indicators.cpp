@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-namespace StylePaint {
+namespace Nocturne::StylePaint {
 
 namespace {
 
@@ -240,4 +240,4 @@ void paintIndicatorToolBarSeparator(const PaintCall &call)
     call.painter->drawLine(dark.translated(lightOffset));
 }
 
-} // namespace StylePaint
+} // namespace Nocturne::StylePaint

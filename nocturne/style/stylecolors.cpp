@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace StyleColors {
+namespace Nocturne::StyleColors {
 
 namespace {
 
@@ -106,4 +106,4 @@ QColor scrollBarBackgroundColor(const QPalette &palette, const QWidget *widget)
     return palette.color(QPalette::Base);
 }
 
-} // namespace StyleColors
+} // namespace Nocturne::StyleColors

@@ -10,7 +10,7 @@ class QWidget;
 ///
 /// Unless said otherwise a colour is taken from the palette's current group, and sums are clamped
 /// to 0 to 255.
-namespace StyleColors {
+namespace Nocturne::StyleColors {
 
 /// Dark and light dots, and the line inside the outline of a raised part.
 constexpr QRgb darkShade = 0x3c000000;         // black, alpha 60
@@ -52,6 +52,6 @@ QColor arrowColor(const QPalette &palette);
 /// \a palette.
 QColor scrollBarBackgroundColor(const QPalette &palette, const QWidget *widget);
 
-} // namespace StyleColors
+} // namespace Nocturne::StyleColors
 
 #endif

@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-namespace StyleHelpers {
+namespace Nocturne::StyleHelpers {
 
 namespace {
 
@@ -390,4 +390,4 @@ void drawTitleBarButton(QPainter *painter, const QStyleOptionTitleBar *option, c
     drawTitleButtonEdge(painter, rect);
 }
 
-} // namespace StyleHelpers
+} // namespace Nocturne::StyleHelpers

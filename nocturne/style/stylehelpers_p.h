@@ -13,7 +13,7 @@ class QStyleOptionTitleBar;
 class QStyleOptionToolButton;
 
 /// The tools that the paint functions of the style share.
-namespace StyleHelpers {
+namespace Nocturne::StyleHelpers {
 
 /// Saves a painter's state and restores it at the end of the scope.
 class PainterSaver
@@ -144,6 +144,6 @@ void drawCachedUnlessTransformed(QPainter *painter, const QPoint &topLeft, const
         paintAt(painter, topLeft, paint);
 }
 
-} // namespace StyleHelpers
+} // namespace Nocturne::StyleHelpers
 
 #endif

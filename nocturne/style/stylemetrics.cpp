@@ -190,7 +190,7 @@ int DarkFusionStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     const Answer answer = lookUp(metricAnswers, metric);
     switch (answer.unit) {
     case Unit::Scaled:
-        return static_cast<int>(StyleHelpers::dpiScaled(answer.value));
+        return static_cast<int>(Nocturne::StyleHelpers::dpiScaled(answer.value));
     case Unit::Exact:
         return answer.value;
     case Unit::Inherited:

@@ -7,6 +7,8 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
 
+namespace Nocturne {
+
 /// What one call of the style's drawPrimitive() or drawControl() hands to a paint function.
 ///
 /// The option and the painter are there, and the option's rectangle is not empty; the option may
@@ -56,9 +58,11 @@ struct PaintCall
     }
 };
 
+} // namespace Nocturne
+
 /// One function an element, named after it. Each leaves the painter as it found it, unless its
 /// comment says otherwise, and paints nothing when the option is not of the type it needs.
-namespace StylePaint {
+namespace Nocturne::StylePaint {
 
 using Function = void (*)(const PaintCall &call);
 
@@ -184,6 +188,6 @@ void paintSizeGrip(const PaintCall &call);
 void paintSplitter(const PaintCall &call);
 void paintToolBar(const PaintCall &call);
 
-} // namespace StylePaint
+} // namespace Nocturne::StylePaint
 
 #endif

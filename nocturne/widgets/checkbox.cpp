@@ -12,5 +12,5 @@ void CheckBox::paintEvent(QPaintEvent *)
 {
     QStyleOptionButton option;
     initStyleOption(&option);
-    paintCheckIndicator(this, option);
+    Nocturne::paintCheckIndicator(this, option);
 }

@@ -7,6 +7,8 @@
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOptionButton>
 
+namespace Nocturne {
+
 namespace {
 
 constexpr QRect cellAtLeft(0, 1, 18, 18);
@@ -51,3 +53,5 @@ void paintCheckIndicator(QAbstractButton *button, const QStyleOptionButton &opti
     painter.setPen(ThemePaint::buttonText(option.state & QStyle::State_Enabled));
     painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, option.text);
 }
+
+} // namespace Nocturne

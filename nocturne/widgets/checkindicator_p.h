@@ -4,8 +4,12 @@
 class QAbstractButton;
 class QStyleOptionButton;
 
+namespace Nocturne {
+
 /// Paints \a button as a dark square, with a blue dot in it when it is on, and its caption. Radio
 /// buttons and check boxes look alike; a partially checked box is empty.
 void paintCheckIndicator(QAbstractButton *button, const QStyleOptionButton &option);
+
+} // namespace Nocturne
 
 #endif

@@ -154,20 +154,20 @@ void ColorButton::drawButton(QPainter *painter)
     painter->setRenderHint(QPainter::Antialiasing, false);
 
     if (isDown() || isChecked()) {
-        painter->setBrush(
-            ThemePaint::verticalGradient(r, {{0, QColor(downTop)}, {1, QColor(downBottom)}}));
+        painter->setBrush(Nocturne::ThemePaint::verticalGradient(
+            r, {{0, QColor(downTop)}, {1, QColor(downBottom)}}));
         painter->setPen(QColor(downBorder));
         painter->drawRect(r);
     } else {
-        painter->setBrush(ThemePaint::verticalGradient(
-            r, {{0, ThemePaint::window(24)}, {1, ThemePaint::window(1)}}));
-        painter->setPen(ThemePaint::window(-18));
+        painter->setBrush(Nocturne::ThemePaint::verticalGradient(
+            r, {{0, Nocturne::ThemePaint::window(24)}, {1, Nocturne::ThemePaint::window(1)}}));
+        painter->setPen(Nocturne::ThemePaint::window(-18));
         painter->drawRect(r);
-        painter->setPen(ThemePaint::window(33));
+        painter->setPen(Nocturne::ThemePaint::window(33));
         painter->setBrush(Qt::NoBrush);
         painter->drawLine(r.x() + 2, r.y() + 1, r.right() - 1, r.y() + 1);
     }
-    painter->setPen(ThemePaint::window(29, 128));
+    painter->setPen(Nocturne::ThemePaint::window(29, 128));
     painter->drawLine(r.x() + 2, r.bottom() + 2, r.right() - 1, r.bottom() + 2);
 
     painter->save();

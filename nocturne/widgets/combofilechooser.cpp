@@ -88,6 +88,7 @@ void ComboFileChooser::chooseFile()
 QString ComboFileChooser::askForPath()
 {
     if (m_mode != OpenFile)
-        return pickDirectory(this, QString());
-    return pickFile(this, QString(), m_lastSelectedDir, mediaFilter(tr("Media (*.%1)"), m_types));
+        return Nocturne::pickDirectory(this, QString());
+    return Nocturne::pickFile(this, QString(), m_lastSelectedDir,
+                              Nocturne::mediaFilter(tr("Media (*.%1)"), m_types));
 }

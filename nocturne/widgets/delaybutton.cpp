@@ -4,7 +4,7 @@
 
 DelayButton::DelayButton(QWidget *parent)
     : QPushButton(parent)
-    , m_delay(DelayLock::defaultDelay)
+    , m_delay(Nocturne::DelayLock::defaultDelay)
 {
     connect(this, &QPushButton::toggled, this, &DelayButton::disableButton);
 }
@@ -16,7 +16,7 @@ void DelayButton::setDelay(int delay)
 
 void DelayButton::disableButton()
 {
-    DelayLock::lock(this, m_delay, &DelayButton::enableButton);
+    Nocturne::DelayLock::lock(this, m_delay, &DelayButton::enableButton);
 }
 
 void DelayButton::enableButton()

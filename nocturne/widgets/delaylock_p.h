@@ -4,7 +4,7 @@
 #include <QtCore/QTimer>
 
 /// What the two delay buttons share.
-namespace DelayLock {
+namespace Nocturne::DelayLock {
 
 constexpr int defaultDelay = 500; // milliseconds
 
@@ -17,6 +17,6 @@ void lock(Button *button, int delay, void (Button::*unlock)())
     QTimer::singleShot(delay, button, unlock);
 }
 
-} // namespace DelayLock
+} // namespace Nocturne::DelayLock
 
 #endif

@@ -4,7 +4,7 @@
 
 DelayToolButton::DelayToolButton(QWidget *parent)
     : QToolButton(parent)
-    , m_delay(DelayLock::defaultDelay)
+    , m_delay(Nocturne::DelayLock::defaultDelay)
 {
     connect(this, &QToolButton::toggled, this, &DelayToolButton::disableButton);
 }
@@ -16,7 +16,7 @@ void DelayToolButton::setDelay(int delay)
 
 void DelayToolButton::disableButton()
 {
-    DelayLock::lock(this, m_delay, &DelayToolButton::enableButton);
+    Nocturne::DelayLock::lock(this, m_delay, &DelayToolButton::enableButton);
 }
 
 void DelayToolButton::enableButton()

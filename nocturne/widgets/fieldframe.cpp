@@ -6,7 +6,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QVBoxLayout>
 
-namespace FieldFrame {
+namespace Nocturne::FieldFrame {
 
 namespace {
 
@@ -58,4 +58,4 @@ void paint(QWidget *field)
     }
 }
 
-} // namespace FieldFrame
+} // namespace Nocturne::FieldFrame

@@ -6,7 +6,7 @@ class QWidget;
 
 /// The look that the two recording fields share: a dark rounded frame, a label with the text and a
 /// blue ring while the field has the focus.
-namespace FieldFrame {
+namespace Nocturne::FieldFrame {
 
 /// Makes \a field focusable by a click only and gives it the label, an object named "edit".
 void setUp(QWidget *field);
@@ -17,6 +17,6 @@ void setText(const QWidget *field, const QString &text);
 /// Paints frame and ring; the label paints itself.
 void paint(QWidget *field);
 
-} // namespace FieldFrame
+} // namespace Nocturne::FieldFrame
 
 #endif

@@ -64,7 +64,8 @@ QString FileChooser::askForPath()
 {
     const QString current = m_lineEdit->text();
     if (m_mode != OpenFile)
-        return pickDirectory(this, current);
-    return pickFile(this, current, QFileInfo(current).absolutePath(),
-                    mediaFilter(tr("Media (*.%1)"), OpenImageFile | OpenVideoFile | OpenAudioFile));
+        return Nocturne::pickDirectory(this, current);
+    return Nocturne::pickFile(
+        this, current, QFileInfo(current).absolutePath(),
+        Nocturne::mediaFilter(tr("Media (*.%1)"), OpenImageFile | OpenVideoFile | OpenAudioFile));
 }

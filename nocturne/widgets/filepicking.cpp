@@ -4,6 +4,8 @@
 #include <QtCore/QStringList>
 #include <QtWidgets/QFileDialog>
 
+namespace Nocturne {
+
 namespace {
 
 const char videoExtensions[] =
@@ -57,3 +59,5 @@ QString pickDirectory(QWidget *parent, const QString &caption)
     dialog->setOption(QFileDialog::ShowDirsOnly);
     return pickedPath(dialog);
 }
+
+} // namespace Nocturne

@@ -7,6 +7,8 @@
 
 class QWidget;
 
+namespace Nocturne {
+
 /// The filter of a file dialog for media files: \a format with "%1" replaced by the extensions of
 /// \a types, separated by " *.".
 QString mediaFilter(const QString &format, QFlags<OpenFileType> types);
@@ -18,5 +20,7 @@ QString pickFile(QWidget *parent, const QString &caption, const QString &directo
 
 /// Asks for a folder; empty as above.
 QString pickDirectory(QWidget *parent, const QString &caption);
+
+} // namespace Nocturne
 
 #endif

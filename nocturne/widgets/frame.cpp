@@ -24,33 +24,34 @@ void paintRule(QPainter *painter, QRect rect)
 
 void paintRaised(QPainter *painter, const QRect &rect)
 {
-    painter->setBrush(ThemePaint::verticalGradient(
+    painter->setBrush(Nocturne::ThemePaint::verticalGradient(
         QRect(1, 1, rect.width() - 2, rect.height() - 2),
-        {{0.0, ThemePaint::window(10)}, {1.0, ThemePaint::window(-7)}}));
+        {{0.0, Nocturne::ThemePaint::window(10)}, {1.0, Nocturne::ThemePaint::window(-7)}}));
     painter->setPen(Qt::black);
     painter->drawRect(rect);
 
     painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->setPen(ThemePaint::window(23));
+    painter->setPen(Nocturne::ThemePaint::window(23));
     painter->drawLine(2, 1, rect.width() - 3, 1);
 }
 
 void paintSunken(QPainter *painter, const QRect &rect)
 {
-    painter->setBrush(ThemePaint::verticalGradient(rect, {{0.0, ThemePaint::window()},
-                                                          {0.4, ThemePaint::window(5)},
-                                                          {1.0, ThemePaint::window(-3)}}));
+    painter->setBrush(
+        Nocturne::ThemePaint::verticalGradient(rect, {{0.0, Nocturne::ThemePaint::window()},
+                                                      {0.4, Nocturne::ThemePaint::window(5)},
+                                                      {1.0, Nocturne::ThemePaint::window(-3)}}));
     painter->drawRect(rect);
 }
 
 void paintPlain(QPainter *painter, const QRect &rect)
 {
     painter->setPen(Qt::black);
-    painter->setBrush(ThemePaint::window(-7));
+    painter->setBrush(Nocturne::ThemePaint::window(-7));
     painter->drawRect(rect.adjusted(0, 0, 0, -1));
 
     painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->setPen(ThemePaint::window(18));
+    painter->setPen(Nocturne::ThemePaint::window(18));
     painter->drawLine(2, rect.height() - 1, rect.width() - 2, rect.height() - 1);
 }
 

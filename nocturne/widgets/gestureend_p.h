@@ -5,6 +5,8 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
+namespace Nocturne {
+
 /// Whether after \a event the release of a button pressed on \a widget may never arrive, so that a
 /// drag has to end now: the widget is hidden, disabled, or shut out by a modal window. A window
 /// that merely loses the focus still gets the rest of the drag.
@@ -23,5 +25,7 @@ inline bool endsGesture(const QEvent *event, const QWidget *widget)
         return false;
     }
 }
+
+} // namespace Nocturne
 
 #endif

@@ -481,7 +481,7 @@ void GradientTool::chooseColor(GradientToolSlider *target)
 
 bool GradientTool::event(QEvent *event)
 {
-    if (endsGesture(event, this))
+    if (Nocturne::endsGesture(event, this))
         abandonDrag();
     return QWidget::event(event);
 }

@@ -4,6 +4,8 @@
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOptionSlider>
 
+namespace Nocturne {
+
 /// Which value a place along a slider's groove stands for.
 ///
 /// A handle travels between the two ends of the groove and stays inside it, so the values are
@@ -46,5 +48,7 @@ private:
     int m_handleLength;
     int m_travel;
 };
+
+} // namespace Nocturne
 
 #endif

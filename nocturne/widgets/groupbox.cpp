@@ -32,17 +32,17 @@ QRect titleRect(const QStyleOption &option)
 
 void paintRule(QPainter *painter, const QRect &box)
 {
-    painter->setPen(ThemePaint::window(5));
+    painter->setPen(Nocturne::ThemePaint::window(5));
     painter->drawLine(box.x() + 1, box.top() + ruleTop, box.right() - 1, box.top() + ruleTop);
 }
 
 void paintCheck(QPainter *painter, const QRect &cell, bool on)
 {
     painter->setPen(Qt::NoPen);
-    painter->setBrush(ThemePaint::window(-5));
+    painter->setBrush(Nocturne::ThemePaint::window(-5));
     painter->drawRoundedRect(cell.adjusted(5, 5, -5, -5), checkRadius, checkRadius);
     if (on) {
-        painter->setBrush(QColor(ThemePaint::accentBlue));
+        painter->setBrush(QColor(Nocturne::ThemePaint::accentBlue));
         painter->drawRoundedRect(cell.adjusted(7, 7, -7, -7), checkRadius, checkRadius);
     }
 }
@@ -97,6 +97,6 @@ void GroupBox::paintEvent(QPaintEvent *)
         paintCheck(&painter, checkCell(option), option.state & QStyle::State_On);
     }
 
-    painter.setPen(ThemePaint::buttonText(option.state & QStyle::State_Enabled));
+    painter.setPen(Nocturne::ThemePaint::buttonText(option.state & QStyle::State_Enabled));
     painter.drawText(titleRect(option), Qt::AlignLeft | Qt::AlignVCenter, option.text);
 }

@@ -292,12 +292,12 @@ QAccessibleInterface *createHandleGroup(const QString &className, QObject *objec
 
 } // namespace
 
-void HandleAccessibility::install()
+void Nocturne::HandleAccessibility::install()
 {
     installAccessibleFactory<createHandleGroup>();
 }
 
-void HandleAccessibility::valueChanged(QSlider *slider, int handle, int value)
+void Nocturne::HandleAccessibility::valueChanged(QSlider *slider, int handle, int value)
 {
     QAccessibleValueChangeEvent event(slider, value);
     event.setChild(handle);

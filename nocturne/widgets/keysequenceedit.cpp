@@ -57,7 +57,7 @@ int unshiftedKey(int key, const QString &text)
 KeySequenceEdit::KeySequenceEdit(QWidget *parent)
     : QWidget(parent)
 {
-    FieldFrame::setUp(this);
+    Nocturne::FieldFrame::setUp(this);
 }
 
 KeySequenceEdit::~KeySequenceEdit() = default;
@@ -65,7 +65,7 @@ KeySequenceEdit::~KeySequenceEdit() = default;
 void KeySequenceEdit::setKeySequence(const QKeySequence &sequence)
 {
     m_sequence = sequence;
-    FieldFrame::setText(this, m_sequence.toString(QKeySequence::NativeText));
+    Nocturne::FieldFrame::setText(this, m_sequence.toString(QKeySequence::NativeText));
 }
 
 void KeySequenceEdit::setOldKeySequence(const QKeySequence &sequence)
@@ -125,5 +125,5 @@ void KeySequenceEdit::processKeyPress(QKeyEvent *event)
 
 void KeySequenceEdit::paintEvent(QPaintEvent *)
 {
-    FieldFrame::paint(this);
+    Nocturne::FieldFrame::paint(this);
 }

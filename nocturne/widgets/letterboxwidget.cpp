@@ -63,7 +63,7 @@ void LetterBoxWidget::resizeWidget()
 
 void LetterBoxWidget::enableBackground()
 {
-    setBackgroundColor(ThemePaint::window(backgroundShade));
+    setBackgroundColor(Nocturne::ThemePaint::window(backgroundShade));
 }
 
 void LetterBoxWidget::setBackgroundColor(const QColor &color)

@@ -14,11 +14,11 @@ void paintField(QPainter *painter, const QRect &r)
 {
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
-    painter->setBrush(ThemePaint::window(-11));
+    painter->setBrush(Nocturne::ThemePaint::window(-11));
     painter->drawRoundedRect(r, cornerRadius, cornerRadius);
 
     painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->setPen(ThemePaint::window(33, 96));
+    painter->setPen(Nocturne::ThemePaint::window(33, 96));
     painter->drawLine(r.x() + 4, r.bottom() + 1, r.right() - 4, r.bottom() + 1);
 }
 

@@ -191,8 +191,8 @@ void ListWidget::scrollContentsBy(int dx, int dy)
         return;
 
     // The shadows have moved along with the items and have to be put right at either end.
-    const int upper = edgeShadowHeight + qMax(0, -movedUp);
-    const int lower = edgeShadowHeight + qMax(0, movedUp);
+    const int upper = Nocturne::edgeShadowHeight + qMax(0, -movedUp);
+    const int lower = Nocturne::edgeShadowHeight + qMax(0, movedUp);
     viewport()->update(0, 0, viewport()->width(), upper);
     viewport()->update(0, height() - lower, viewport()->width(), lower);
 }
@@ -240,7 +240,7 @@ bool ListWidget::areRowsBetween(int above, int below) const
 void ListWidget::paintBackground()
 {
     QPainter painter(viewport());
-    painter.fillRect(rect(), ThemePaint::window(backgroundShift));
+    painter.fillRect(rect(), Nocturne::ThemePaint::window(backgroundShift));
 }
 
 void ListWidget::paintShadows()
@@ -249,7 +249,7 @@ void ListWidget::paintShadows()
     const bool above = offset > verticalScrollBar()->minimum();
     const bool below = offset < verticalScrollBar()->maximum();
     QPainter painter(viewport());
-    paintEdgeShadows(&painter, size(), above, below);
+    Nocturne::paintEdgeShadows(&painter, size(), above, below);
 }
 
 int ListWidget::horizontalOffset() const

@@ -57,8 +57,8 @@ void ProgressBar::render()
     // The bar ends one pixel short of the groove's ends and starts one below its top.
     const QRectF fill = filledPart(groove);
     if (!fill.isEmpty())
-        drawGlowBar(&painter, QPoint(int(fill.x()), int(fill.y())),
-                    {fill.size(), QMarginsF(1, 1, 1, 0), barRadius});
+        Nocturne::drawGlowBar(&painter, QPoint(int(fill.x()), int(fill.y())),
+                              {fill.size(), QMarginsF(1, 1, 1, 0), barRadius});
 }
 
 void ProgressBar::renderFull()
@@ -69,8 +69,8 @@ void ProgressBar::renderFull()
 
     QPainter painter(this);
     if (!fill.isEmpty())
-        drawGlowBar(&painter, QPoint(int(fill.x()), int(fill.y())),
-                    {fill.size(), QMarginsF(), fullBarRadius});
+        Nocturne::drawGlowBar(&painter, QPoint(int(fill.x()), int(fill.y())),
+                              {fill.size(), QMarginsF(), fullBarRadius});
 }
 
 QRectF ProgressBar::filledPart(const QRectF &whole) const

@@ -84,7 +84,7 @@ void RangeSlider::initialize()
     m_private->minimumValue = m_private->minimumPosition = minimum();
     m_private->maximumValue = m_private->maximumPosition = maximum();
     setAttribute(Qt::WA_MouseTracking);
-    HandleAccessibility::install();
+    Nocturne::HandleAccessibility::install();
 }
 
 RangeSliderPrivate *RangeSlider::d_func()
@@ -165,15 +165,15 @@ void RangeSlider::setValues(int min, int max, int main)
     }
 
     if (now.minimum != oldValues.minimum) {
-        HandleAccessibility::valueChanged(this, 0, now.minimum);
+        Nocturne::HandleAccessibility::valueChanged(this, 0, now.minimum);
         Q_EMIT minimumValueChanged(now.minimum);
     }
     if (now.maximum != oldValues.maximum) {
-        HandleAccessibility::valueChanged(this, 1, now.maximum);
+        Nocturne::HandleAccessibility::valueChanged(this, 1, now.maximum);
         Q_EMIT maximumValueChanged(now.maximum);
     }
     if (now.main != oldValues.main) {
-        HandleAccessibility::valueChanged(this, 2, now.main);
+        Nocturne::HandleAccessibility::valueChanged(this, 2, now.main);
         Q_EMIT mainValueChanged(now.main);
     }
 
@@ -313,7 +313,7 @@ bool RangeSlider::event(QEvent *event)
     }
     if (event->type() == QEvent::FocusOut)
         m_keyPressed = false; // The release goes elsewhere now.
-    if (endsGesture(event, this)) {
+    if (Nocturne::endsGesture(event, this)) {
         m_keyPressed = false;
         if (m_mousePressed)
             endGesture();
@@ -551,7 +551,8 @@ void RangeSliderPrivate::grab(Handle handle, const QRect &handleRect, const QPoi
 /// Moves the main handle to the pointer and grabs it there.
 void RangeSliderPrivate::jumpTo(const QPoint &point)
 {
-    const GrooveMapping mapping(q_ptr->style(), sliderOption(), q_ptr->orientation(), nullptr);
+    const Nocturne::GrooveMapping mapping(q_ptr->style(), sliderOption(), q_ptr->orientation(),
+                                          nullptr);
     const Triple before = values();
     q_ptr->setValues(minimumPosition, maximumPosition, mapping.valueAtMiddle(along(point)));
     gestureChangedValue = values() != before;
@@ -600,7 +601,7 @@ int RangeSliderPrivate::valueUnderDrag(const QPoint &point) const
     const QRect area = q_ptr->rect().adjusted(-distance, -distance, distance, distance);
     if (distance >= 0 && !area.contains(point))
         return pressPosition;
-    return GrooveMapping(q_ptr->style(), option, q_ptr->orientation(), q_ptr)
+    return Nocturne::GrooveMapping(q_ptr->style(), option, q_ptr->orientation(), q_ptr)
         .valueAtLeadingEdge(along(point) - clickOffset);
 }
 
@@ -665,7 +666,7 @@ QRect RangeSliderPrivate::barRect(QStyleOptionSlider *option) const
 
 void RangeSliderPrivate::drawBar(QStylePainter *painter, QStyleOptionSlider *option) const
 {
-    QColor fill(ThemePaint::accentBlue);
+    QColor fill(Nocturne::ThemePaint::accentBlue);
     fill.setAlpha(option->state & QStyle::State_MouseOver ? hoveredBarAlpha : barAlpha);
     bar.drawStretched(painter, barRect(option), q_ptr->orientation(), {fill.rgba()},
                       [&fill](QPainter *target, const QRect &rect) {

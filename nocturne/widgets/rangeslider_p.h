@@ -90,8 +90,8 @@ public:
     bool symmetricMoves = false;
     QString handleToolTip;
     int lastHoverValue = 0;
-    mutable PaintSample bar;
-    mutable PaintSample rangeHandle;
+    mutable Nocturne::PaintSample bar;
+    mutable Nocturne::PaintSample rangeHandle;
     bool gestureChangedValue = false; ///< asks for valuesChanged() at the end of the gesture
 
 private:

@@ -5,6 +5,8 @@
 
 #include <QtWidgets/QAccessibleWidget>
 
+namespace Nocturne {
+
 /// A ring as a progress bar: named by its title, with its value in numbers and in the words shown.
 class RingInterface : public QAccessibleWidget, public QAccessibleValueInterface
 {
@@ -39,6 +41,8 @@ private:
     RoundProgressBar *m_ring;
 };
 
+} // namespace Nocturne
+
 namespace {
 
 QAccessibleInterface *createRing(const QString &className, QObject *object)
@@ -46,17 +50,17 @@ QAccessibleInterface *createRing(const QString &className, QObject *object)
     if (className != QLatin1String("RoundProgressBar"))
         return nullptr;
     auto *ring = qobject_cast<RoundProgressBar *>(object);
-    return ring ? new RingInterface(ring) : nullptr;
+    return ring ? new Nocturne::RingInterface(ring) : nullptr;
 }
 
 } // namespace
 
-void RingAccessibility::install()
+void Nocturne::RingAccessibility::install()
 {
     installAccessibleFactory<createRing>();
 }
 
-void RingAccessibility::valueChanged(RoundProgressBar *ring)
+void Nocturne::RingAccessibility::valueChanged(RoundProgressBar *ring)
 {
     QAccessibleValueChangeEvent event(ring, ring->value());
     QAccessible::updateAccessibility(&event);

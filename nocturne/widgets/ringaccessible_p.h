@@ -4,7 +4,7 @@
 class RoundProgressBar;
 
 /// Shows the value of a progress ring to assistive technology.
-namespace RingAccessibility {
+namespace Nocturne::RingAccessibility {
 
 /// Makes the rings known. Called by every ring as it is made.
 void install();
@@ -12,6 +12,6 @@ void install();
 /// Tells those who listen that \a ring has a new value.
 void valueChanged(RoundProgressBar *ring);
 
-} // namespace RingAccessibility
+} // namespace Nocturne::RingAccessibility
 
 #endif

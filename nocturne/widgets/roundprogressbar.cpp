@@ -59,7 +59,7 @@ RoundProgressBar::RoundProgressBar(QWidget *parent)
     : QWidget(parent)
     , m_updateFlags(UF_PERCENT)
 {
-    RingAccessibility::install();
+    Nocturne::RingAccessibility::install();
 }
 
 RoundProgressBar::~RoundProgressBar() = default;
@@ -97,7 +97,7 @@ void RoundProgressBar::setValue(double val)
     m_value = qBound(m_minimum, val, m_maximum);
     update();
     if (QAccessible::isActive())
-        RingAccessibility::valueChanged(this);
+        Nocturne::RingAccessibility::valueChanged(this);
 }
 
 void RoundProgressBar::setValue(int val)
@@ -281,7 +281,7 @@ void RoundProgressBar::paintEvent(QPaintEvent *)
 
 void RoundProgressBar::drawBackground(QPainter &painter, const QRectF &rect)
 {
-    painter.fillRect(rect, ThemePaint::window());
+    painter.fillRect(rect, Nocturne::ThemePaint::window());
 }
 
 void RoundProgressBar::drawBase(QPainter &painter, const QRectF &baseRect)
@@ -289,7 +289,7 @@ void RoundProgressBar::drawBase(QPainter &painter, const QRectF &baseRect)
     switch (m_barStyle) {
     case DonutStyle:
         painter.setPen(Qt::NoPen);
-        painter.setBrush(ThemePaint::window(baseShade));
+        painter.setBrush(Nocturne::ThemePaint::window(baseShade));
         painter.drawEllipse(baseRect);
         break;
     case PieStyle:
@@ -298,7 +298,7 @@ void RoundProgressBar::drawBase(QPainter &painter, const QRectF &baseRect)
         painter.drawEllipse(baseRect);
         break;
     case LineStyle:
-        painter.setPen(QPen(ThemePaint::color(QPalette::Mid), m_outlinePenWidth));
+        painter.setPen(QPen(Nocturne::ThemePaint::color(QPalette::Mid), m_outlinePenWidth));
         painter.setBrush(Qt::NoBrush);
         painter.drawEllipse(shrunk(baseRect, m_outlinePenWidth / 2));
         break;
@@ -311,7 +311,7 @@ void RoundProgressBar::drawValue(QPainter &painter, const QRectF &baseRect, doub
     if (value == m_minimum)
         return;
     if (m_barStyle == LineStyle) {
-        painter.setPen(QPen(QColor(ThemePaint::accentBlue), m_dataPenWidth));
+        painter.setPen(QPen(QColor(Nocturne::ThemePaint::accentBlue), m_dataPenWidth));
         painter.setBrush(Qt::NoBrush);
         painter.drawArc(shrunk(baseRect, m_outlinePenWidth / 2), int(m_nullPosition * 16),
                         int(-arcLength * 16));
@@ -323,7 +323,7 @@ void RoundProgressBar::drawValue(QPainter &painter, const QRectF &baseRect, doub
     sector.arcTo(baseRect, m_nullPosition, -arcLength);
     sector.lineTo(baseRect.center());
 
-    QColor fill(ThemePaint::accentBlue);
+    QColor fill(Nocturne::ThemePaint::accentBlue);
     fill.setAlpha(int(share(value) * alphaRange + faintestAlpha));
     painter.setPen(Qt::NoPen);
     painter.setBrush(fill);
@@ -345,7 +345,7 @@ void RoundProgressBar::drawInnerBackground(QPainter &painter, const QRectF &inne
     if (m_barStyle != DonutStyle)
         return;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(ThemePaint::window());
+    painter.setBrush(Nocturne::ThemePaint::window());
     painter.drawEllipse(innerRect);
 }
 

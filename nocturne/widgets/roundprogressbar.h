@@ -9,6 +9,10 @@
 #include <QtGui/QFont>
 #include <QtWidgets/QWidget>
 
+namespace Nocturne {
+class RingInterface;
+}
+
 /// A value as a filled ring, pie or line around a text.
 ///
 /// The text is built from a format: "%v" stands for the value, "%p" for the percentage, "%connect"
@@ -138,7 +142,7 @@ protected:
     void rebuildDataBrushIfNeeded();
 
 private:
-    friend class RingInterface;
+    friend class Nocturne::RingInterface;
 
     QString accessibleValue();
     void applyRange(double min, double max);

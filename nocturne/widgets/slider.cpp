@@ -68,7 +68,7 @@ bool Slider::event(QEvent *event)
         m_keyPressed = false;
         break;
     default:
-        if (endsGesture(event, this))
+        if (Nocturne::endsGesture(event, this))
             endGesture();
         break;
     }
@@ -133,7 +133,7 @@ int Slider::valueForClick(int x) const
 {
     QStyleOptionSlider option;
     initStyleOption(&option);
-    return GrooveMapping(style(), option, Qt::Horizontal, this).valueAtMiddle(x);
+    return Nocturne::GrooveMapping(style(), option, Qt::Horizontal, this).valueAtMiddle(x);
 }
 
 /// Lets go of the handle as a release would. The toolkit keeps what it holds on to private, and a

@@ -15,14 +15,14 @@
 
 SpanSlider::SpanSlider(QWidget *parent)
     : QSlider(parent)
-    , m_spanSample(new PaintSample)
+    , m_spanSample(new Nocturne::PaintSample)
 {
     initialize();
 }
 
 SpanSlider::SpanSlider(Qt::Orientation orientation, QWidget *parent)
     : QSlider(orientation, parent)
-    , m_spanSample(new PaintSample)
+    , m_spanSample(new Nocturne::PaintSample)
 {
     initialize();
 }
@@ -33,7 +33,7 @@ void SpanSlider::initialize()
 {
     connect(this, &QAbstractSlider::rangeChanged, this, &SpanSlider::updateRange);
     connect(this, &QAbstractSlider::sliderReleased, this, &SpanSlider::movePressedHandle);
-    HandleAccessibility::install();
+    Nocturne::HandleAccessibility::install();
 }
 
 int SpanSlider::lowerValue() const
@@ -86,13 +86,13 @@ void SpanSlider::setSpan(int lower, int upper)
     if (low != m_lower) {
         m_lower = low;
         m_lowerPosition = low;
-        HandleAccessibility::valueChanged(this, 0, low);
+        Nocturne::HandleAccessibility::valueChanged(this, 0, low);
         Q_EMIT lowerValueChanged(low);
     }
     if (upp != m_upper) {
         m_upper = upp;
         m_upperPosition = upp;
-        HandleAccessibility::valueChanged(this, 1, upp);
+        Nocturne::HandleAccessibility::valueChanged(this, 1, upp);
         Q_EMIT upperValueChanged(upp);
     }
     Q_EMIT spanChanged(m_lower, m_upper);
@@ -234,7 +234,7 @@ int SpanSlider::pixelPosToRangeValue(int pos) const
 {
     QStyleOptionSlider option;
     initStyleOption(&option, UpperHandle);
-    return GrooveMapping(style(), option, orientation(), this).valueAtLeadingEdge(pos);
+    return Nocturne::GrooveMapping(style(), option, orientation(), this).valueAtLeadingEdge(pos);
 }
 
 void SpanSlider::handleMousePress(const QPoint &pos, QStyle::SubControl &control, int value,
@@ -293,7 +293,7 @@ bool SpanSlider::isHandleDown() const
 
 bool SpanSlider::event(QEvent *event)
 {
-    if (endsGesture(event, this) && isHandleDown())
+    if (Nocturne::endsGesture(event, this) && isHandleDown())
         endGesture();
     return QSlider::event(event);
 }
@@ -398,7 +398,7 @@ int SpanSlider::valueUnderDrag(const QPoint &point) const
     const QRect area = rect().adjusted(-distance, -distance, distance, distance);
     if (distance >= 0 && !area.contains(point))
         return m_pressValue;
-    return GrooveMapping(style(), option, orientation(), this)
+    return Nocturne::GrooveMapping(style(), option, orientation(), this)
         .valueAtLeadingEdge(pick(point) - m_offset);
 }
 
@@ -460,7 +460,7 @@ void SpanSlider::paintSpan(QStylePainter *painter, const QStyleOptionSlider &opt
                                : QLine(groove.left(), centre.y(), groove.right(), centre.y());
 
     // Where in the gradient the span lies is part of its look.
-    const PaintSample::Look look = {
+    const Nocturne::PaintSample::Look look = {
         palette().color(QPalette::Highlight).rgba(), uint(horizontal),
         uint(horizontal ? span.top() - groove.top() : span.left() - groove.left()),
         uint(horizontal ? groove.height() : groove.width())};

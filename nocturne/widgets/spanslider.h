@@ -7,8 +7,11 @@
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QStyle>
 
-class PaintSample;
 class QStylePainter;
+
+namespace Nocturne {
+class PaintSample;
+}
 
 /// A slider with two handles, lower and upper, that select a span inside the slider's range. Both
 /// can be dragged and moved by keys, and the groove between them is filled.
@@ -163,7 +166,7 @@ private:
     HandleMovementMode m_movement = FreeMovement;
     bool m_firstMovement = false;
     bool m_blockTracking = false;
-    QScopedPointer<PaintSample> m_spanSample;
+    QScopedPointer<Nocturne::PaintSample> m_spanSample;
 };
 
 #endif

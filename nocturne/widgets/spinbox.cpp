@@ -237,7 +237,7 @@ void SpinBox::paintEvent(QPaintEvent *event)
 
 bool SpinBox::event(QEvent *event)
 {
-    if (endsGesture(event, this))
+    if (Nocturne::endsGesture(event, this))
         abandonDrag();
     return QSpinBox::event(event);
 }

@@ -44,5 +44,5 @@ void SplitterHandle::mouseReleaseEvent(QMouseEvent *event)
 void SplitterHandle::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), ThemePaint::window());
+    painter.fillRect(rect(), Nocturne::ThemePaint::window());
 }

@@ -13,7 +13,7 @@ void StatusBar::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(ThemePaint::verticalGradient(
-        rect(), {{0.0, ThemePaint::window()}, {1.0, ThemePaint::window(-7)}}));
+    painter.setBrush(Nocturne::ThemePaint::verticalGradient(
+        rect(), {{0.0, Nocturne::ThemePaint::window()}, {1.0, Nocturne::ThemePaint::window(-7)}}));
     painter.drawRect(rect());
 }

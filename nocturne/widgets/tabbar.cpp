@@ -14,9 +14,9 @@ constexpr qreal tabRadius = 3.0;
 void paintBar(QPainter *painter, const QRect &bar)
 {
     painter->setPen(QColor(0, 0, 0, 128));
-    painter->setBrush(
-        ThemePaint::verticalGradient(bar.adjusted(1, 1, -1, -1), {{0.0, ThemePaint::window(-8)},
-                                                                  {1.0, ThemePaint::window(-16)}}));
+    painter->setBrush(Nocturne::ThemePaint::verticalGradient(
+        bar.adjusted(1, 1, -1, -1),
+        {{0.0, Nocturne::ThemePaint::window(-8)}, {1.0, Nocturne::ThemePaint::window(-16)}}));
     painter->drawRect(bar.adjusted(-1, 0, 2, -2));
 }
 
@@ -27,8 +27,8 @@ void paintSelectedTab(QPainter *painter, const QStyleOptionTab &tab)
     const QRect shape =
         QRect(tab.rect.left(), 0, tab.rect.width(), tab.rect.height()).translated(4, 4);
     painter->setPen(Qt::NoPen);
-    painter->setBrush(ThemePaint::verticalGradient(
-        shape, {{0.0, ThemePaint::window(10)}, {1.0, ThemePaint::window()}}));
+    painter->setBrush(Nocturne::ThemePaint::verticalGradient(
+        shape, {{0.0, Nocturne::ThemePaint::window(10)}, {1.0, Nocturne::ThemePaint::window()}}));
     painter->drawRoundedRect(shape, tabRadius, tabRadius);
 }
 
@@ -73,8 +73,8 @@ void TabBar::paintEvent(QPaintEvent *)
         if (selected)
             paintSelectedTab(&painter, tab);
         const bool highlighted = selected || tab.state & QStyle::State_MouseOver;
-        painter.setPen(
-            ThemePaint::color(highlighted ? QPalette::HighlightedText : QPalette::ButtonText));
+        painter.setPen(Nocturne::ThemePaint::color(highlighted ? QPalette::HighlightedText
+                                                               : QPalette::ButtonText));
         painter.drawText(tab.rect.translated(4, 0), Qt::AlignCenter, tab.text);
     }
 }

@@ -24,11 +24,11 @@ void TabWidget::paintEvent(QPaintEvent *)
     QStyleOptionTabWidgetFrame option;
     initStyleOption(&option);
     const QRect r = option.rect.adjusted(1, option.tabBarSize.height(), -1, -2);
-    const QColor edge = ThemePaint::window(20, 128);
+    const QColor edge = Nocturne::ThemePaint::window(20, 128);
 
     QPainter painter(this);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(ThemePaint::window());
+    painter.setBrush(Nocturne::ThemePaint::window());
     painter.drawRect(r);
     painter.setPen(edge);
     painter.drawLine(r.x() - 1, r.y() - 1, r.right() + 1, r.y() - 1);

@@ -42,13 +42,13 @@ void TreeWidget::paintEvent(QPaintEvent *event)
 {
     {
         QPainter painter(viewport());
-        painter.fillRect(rect(), ThemePaint::window(-6));
+        painter.fillRect(rect(), Nocturne::ThemePaint::window(-6));
     }
     QTreeWidget::paintEvent(event);
 
     m_painted = shadows();
     QPainter painter(viewport());
-    paintEdgeShadows(&painter, size(), m_painted.top, m_painted.bottom);
+    Nocturne::paintEdgeShadows(&painter, size(), m_painted.top, m_painted.bottom);
 }
 
 void TreeWidget::scrollContentsBy(int dx, int dy)
@@ -61,9 +61,9 @@ void TreeWidget::scrollContentsBy(int dx, int dy)
     const int pixels = scrolledPixels(dy);
     QRegion stale;
     if (m_painted.top || now.top)
-        stale += QRect(0, 0, width(), edgeShadowHeight + qMax(0, pixels));
+        stale += QRect(0, 0, width(), Nocturne::edgeShadowHeight + qMax(0, pixels));
     if (m_painted.bottom || now.bottom) {
-        const int edge = edgeShadowHeight + qMax(0, -pixels);
+        const int edge = Nocturne::edgeShadowHeight + qMax(0, -pixels);
         stale += QRect(0, height() - edge, width(), edge);
     }
     viewport()->update(stale - underBars());

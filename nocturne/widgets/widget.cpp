@@ -11,5 +11,5 @@ Widget::Widget(QWidget *parent)
 void Widget::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), ThemePaint::window());
+    painter.fillRect(rect(), Nocturne::ThemePaint::window());
 }

@@ -18,7 +18,8 @@ namespace {
 
 QImage arrow(const QColor &color, int rotation)
 {
-    return StyleHelpers::colorizedImage(StyleHelpers::arrowImageFileName(), color, rotation)
+    return Nocturne::StyleHelpers::colorizedImage(Nocturne::StyleHelpers::arrowImageFileName(),
+                                                  color, rotation)
         .toImage()
         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
@@ -71,31 +72,35 @@ private:
 void tst_StyleHelpers::derivedColors()
 {
     const QPalette palette = m_theme.palette();
-    QCOMPARE(StyleColors::buttonColor(palette).rgba(), qRgb(0x48, 0x48, 0x48));
-    QCOMPARE(StyleColors::outlineColor(palette), palette.color(QPalette::Window).darker(140));
+    QCOMPARE(Nocturne::StyleColors::buttonColor(palette).rgba(), qRgb(0x48, 0x48, 0x48));
+    QCOMPARE(Nocturne::StyleColors::outlineColor(palette),
+             palette.color(QPalette::Window).darker(140));
 
     // Grey 134 is lightened by (180 - 134) / 6 percent.
     QPalette light(palette);
     light.setColor(QPalette::Button, QColor(200, 100, 100));
     const QColor button = QColor(200, 100, 100).lighter(107);
-    QCOMPARE(StyleColors::buttonColor(light).hue(), button.hue());
-    QCOMPARE(StyleColors::buttonColor(light).value(), button.value());
-    QCOMPARE(StyleColors::buttonColor(light).saturation(), int(button.saturation() * 0.75));
+    QCOMPARE(Nocturne::StyleColors::buttonColor(light).hue(), button.hue());
+    QCOMPARE(Nocturne::StyleColors::buttonColor(light).value(), button.value());
+    QCOMPARE(Nocturne::StyleColors::buttonColor(light).saturation(),
+             int(button.saturation() * 0.75));
 
     QPalette bright(palette);
     bright.setColor(QPalette::Highlight, QColor(40, 80, 255));
-    QCOMPARE(StyleColors::highlightedOutlineColor(bright).lightness(), 160);
+    QCOMPARE(Nocturne::StyleColors::highlightedOutlineColor(bright).lightness(), 160);
     bright.setColor(QPalette::Highlight, QColor(20, 40, 100));
-    QCOMPARE(StyleColors::highlightedOutlineColor(bright), QColor(20, 40, 100).darker(125));
+    QCOMPARE(Nocturne::StyleColors::highlightedOutlineColor(bright),
+             QColor(20, 40, 100).darker(125));
 
     QPalette textured(palette);
     textured.setBrush(QPalette::Window, QBrush(QPixmap(4, 4)));
-    QCOMPARE(StyleColors::outlineColor(textured), QColor(0, 0, 0, 160));
-    QCOMPARE(StyleColors::tabFrameColor(textured), QColor(255, 255, 255, 8));
+    QCOMPARE(Nocturne::StyleColors::outlineColor(textured), QColor(0, 0, 0, 160));
+    QCOMPARE(Nocturne::StyleColors::tabFrameColor(textured), QColor(255, 255, 255, 8));
 
-    QCOMPARE(StyleColors::mergedColors(QColor(0x19, 0x1a, 0x1e, 40), QColor(0xbb, 0xbb, 0xbb), 85),
+    QCOMPARE(Nocturne::StyleColors::mergedColors(QColor(0x19, 0x1a, 0x1e, 40),
+                                                 QColor(0xbb, 0xbb, 0xbb), 85),
              QColor(49, 50, 53, 40));
-    QCOMPARE(StyleColors::mergedColors(QColor(200, 0, 100), QColor(0, 200, 100), 200),
+    QCOMPARE(Nocturne::StyleColors::mergedColors(QColor(200, 0, 100), QColor(0, 200, 100), 200),
              QColor(255, 0, 100));
 }
 
@@ -108,11 +113,11 @@ void tst_StyleHelpers::scrollBarBackground()
     areaPalette.setColor(QPalette::Base, Qt::green);
     area.setPalette(areaPalette);
     QScrollBar loose;
-    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, area.verticalScrollBar()),
+    QCOMPARE(Nocturne::StyleColors::scrollBarBackgroundColor(palette, area.verticalScrollBar()),
              QColor(Qt::green));
-    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, &loose), QColor(Qt::red));
-    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, &area), QColor(Qt::red));
-    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, nullptr), QColor(Qt::red));
+    QCOMPARE(Nocturne::StyleColors::scrollBarBackgroundColor(palette, &loose), QColor(Qt::red));
+    QCOMPARE(Nocturne::StyleColors::scrollBarBackgroundColor(palette, &area), QColor(Qt::red));
+    QCOMPARE(Nocturne::StyleColors::scrollBarBackgroundColor(palette, nullptr), QColor(Qt::red));
 }
 
 void tst_StyleHelpers::cacheKeys()
@@ -120,22 +125,23 @@ void tst_StyleHelpers::cacheKeys()
     const QSize size(20, 10);
     QStyleOptionSlider option;
     option.palette = m_theme.palette();
-    const QString key = StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, size);
-    QCOMPARE(StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, size), key);
+    const QString key = Nocturne::StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, size);
+    QCOMPARE(Nocturne::StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, size), key);
     QVERIFY(key.startsWith(QLatin1Char('x')));
 
     // Whatever a drawing depends on gives it a key of its own.
-    QSet<QString> keys = {key, StyleHelpers::styleCacheKey(QStringLiteral("y"), &option, size),
-                          StyleHelpers::styleCacheKey(QStringLiteral("x"), nullptr, size)};
+    QSet<QString> keys = {
+        key, Nocturne::StyleHelpers::styleCacheKey(QStringLiteral("y"), &option, size),
+        Nocturne::StyleHelpers::styleCacheKey(QStringLiteral("x"), nullptr, size)};
     const auto addSize = [&](const QSize &other) {
-        keys << StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, other);
+        keys << Nocturne::StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, other);
     };
     addSize(QSize(10, 20));
     addSize(QSize(20 + 0x10000, 10));
     const auto addChanged = [&](const std::function<void(QStyleOptionSlider *)> &change) {
         QStyleOptionSlider changed(option);
         change(&changed);
-        keys << StyleHelpers::styleCacheKey(QStringLiteral("x"), &changed, size);
+        keys << Nocturne::StyleHelpers::styleCacheKey(QStringLiteral("x"), &changed, size);
     };
     addChanged([](auto *other) { other->state = QStyle::State_Window; }); // a high bit
     addChanged([](auto *other) { other->direction = Qt::RightToLeft; });
@@ -150,7 +156,7 @@ void tst_StyleHelpers::cacheKeys()
         spinBox.frame = i % 2;
         spinBox.stepEnabled = QAbstractSpinBox::StepEnabled(i / 2 % 4);
         spinBox.buttonSymbols = QAbstractSpinBox::ButtonSymbols(i / 8);
-        keys << StyleHelpers::styleCacheKey(QStringLiteral("s"), &spinBox, size);
+        keys << Nocturne::StyleHelpers::styleCacheKey(QStringLiteral("s"), &spinBox, size);
     }
     QCOMPARE(keys.size(), 24);
 }
@@ -163,7 +169,7 @@ void tst_StyleHelpers::keptDrawings()
     const auto compare = [](const char *prefix, const QStyleOption &option, const QRect &kept,
                             const Drawing &paint) {
         const QString key =
-            StyleHelpers::styleCacheKey(QLatin1String(prefix), &option, kept.size());
+            Nocturne::StyleHelpers::styleCacheKey(QLatin1String(prefix), &option, kept.size());
         picture(paint);
         QPixmap mark;
         QVERIFY2(QPixmapCache::find(key, &mark), prefix);
@@ -211,8 +217,10 @@ void tst_StyleHelpers::cachedDrawingIsPaintedOnce()
     };
     const QImage image = TestSupport::paintOn(QSize(12, 12), Qt::black, [&](QPainter &painter) {
         for (const QPoint &place : {QPoint(1, 1), QPoint(6, 6)})
-            StyleHelpers::drawCached(&painter, place, QStringLiteral("once"), QSize(5, 5), paint);
-        StyleHelpers::drawCached(&painter, QPoint(), QStringLiteral("none"), QSize(0, 5), paint);
+            Nocturne::StyleHelpers::drawCached(&painter, place, QStringLiteral("once"), QSize(5, 5),
+                                               paint);
+        Nocturne::StyleHelpers::drawCached(&painter, QPoint(), QStringLiteral("none"), QSize(0, 5),
+                                           paint);
     });
     QCOMPARE(painted, 1);
     COMPARE_PIXEL(image, 0, 0, Qt::black);
@@ -226,7 +234,8 @@ void tst_StyleHelpers::uncacheableDrawingIsPaintedInPlace()
     const auto paint = [](QPainter *painter) { painter->fillRect(0, 0, 3, 1, Qt::red); };
     const QSize huge(1000000, 1000000);
     QImage image = TestSupport::paintOn(QSize(8, 8), Qt::black, [&](QPainter &painter) {
-        StyleHelpers::drawCached(&painter, QPoint(2, 2), QStringLiteral("huge"), huge, paint);
+        Nocturne::StyleHelpers::drawCached(&painter, QPoint(2, 2), QStringLiteral("huge"), huge,
+                                           paint);
     });
     COMPARE_PIXEL(image, 2, 2, Qt::red);
 
@@ -234,15 +243,15 @@ void tst_StyleHelpers::uncacheableDrawingIsPaintedInPlace()
     image = TestSupport::paintOn(QSize(8, 8), Qt::black, [&](QPainter &painter) {
         painter.translate(8, 0);
         painter.rotate(90);
-        StyleHelpers::drawCachedUnlessTransformed(&painter, QPoint(2, 2), QStringLiteral("turned"),
-                                                  QSize(3, 1), paint);
+        Nocturne::StyleHelpers::drawCachedUnlessTransformed(
+            &painter, QPoint(2, 2), QStringLiteral("turned"), QSize(3, 1), paint);
         QVERIFY(painter.worldTransform().isRotating());
     });
     COMPARE_PIXEL(image, 5, 2, Qt::red);
     COMPARE_PIXEL(image, 5, 4, Qt::red);
     QPixmap pixmap;
-    QVERIFY(!StyleHelpers::findCached(QStringLiteral("huge"), &pixmap));
-    QVERIFY(!StyleHelpers::findCached(QStringLiteral("turned"), &pixmap));
+    QVERIFY(!Nocturne::StyleHelpers::findCached(QStringLiteral("huge"), &pixmap));
+    QVERIFY(!Nocturne::StyleHelpers::findCached(QStringLiteral("turned"), &pixmap));
 }
 
 /// The toolkit's arrow, or the style's own where that is missing: an upright triangle.
@@ -267,11 +276,13 @@ void tst_StyleHelpers::colorizedArrow()
     QCOMPARE(arrow(color, -90), up.transformed(QTransform().rotate(-90)));
 
     QPixmap cached;
-    QVERIFY(QPixmapCache::find(QStringLiteral("$qt_ia-") + StyleHelpers::arrowImageFileName()
+    QVERIFY(QPixmapCache::find(QStringLiteral("$qt_ia-")
+                                   + Nocturne::StyleHelpers::arrowImageFileName()
                                    + QStringLiteral("46698cff0"),
                                &cached));
-    QVERIFY(StyleHelpers::colorizedImage(QStringLiteral(":/no/such.png"), Qt::red).isNull());
-    QVERIFY(!QImage(StyleHelpers::groupBoxImageFileName()).isNull());
+    QVERIFY(
+        Nocturne::StyleHelpers::colorizedImage(QStringLiteral(":/no/such.png"), Qt::red).isNull());
+    QVERIFY(!QImage(Nocturne::StyleHelpers::groupBoxImageFileName()).isNull());
 }
 
 void tst_StyleHelpers::colorizedChannels()
@@ -284,13 +295,15 @@ void tst_StyleHelpers::colorizedChannels()
     source.setPixelColor(2, 0, QColor(0, 0, 255, 0)); // nothing
     QVERIFY(source.save(fileName));
 
-    const QImage image = StyleHelpers::colorizedImage(fileName, QColor(100, 50, 250)).toImage();
+    const QImage image =
+        Nocturne::StyleHelpers::colorizedImage(fileName, QColor(100, 50, 250)).toImage();
     COMPARE_PIXEL(image, 0, 0, QColor(140, 90, (40 + 250) % 256));
     COMPARE_PIXEL(image, 1, 0, QColor(60, 60, 60));
     QCOMPARE(image.pixelColor(2, 0).alpha(), 0);
 
     // No channel exceeds the alpha of a translucent colour.
-    const QImage faint = StyleHelpers::colorizedImage(fileName, QColor(100, 50, 200, 80)).toImage();
+    const QImage faint =
+        Nocturne::StyleHelpers::colorizedImage(fileName, QColor(100, 50, 200, 80)).toImage();
     QCOMPARE(faint.convertToFormat(QImage::Format_ARGB32_Premultiplied).pixelColor(0, 0).alpha(),
              80);
 }
@@ -308,7 +321,7 @@ void tst_StyleHelpers::arrowDrawing()
         const auto draw = [&](const QRect &rect) {
             option.rect = rect;
             return TestSupport::paintOn(QSize(40, 24), Qt::black, [&](QPainter &painter) {
-                StyleHelpers::drawArrowImage(arrow.first, &painter, &option);
+                Nocturne::StyleHelpers::drawArrowImage(arrow.first, &painter, &option);
             });
         };
         for (const QRect &rect : {QRect(3, 4, 11, 11), QRect(2, 2, 30, 10), QRect(5, 5, 5, 5)}) {
@@ -321,7 +334,7 @@ void tst_StyleHelpers::arrowDrawing()
         for (const QRect &rect : {QRect(5, 5, 9, 1), QRect(5, 5, 1, 9), QRect()})
             QVERIFY(painted(draw(rect), Qt::black).isEmpty());
     }
-    StyleHelpers::drawArrowImage(QStyle::PE_IndicatorArrowUp, nullptr, nullptr);
+    Nocturne::StyleHelpers::drawArrowImage(QStyle::PE_IndicatorArrowUp, nullptr, nullptr);
 }
 
 void tst_StyleHelpers::toolButtonArrows()
@@ -332,7 +345,8 @@ void tst_StyleHelpers::toolButtonArrows()
     for (Qt::ArrowType type :
          {Qt::NoArrow, Qt::UpArrow, Qt::DownArrow, Qt::LeftArrow, Qt::RightArrow}) {
         option.arrowType = type;
-        StyleHelpers::drawToolButtonArrow(&style, &option, QRect(1, 2, 3, 4), nullptr, nullptr);
+        Nocturne::StyleHelpers::drawToolButtonArrow(&style, &option, QRect(1, 2, 3, 4), nullptr,
+                                                    nullptr);
     }
     const QVector<QStyle::PrimitiveElement> expected = {
         QStyle::PE_IndicatorArrowUp, QStyle::PE_IndicatorArrowDown, QStyle::PE_IndicatorArrowLeft,
@@ -353,7 +367,8 @@ void tst_StyleHelpers::titleBarButton()
     const QColor highlight = option.palette.color(QPalette::Highlight);
     const auto draw = [&](bool hover, bool sunken) {
         return TestSupport::paintOn(QSize(24, 24), back, [&](QPainter &painter) {
-            StyleHelpers::drawTitleBarButton(&painter, &option, QRect(3, 3, 16, 16), hover, sunken);
+            Nocturne::StyleHelpers::drawTitleBarButton(&painter, &option, QRect(3, 3, 16, 16),
+                                                       hover, sunken);
         });
     };
     QImage image = draw(false, false);
@@ -381,13 +396,13 @@ void tst_StyleHelpers::titleBarButton()
 void tst_StyleHelpers::dialTicks()
 {
     const QStyleOptionSlider option = dialOption();
-    const QVector<QLineF> lines = StyleHelpers::dialTickLines(&option);
+    const QVector<QLineF> lines = Nocturne::StyleHelpers::dialTickLines(&option);
     QCOMPARE(lines.size(), 11);
     const QPointF center(32.5, 32.5);
     const auto distance = [&](const QPointF &point) { return QLineF(center, point).length(); };
 
     // At 240 degrees, a long mark; the next one is short, and one unit further in.
-    QCOMPARE(StyleHelpers::dialBigLineSize(32), 5);
+    QCOMPARE(Nocturne::StyleHelpers::dialBigLineSize(32), 5);
     QCOMPARE(QLineF(center, lines.first().p2()).angle(), 240.0);
     QCOMPARE(distance(lines.first().p1()), 27.0);
     QCOMPARE(distance(lines.first().p2()), 32.0);
@@ -422,7 +437,7 @@ void tst_StyleHelpers::dialTickCounts()
     option.maximum = maximum;
     option.tickInterval = interval;
     option.pageStep = 0;
-    QTEST(StyleHelpers::dialTickLines(&option).size(), "count");
+    QTEST(Nocturne::StyleHelpers::dialTickLines(&option).size(), "count");
 }
 
 void tst_StyleHelpers::dialPositions()
@@ -431,12 +446,12 @@ void tst_StyleHelpers::dialPositions()
     const QPointF center(32, 32);
     const auto angle = [&](int value) {
         option.sliderPosition = value;
-        return qRound(QLineF(center, StyleHelpers::dialRadialPos(&option, 1.0)).angle());
+        return qRound(QLineF(center, Nocturne::StyleHelpers::dialRadialPos(&option, 1.0)).angle());
     };
     QCOMPARE(angle(0), 240);
     QCOMPARE(angle(50), 90);
     QCOMPARE(angle(100), 300);
-    QCOMPARE(QLineF(center, StyleHelpers::dialRadialPos(&option, 0.5)).length(), 12.0);
+    QCOMPARE(QLineF(center, Nocturne::StyleHelpers::dialRadialPos(&option, 0.5)).length(), 12.0);
 
     option.upsideDown = false;
     QCOMPARE(angle(0), 300);
@@ -449,7 +464,9 @@ void tst_StyleHelpers::dialPositions()
 void tst_StyleHelpers::dialFollowsItsRectangle()
 {
     QStyleOptionSlider option = dialOption();
-    const auto draw = [&](QPainter &painter) { StyleHelpers::drawDial(&option, &painter); };
+    const auto draw = [&](QPainter &painter) {
+        Nocturne::StyleHelpers::drawDial(&option, &painter);
+    };
     const QImage dial = TestSupport::paintOn(QSize(64, 64), Qt::transparent, draw);
     option.rect.moveTo(20, 10);
     const QImage moved = TestSupport::paintOn(QSize(90, 80), Qt::transparent, draw);

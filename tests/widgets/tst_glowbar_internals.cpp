@@ -9,7 +9,7 @@
 namespace {
 
 /// The whole bar blurred in one piece.
-QImage blurredAtOnce(const GlowBar &bar)
+QImage blurredAtOnce(const Nocturne::GlowBar &bar)
 {
     QImage sharp(int(bar.size.width()), int(bar.size.height()), QImage::Format_ARGB32);
     sharp.fill(Qt::transparent);
@@ -50,12 +50,12 @@ private Q_SLOTS:
         QFETCH(double, height);
         QFETCH(double, topMargin);
         for (double width : {1.0, 3.4, 40.0, 95.9, 96.0, 97.0, 97.3, 130.5, 350.75, 1200.2}) {
-            const GlowBar bar{QSizeF(width, height), QMarginsF(topMargin, topMargin, topMargin, 0),
-                              3.0};
+            const Nocturne::GlowBar bar{QSizeF(width, height),
+                                        QMarginsF(topMargin, topMargin, topMargin, 0), 3.0};
             QImage pieced(int(width) + 4, int(height) + 2, QImage::Format_ARGB32_Premultiplied);
             pieced.fill(Qt::transparent);
             QPainter painter(&pieced);
-            drawGlowBar(&painter, QPoint(2, 1), bar);
+            Nocturne::drawGlowBar(&painter, QPoint(2, 1), bar);
             painter.end();
             const QImage whole = blurredAtOnce(bar);
             QCOMPARE(pieced.copy(2, 1, int(width), int(height)), whole);
