@@ -69,8 +69,21 @@ CroppingLabel::~CroppingLabel()
 
 void CroppingLabel::setText(const QString &text)
 {
+    const bool typed = m_editing && m_lineEdit->text() != m_openedText;
     m_fullText = text.trimmed();
     setElidedText();
+    if (m_editing && !typed)
+        fillEditor();
+}
+
+/// A text that is set from now on is the host's, one that differs from this is the user's.
+void CroppingLabel::fillEditor()
+{
+    const bool wasSelected = m_lineEdit->selectedText() == m_lineEdit->text();
+    m_openedText = m_fullText;
+    m_lineEdit->setText(m_fullText);
+    if (wasSelected)
+        m_lineEdit->selectAll();
 }
 
 void CroppingLabel::setEditable(bool editable)
@@ -118,7 +131,7 @@ void CroppingLabel::showTextEdit()
     m_lineEdit->show();
     m_lineEdit->setFocus(Qt::OtherFocusReason);
     if (!wasOpen)
-        m_lineEdit->setText(m_fullText);
+        fillEditor();
     m_lineEdit->setFocusPolicy(Qt::ClickFocus);
     update();
 }
@@ -177,7 +190,9 @@ void CroppingLabel::editingFinished()
     m_lineEdit->hide();
     update();
 
-    const QString typed = m_lineEdit->text();
+    // With nothing typed, a text that was set meanwhile stays.
+    const bool untouched = m_lineEdit->text() == m_openedText;
+    const QString typed = untouched ? m_fullText : m_lineEdit->text();
     const QString cleaned = cleanedText(typed);
     if (cleaned != m_fullText)
         Q_EMIT editFinished(typed);

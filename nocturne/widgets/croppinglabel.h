@@ -26,7 +26,9 @@ public:
     explicit CroppingLabel(QWidget *parent = nullptr);
     ~CroppingLabel() override;
 
-    /// Sets the text, without spaces at its ends. QLabel::text() is what is shown of it.
+    /// Sets the text, without spaces at its ends. QLabel::text() is what is shown of it. An open
+    /// editor takes it as well, unless something has been typed; Escape then ends it with the new
+    /// text, and Return with what was typed.
     void setText(const QString &text);
 
     /// The whole text.
@@ -77,8 +79,11 @@ private Q_SLOTS:
     void editingFinished();
 
 private:
+    void fillEditor();
+
     QString m_fullText;
     QLineEdit *m_lineEdit;
+    QString m_openedText; ///< what the editor held before the user typed
     bool m_editing = false;
     bool m_editable = true;
     Qt::TextElideMode m_elideMode = Qt::ElideRight;

@@ -75,16 +75,26 @@ void GradientTool::setRamp(const QVector<QPair<double, QColor>> &ramp)
 {
     if (ramp.size() < fewestStops)
         return;
-    // Later, since this may be called while a marker's own event is on its way.
+    // A host may write the ramp back at every step of a drag. The marker under the pointer stays
+    // then, since it is what gets the rest of the drag.
+    GradientToolSlider *dragged =
+        isDragging() && m_activeIndex < ramp.size() ? activeMarker() : nullptr;
     for (const Stop &stop : qAsConst(m_stops)) {
-        stop.second->hide();
-        stop.second->deleteLater();
+        if (stop.second != dragged)
+            discard(stop.second);
     }
     m_stops.clear();
-    m_dragIndex = -1;
-    m_verticalFraction = 0.0;
-    for (const auto &entry : ramp)
-        addStop(boundedPosition(entry.first), entry.second);
+    for (const auto &entry : ramp) {
+        const double position = boundedPosition(entry.first);
+        if (dragged && m_stops.size() == m_activeIndex)
+            addStop(position, entry.second, dragged);
+        else
+            addStop(position, entry.second);
+    }
+    if (!dragged) {
+        m_dragIndex = -1;
+        m_verticalFraction = 0.0;
+    }
     update();
 }
 
@@ -289,13 +299,31 @@ GradientToolSlider *GradientTool::activeMarker() const
     return m_stops.at(m_activeIndex).second;
 }
 
-GradientToolSlider *GradientTool::addStop(double position, const QColor &color)
+void GradientTool::addStop(double position, const QColor &color)
 {
-    auto *marker = new GradientToolSlider(this, color);
+    addStop(position, color, new GradientToolSlider(this, color));
+}
+
+void GradientTool::addStop(double position, const QColor &color, GradientToolSlider *marker)
+{
     m_stops.append({position, marker});
+    marker->setColor(color);
+    marker->setActive(false);
     marker->setGeometry(markerGeometry(position));
+    marker->raise();
     marker->show();
-    return marker;
+}
+
+/// Later, since a marker's own event may be on its way.
+void GradientTool::discard(GradientToolSlider *marker)
+{
+    marker->hide();
+    marker->deleteLater();
+}
+
+bool GradientTool::isDragging() const
+{
+    return m_pressed && m_dragIndex != -1;
 }
 
 /// Repaints the bar, but none of the markers below it.
@@ -332,13 +360,18 @@ void GradientTool::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    abandonDrag(); // A popup may have taken the last release.
-    m_firstChange = true;
-    m_pressed = true;
+    beginGesture();
     if (bar().contains(event->pos(), true))
         pressBar(event->pos());
     else
         pressMarker(event->pos());
+}
+
+void GradientTool::beginGesture()
+{
+    abandonDrag(); // A popup may have taken the last release.
+    m_firstChange = true;
+    m_pressed = true;
 }
 
 void GradientTool::pressMarker(const QPoint &point)
@@ -372,7 +405,7 @@ void GradientTool::pressBar(const QPoint &point)
 
 void GradientTool::mouseMoveEvent(QMouseEvent *event)
 {
-    if (m_dragIndex == -1 || !(event->buttons() & Qt::LeftButton))
+    if (!isDragging() || !(event->buttons() & Qt::LeftButton))
         return;
     GradientToolSlider *marker = activeMarker();
     const QRect area = contentsRect();
@@ -400,7 +433,7 @@ void GradientTool::mouseMoveEvent(QMouseEvent *event)
 void GradientTool::notifyDragStep()
 {
     if (!m_pressed)
-        return;
+        return; // A receiver has ended the drag.
     const bool first = m_firstChange;
     m_firstChange = false;
     Q_EMIT rampChanged(0.0, first);
@@ -421,14 +454,11 @@ void GradientTool::mouseReleaseEvent(QMouseEvent *event)
     update();
 }
 
-/// The release comes through the marker that is removed, so it goes only after the event.
 void GradientTool::removeActiveStop()
 {
     if (!activeMarker())
         return;
-    const Stop stop = m_stops.takeAt(m_activeIndex);
-    stop.second->hide();
-    stop.second->deleteLater();
+    discard(m_stops.takeAt(m_activeIndex).second);
     m_dragIndex = -1;
 
     const QPointer<GradientTool> self(this);
@@ -441,10 +471,16 @@ void GradientTool::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
+    // Without a dialog, the second press of a double-click may go over into a drag of what the
+    // first one has grabbed.
+    const int grabbed = m_dragIndex;
+    beginGesture();
+    m_dragIndex = grabbed;
     for (int i = 0; i < m_stops.size(); ++i) {
         const QPointer<GradientToolSlider> marker(m_stops.at(i).second);
         if (!marker->geometry().contains(event->pos(), true))
             continue;
+        m_dragIndex = i;
         const QPointer<GradientTool> self(this);
         Q_EMIT updateSliderColorRequest(i);
         if (self)
@@ -462,6 +498,7 @@ void GradientTool::chooseColor(GradientToolSlider *target)
     const QPointer<GradientToolSlider> marker(target);
     const QPointer<QColorDialog> dialog(m_colorDialog);
     const QColor before = marker->color();
+    abandonDrag(); // The dialog gets the release.
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!self || !marker)
         return;

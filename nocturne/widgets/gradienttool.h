@@ -44,7 +44,8 @@ public:
     QVector<QPair<double, QColor>> getRamp() const;
 
     /// Replaces all stops. Positions are clamped to 0.0 to 1.0. Fewer than two stops are ignored.
-    /// Emits nothing, and marks no stop as active; the active number stays.
+    /// Emits nothing, and marks no stop as active; the active number stays. A drag goes on with the
+    /// stop of the same number, if there still is one.
     void setRamp(const QVector<QPair<double, QColor>> &ramp);
 
     /// The ramp as 256 opaque colours 0xffRRGGBB, evenly spaced from position 0.0 to 1.0. Beyond
@@ -136,7 +137,11 @@ private:
     QRect markerGeometry(double position) const;
     QColor colorAt(double position) const;
     GradientToolSlider *activeMarker() const;
-    GradientToolSlider *addStop(double position, const QColor &color);
+    void addStop(double position, const QColor &color);
+    void addStop(double position, const QColor &color, GradientToolSlider *marker);
+    static void discard(GradientToolSlider *marker);
+    bool isDragging() const;
+    void beginGesture();
     void pressMarker(const QPoint &point);
     void pressBar(const QPoint &point);
     void notifyDragStep();

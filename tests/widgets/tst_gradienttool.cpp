@@ -319,13 +319,53 @@ private Q_SLOTS:
         QCOMPARE(after.pixelColor(105, 53), before.pixelColor(105, 53));
     }
 
-    void aRampSetWhileAStopIsDraggedAwayKeepsItsStops()
+    void aDoubleClickGoesOverIntoADrag()
     {
         Fixture f;
-        const Ramp ramp{{0, Qt::red}, {0.5, Qt::green}, {1, Qt::blue}};
-        f.editor.setRamp(ramp);
-        f.press({105, 50});
+        f.editor.setColorChoose(nullptr);
+        f.doubleClick(lastMarker);
+        f.move({155, 50});
+        f.move({105, 50});
+        f.release({105, 50});
+        QCOMPARE(f.takeLog(), Log({"request 1", "opacity 100", "ramp true", "ramp false"}));
+        f.doubleClick({65, 20});
+        f.move({75, 20});
+        f.release({75, 20});
+        QCOMPARE(f.takeLog(), Log({"ramp true"}));
+        QCOMPARE(f.editor.getRamp().at(2).first, 0.35);
+    }
+
+    void aHostMayWriteTheRampBack()
+    {
+        Fixture f;
+        GradientTool &editor = f.editor;
+        connect(&editor, &GradientTool::rampChanged, &editor,
+                [&editor] { editor.setRamp(editor.getRamp()); });
+        // Through the window, so that the toolkit chooses who gets the rest of the drag.
+        QWindow *window = editor.windowHandle();
+        QTest::mousePress(window, Qt::LeftButton, {}, {105, 20});
+        for (int x : {125, 145, 165})
+            QTest::mouseMove(window, {x, 50});
+        QTest::mouseRelease(window, Qt::LeftButton, {}, {165, 50});
+        QCOMPARE(editor.getRamp().at(2).first, 0.8);
+        QTest::mousePress(window, Qt::LeftButton, {}, {165, 50});
+        for (int x : {125, 145, 105})
+            QTest::mouseMove(window, {x, 50});
+        QCOMPARE(editor.getRamp().at(2).first, 0.5);
+        f.takeLog();
+        QTest::mouseMove(window, {105, 100});
+        QTest::mouseRelease(window, Qt::LeftButton, {}, {105, 100});
+        QCOMPARE(f.takeLog(), Log({"ramp false", "opacity 100", "ramp false"}));
+        QCOMPARE(editor.getRamp(), Ramp({{0.0, Qt::white}, {1.0, Qt::black}}));
+    }
+
+    void aRampWithoutTheDraggedStopEndsTheDrag()
+    {
+        Fixture f;
+        const Ramp ramp{{0, Qt::red}, {0.25, Qt::green}, {1, Qt::blue}};
+        f.press({105, 20});
         f.move({105, 100});
+        f.editor.setRamp({{0, Qt::red}, {1, Qt::blue}});
         f.editor.setRamp(ramp);
         f.release({105, 100});
         QCOMPARE(f.editor.getRamp(), ramp);

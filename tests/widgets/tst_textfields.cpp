@@ -210,6 +210,26 @@ private Q_SLOTS:
         QCOMPARE(f.reports, QStringList{"removed old"});
     }
 
+    void aTextMayBeSetMeanwhile()
+    {
+        for (bool byEscape : {true, false}) {
+            LabelFixture f;
+            f.label->setText("old");
+            f.label->editBegin();
+            f.label->setText("new");
+            QCOMPARE(f.editor()->selectedText(), QString("new"));
+            QTest::keyClicks(f.editor(), "typed");
+            f.label->setText("newer");
+            QCOMPARE(f.editor()->text(), QString("typed"));
+            if (byEscape)
+                QTest::keyClick(f.editor(), Qt::Key_Escape);
+            else
+                f.neighbour->setFocus();
+            QCOMPARE(f.reports, byEscape ? QStringList{"removed newer"}
+                                         : QStringList({"finished typed|newer", "removed typed"}));
+        }
+    }
+
     void whatOpensTheEditor()
     {
         LabelFixture f;
