@@ -61,7 +61,7 @@ void measureSignals(Benchmark *benchmark, const char *name, Bytes bytes)
     QObject::connect(&input, &QMidiIn::midiMessageReceived, &receiver, &Receiver::receive,
                      Qt::DirectConnection);
     benchmark->compare(
-        QLatin1String(name), [&] { receiveMidiMessage(0.001, &bytes, &input); },
+        QLatin1String(name), [&] { Nocturne::receiveMidiMessage(0.001, &bytes, &input); },
         [&] { bareCallback(0.001, &bytes, nullptr); }, messagesPerBatch);
 }
 
@@ -86,7 +86,7 @@ void measureQueued(Benchmark *benchmark)
         QElapsedTimer timer;
         timer.start();
         receiver.count = 0;
-        auto thread = batch([&] { receiveMidiMessage(0.001, &bytes, &input); });
+        auto thread = batch([&] { Nocturne::receiveMidiMessage(0.001, &bytes, &input); });
         processEventsUntil(receiver.count, messagesPerBatch, 10000);
         ours << timer.nsecsElapsed() / 1000.0 / messagesPerBatch;
         thread->wait();

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <iostream>
 
+namespace Nocturne {
+
 void MidiPort::attach(RtMidi *device, const char *direction, QStringList errors)
 {
     m_device = device;
@@ -166,3 +168,5 @@ QMidiMessage decodeMidiMessage(double seconds, const std::vector<unsigned char> 
     }
     return message;
 }
+
+} // namespace Nocturne

@@ -11,6 +11,9 @@
 #include <exception>
 #include <memory>
 #include <string>
+#include <vector>
+
+namespace Nocturne {
 
 /// What input and output share: finding a system interface that works, listing ports under names
 /// that differ, opening them, and keeping the errors of RtMidi away from the host.
@@ -102,5 +105,7 @@ void MidiPort::guarded(Work work)
         onError(RtMidiError::UNSPECIFIED, error.what(), this);
     }
 }
+
+} // namespace Nocturne
 
 #endif

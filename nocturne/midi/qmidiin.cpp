@@ -13,7 +13,7 @@ std::unique_ptr<RtMidiIn> createInput(RtMidi::Api interface)
 
 } // namespace
 
-void receiveMidiMessage(double seconds, std::vector<unsigned char> *bytes, void *input)
+void Nocturne::receiveMidiMessage(double seconds, std::vector<unsigned char> *bytes, void *input)
 {
     if (bytes && !bytes->empty())
         Q_EMIT static_cast<QMidiIn *>(input)->midiMessageReceived(
@@ -22,12 +22,12 @@ void receiveMidiMessage(double seconds, std::vector<unsigned char> *bytes, void 
 
 QMidiIn::QMidiIn(QObject *parent)
     : QObject(parent)
-    , m_port(std::make_unique<MidiPort>("RtMidi Input"))
+    , m_port(std::make_unique<Nocturne::MidiPort>("RtMidi Input"))
 {
     // Queued delivery by a string-based connection finds the type by its name.
     qRegisterMetaType<QMidiMessage>();
     m_device = m_port->createDevice<RtMidiIn>("input", createInput);
-    m_port->guarded([this] { m_device->setCallback(receiveMidiMessage, this); });
+    m_port->guarded([this] { m_device->setCallback(Nocturne::receiveMidiMessage, this); });
 }
 
 QMidiIn::~QMidiIn()

@@ -9,8 +9,11 @@
 
 #include <memory>
 
-class MidiPort;
 class RtMidiIn;
+
+namespace Nocturne {
+class MidiPort;
+} // namespace Nocturne
 
 /// A MIDI input: lists the system's ports, opens one and emits what arrives on it.
 ///
@@ -54,7 +57,7 @@ Q_SIGNALS:
     void midiMessageReceived(QMidiMessage message);
 
 private:
-    std::unique_ptr<MidiPort> m_port; // first: its address is known to the device
+    std::unique_ptr<Nocturne::MidiPort> m_port; // first: its address is known to the device
     std::unique_ptr<RtMidiIn> m_device;
 };
 

@@ -9,9 +9,12 @@
 
 #include <memory>
 
+class RtMidiOut;
+
+namespace Nocturne {
 class JackSender;
 class MidiPort;
-class RtMidiOut;
+} // namespace Nocturne
 
 /// A MIDI output: lists the system's ports, opens one and sends to it.
 ///
@@ -73,9 +76,9 @@ private:
     void finishSending();
     void abandonDevice();
 
-    std::unique_ptr<MidiPort> m_port; // first: its address is known to the device
+    std::unique_ptr<Nocturne::MidiPort> m_port; // first: its address is known to the device
     std::unique_ptr<RtMidiOut> m_device;
-    std::unique_ptr<JackSender> m_sender;
+    std::unique_ptr<Nocturne::JackSender> m_sender;
 };
 
 #endif

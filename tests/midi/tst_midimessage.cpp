@@ -137,7 +137,7 @@ private Q_SLOTS:
     {
         QFETCH(Bytes, bytes);
         QFETCH(Ints, expected);
-        const QMidiMessage message = decodeMidiMessage(0.0125, bytes);
+        const QMidiMessage message = Nocturne::decodeMidiMessage(0.0125, bytes);
         QCOMPARE(fields(message), expected);
         QCOMPARE(message.deltaTime(), 12.5);
     }
@@ -158,7 +158,7 @@ private Q_SLOTS:
             if (kind % 10 == 0 && !bytes.empty())
                 bytes.front() = 0xF0;
 
-            QMidiMessage message = decodeMidiMessage(i * 0.001, bytes);
+            QMidiMessage message = Nocturne::decodeMidiMessage(i * 0.001, bytes);
             const int status = bytes.empty() ? 0 : bytes.front();
             QCOMPARE(message.type(), status < 0xF0 ? status & 0xF0 : status);
             QCOMPARE(message.channel(), status < 0xF0 ? (status & 0x0F) + 1 : 0);
@@ -187,10 +187,11 @@ private Q_SLOTS:
             {"%2,%2", "%2,%2 2"},
             {",", ", 2"}};
         for (const auto &row : rows) {
-            const QMap<int, QString> names = MidiPort::distinctNames(row.first.split(','));
+            const QMap<int, QString> names =
+                Nocturne::MidiPort::distinctNames(row.first.split(','));
             QCOMPARE(QStringList(names.values()).join(','), row.second);
         }
-        QVERIFY(MidiPort::distinctNames({}).isEmpty());
+        QVERIFY(Nocturne::MidiPort::distinctNames({}).isEmpty());
     }
 };
 

@@ -206,7 +206,7 @@ private Q_SLOTS:
               RtMidiError::DRIVER_ERROR, RtMidiError::THREAD_ERROR})
         {
             const Diagnostics diagnostics;
-            MidiPort::report(type, "100% of it %s failed");
+            Nocturne::MidiPort::report(type, "100% of it %s failed");
             const bool written = type != RtMidiError::DEBUG_WARNING;
             const bool logged = written && type != RtMidiError::WARNING;
             QCOMPARE(diagnostics.standardError(),
@@ -242,7 +242,7 @@ private Q_SLOTS:
     void hidesExceptions()
     {
         const Diagnostics diagnostics;
-        MidiPort port("port");
+        Nocturne::MidiPort port("port");
         QVector<RtMidi::Api> tried;
         const auto create = [&tried](RtMidi::Api interface) -> std::unique_ptr<RtMidiOut> {
             tried << interface;
@@ -257,7 +257,7 @@ private Q_SLOTS:
         QCOMPARE(port.portNames(), QStringList());
         QVERIFY(!port.openPort("x") && !port.isOpen());
 
-        MidiPort other("port");
+        Nocturne::MidiPort other("port");
         const auto device = other.createDevice<RtMidiOut>("output", [](RtMidi::Api) {
             return std::make_unique<RtMidiOut>(RtMidi::RTMIDI_DUMMY, "client");
         });
