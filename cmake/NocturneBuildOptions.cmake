@@ -6,17 +6,7 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_AUTOMOC ON)
-
-if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
-  set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
-endif()
-
-# Programs of the build tree find the library where it was built.
-set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
-set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
-set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 
 add_compile_options(-Wall -Wextra -Wpedantic)
 if(NOCTURNE_WARNINGS_AS_ERRORS)
@@ -39,23 +29,23 @@ if(NOCTURNE_SANITIZE)
   add_link_options(-fsanitize=${NOCTURNE_SANITIZE})
 endif()
 
+# The rest is the business of whoever owns the build.
+if(NOT NOCTURNE_TOP_LEVEL)
+  return()
+endif()
+
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+
+# Programs of the build tree find the library where it was built.
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
 endif()
-
-# nocturne_rerun_moc_on_new_files(<target>)
-#
-# A file that a glob has newly found does not by itself make the target's moc step run again.
-function(nocturne_rerun_moc_on_new_files target)
-  get_target_property(sources ${target} SOURCES)
-  set(list_file "${CMAKE_CURRENT_BINARY_DIR}/${target}_sources.txt")
-  set(old_sources "")
-  if(EXISTS "${list_file}")
-    file(READ "${list_file}" old_sources)
-  endif()
-  if(NOT old_sources STREQUAL sources)
-    file(REMOVE "${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp")
-    file(WRITE "${list_file}" "${sources}")
-  endif()
-endfunction()

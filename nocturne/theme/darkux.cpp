@@ -107,7 +107,7 @@ void DarkUX::setPalette(const QPalette &palette, bool)
 
 QString DarkUX::moduleVersion() const
 {
-    return QStringLiteral("libnocturne 4.0.0.12026 b03a92d4");
+    return QStringLiteral("libnocturne " NOCTURNE_VERSION " " NOCTURNE_REVISION);
 }
 
 QColor DarkUX::colorCalc(const QColor &color, int temperature)
