@@ -21,6 +21,8 @@ QString comboBoxKey(const QStyleOptionComboBox *option)
         key += QLatin1String("-editable");
     if (option->state & QStyle::State_Enabled)
         key += QLatin1String("-enabled");
+    if (!option->frame) // it moves the arrow
+        key += QLatin1String("-frameless");
     if (!(option->subControls & QStyle::SC_ComboBoxArrow))
         key += QLatin1String("-noarrow");
     return key;

@@ -206,10 +206,12 @@ void paintTitleBarButton(const TitleBar &bar, QPainter *painter, QStyle::SubCont
     const QRect rect = bar.part(button);
     if (!rect.isValid())
         return;
-    const QSize size = rect.size() + QSize(1, 1); // light falls on what is right of it and below
-    const QString key = titleBarButtonKey(bar, button, size);
-    StyleHelpers::drawCached(painter, rect.topLeft(), key, size, [&](QPainter *cached) {
-        const QRect local(QPoint(), rect.size());
+    // On a dense screen lines start half a unit outside, and light falls on what is right and
+    // below.
+    const QRect kept = rect.adjusted(-1, -1, 1, 1);
+    const QString key = titleBarButtonKey(bar, button, kept.size());
+    StyleHelpers::drawCached(painter, kept.topLeft(), key, kept.size(), [&](QPainter *cached) {
+        const QRect local(rect.topLeft() - kept.topLeft(), rect.size());
         const bool active = bar.option.activeSubControls & button;
         const bool hover = active && bar.option.state & QStyle::State_MouseOver;
         const bool sunken = active && bar.option.state & QStyle::State_Sunken;

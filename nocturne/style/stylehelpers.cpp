@@ -41,6 +41,7 @@ private:
 };
 
 constexpr int sizeUnits = 4;
+constexpr int ratioUnits = 2;
 constexpr int optionUnits = 9;
 constexpr int spinBoxUnits = 3;
 
@@ -255,12 +256,14 @@ qreal dpiScaled(qreal value)
 QString styleCacheKey(const QString &prefix, const QStyleOption *option, const QSize &size)
 {
     const auto *spinBox = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
-    const int units = sizeUnits + (option ? optionUnits : 0) + (spinBox ? spinBoxUnits : 0);
+    const int units =
+        sizeUnits + ratioUnits + (option ? optionUnits : 0) + (spinBox ? spinBoxUnits : 0);
 
     QString key(prefix.size() + units, Qt::Uninitialized);
     KeyWriter writer(std::copy(prefix.cbegin(), prefix.cend(), key.data()));
     writer.put32(static_cast<uint>(size.width()));
     writer.put32(static_cast<uint>(size.height()));
+    writer.put32(static_cast<uint>(qRound(qApp->devicePixelRatio() * 0x10000)));
     if (option)
         writeOption(writer, option);
     if (spinBox)

@@ -37,7 +37,8 @@ qreal dpiScaled(qreal value);
 
 /// Names what \a prefix and every field of \a option that a drawing may depend on look like:
 /// state, direction, active sub-controls, palette, \a size, and for spin boxes the button symbols,
-/// enabled steps and frame. A null option leaves the prefix and the size.
+/// enabled steps and frame. A null option leaves the prefix and the size. The application's device
+/// pixel ratio is part of every key: it changes as screens come and go.
 QString styleCacheKey(const QString &prefix, const QStyleOption *option, const QSize &size);
 
 /// An uninitialised pixmap of \a size units at the application's device pixel ratio.

@@ -1,9 +1,14 @@
 #include "darkfusionstyle.h"
 
-#include <QtCore/QCoreApplication>
+#include <QtCore/QHash>
 #include <QtGui/QIcon>
+#include <QtGui/QIconEngine>
+#include <QtGui/QPainter>
 #include <QtGui/QPixmap>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyleOption>
 
+#include <algorithm>
 #include <array>
 
 // The symbols on the buttons of title bars and dock widgets.
@@ -56,82 +61,122 @@ constexpr Xpm closeSymbol = windowSymbol({
     "@ $@   @$ @",
 });
 
-/// The icons on the buttons of dock widgets, as long as there is an application and it keeps to one
-/// icon theme.
-class DockIcons
+/// A symbol as an icon. On a dense screen it is enlarged by whole numbers, so that its pixels stay
+/// squares: the toolkit's own icons would smear them, or let the symbol grow.
+class SymbolIconEngine : public QIconEngine
 {
 public:
-    static DockIcons &instance()
+    explicit SymbolIconEngine(const QImage &symbol)
+        : m_symbol(symbol)
+    {}
+
+    QIconEngine *clone() const override { return new SymbolIconEngine(m_symbol); }
+    QSize actualSize(const QSize &size, QIcon::Mode, QIcon::State) override
     {
-        static DockIcons icons;
-        return icons;
+        return m_symbol.size().boundedTo(size);
+    }
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) const override
+    {
+        return {m_symbol.size()};
     }
 
-    /// Takes the routine back, which is gone once the library is unloaded.
-    ~DockIcons() { qRemovePostRoutine(clearWithApplication); }
-
-    /// Null until it is assigned.
-    QIcon &icon(QStyle::StandardPixmap which)
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {
-        if (!m_endsWithApplication) {
-            m_endsWithApplication = true;
-            qAddPostRoutine(clearWithApplication);
+        const QSize size = m_symbol.size().boundedTo(rect.size());
+        const qreal ratio = painter->device()->devicePixelRatioF();
+        painter->drawPixmap(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, rect),
+                            enlarged(std::max(1, static_cast<int>(ratio)), mode));
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State) override
+    {
+        const QPixmap whole = enlarged(1, mode);
+        const bool fits = whole.size().boundedTo(size) == whole.size();
+        return fits ? whole : whole.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    }
+
+    void virtual_hook(int id, void *data) override
+    {
+        if (id != ScaledPixmapHook) {
+            QIconEngine::virtual_hook(id, data);
+            return;
         }
-        if (m_theme != QIcon::themeName())
-            clear();
-        return which == QStyle::SP_TitleBarCloseButton ? m_close : m_float;
+        auto *wanted = static_cast<ScaledPixmapArgument *>(data);
+        const int factor =
+            std::min({static_cast<int>(wanted->scale), wanted->size.width() / m_symbol.width(),
+                      wanted->size.height() / m_symbol.height()});
+        wanted->pixmap = factor > 1 ? centred(enlarged(factor, wanted->mode), factor, wanted->size)
+                                    : pixmap(wanted->size, wanted->mode, wanted->state);
     }
 
 private:
-    static void clearWithApplication()
+    QPixmap enlarged(int factor, QIcon::Mode mode) const
     {
-        instance().clear();
-        instance().m_endsWithApplication = false;
+        QStyleOption option;
+        option.palette = QGuiApplication::palette();
+        const QPixmap pixmap = QPixmap::fromImage(m_symbol.scaled(m_symbol.size() * factor));
+        return mode == QIcon::Normal
+                   ? pixmap
+                   : QApplication::style()->generatedIconPixmap(mode, pixmap, &option);
     }
 
-    void clear()
+    /// In the middle of \a size pixels, or the toolkit would take it for one of low density; at the
+    /// unit where it stands on other screens.
+    static QPixmap centred(const QPixmap &symbol, int factor, const QSize &size)
     {
-        m_theme = QIcon::themeName();
-        m_close = QIcon();
-        m_float = QIcon();
+        QPixmap canvas(size);
+        canvas.fill(Qt::transparent);
+        const QRect units(QPoint(), size / factor);
+        const QRect place =
+            QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, symbol.size() / factor, units);
+        QPainter(&canvas).drawPixmap(place.topLeft() * factor, symbol);
+        return canvas;
     }
 
-    bool m_endsWithApplication = false;
-    QString m_theme;
-    QIcon m_close;
-    QIcon m_float;
+    QImage m_symbol;
 };
+
+const Xpm *symbolOf(QStyle::StandardPixmap pixmap)
+{
+    switch (pixmap) {
+    case QStyle::SP_TitleBarMinButton:
+        return &minimizeSymbol;
+    case QStyle::SP_TitleBarNormalButton:
+        return &restoreSymbol;
+    case QStyle::SP_TitleBarCloseButton:
+    case QStyle::SP_DockWidgetCloseButton:
+        return &closeSymbol;
+    default:
+        return nullptr;
+    }
+}
+
+/// A dock widget's title asks for the icons of its buttons at each paint: they are made once.
+QIcon symbolIcon(const Xpm *symbol)
+{
+    static QHash<const Xpm *, QIcon> icons;
+    QIcon &icon = icons[symbol];
+    if (icon.isNull())
+        icon = QIcon(new SymbolIconEngine(QImage(symbol->data())));
+    return icon;
+}
 
 } // namespace
 
 QPixmap DarkFusionStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption *option,
                                         const QWidget *widget) const
 {
-    switch (pixmap) {
-    case SP_TitleBarMinButton:
-        return QPixmap(minimizeSymbol.data());
-    case SP_TitleBarNormalButton:
-        return QPixmap(restoreSymbol.data());
-    case SP_TitleBarCloseButton:
-    case SP_DockWidgetCloseButton:
-        return QPixmap(closeSymbol.data());
-    default:
-        return QCommonStyle::standardPixmap(pixmap, option, widget);
-    }
+    if (const Xpm *symbol = symbolOf(pixmap))
+        return QPixmap(symbol->data());
+    return QCommonStyle::standardPixmap(pixmap, option, widget);
 }
 
 QIcon DarkFusionStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
                                     const QWidget *widget) const
 {
-    // A dock widget's title asks for its buttons' icons at each paint, and the common style reads
-    // them from files.
-    if (icon != SP_TitleBarCloseButton && icon != SP_TitleBarNormalButton)
-        return QCommonStyle::standardIcon(icon, option, widget);
-    DockIcons &icons = DockIcons::instance();
-    QIcon &kept = icons.icon(icon);
-    if (kept.isNull())
-        kept = QCommonStyle::standardIcon(icon, option, widget);
-    return kept;
+    if (const Xpm *symbol = symbolOf(icon))
+        return symbolIcon(symbol);
+    return QCommonStyle::standardIcon(icon, option, widget);
 }
 
 QPixmap DarkFusionStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,

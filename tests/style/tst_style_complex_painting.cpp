@@ -50,6 +50,7 @@ private Q_SLOTS:
     void spinBox();
     void spinBoxArrows();
     void comboBox();
+    void framelessComboBox();
     void editableComboBox_data();
     void editableComboBox();
     void transientScrollBar();
@@ -200,6 +201,18 @@ void TestStyleComplexPainting::comboBox()
         QCOMPARE(side.rect, QRect(QPoint(left, 0), QPoint(119, 25)));
         QCOMPARE(side.state, open.state | QStyle::State_KeyboardFocusChange);
     }
+}
+
+/// Without its frame a box has its arrow elsewhere, and does not share the other's drawing.
+void TestStyleComplexPainting::framelessComboBox()
+{
+    auto option = makeComplex<QStyleOptionComboBox>(QRect(0, 0, 120, 26));
+    const QImage framed = paint(QStyle::CC_ComboBox, option);
+    option.frame = false;
+    const QImage frameless = paint(QStyle::CC_ComboBox, option);
+    QVERIFY(frameless != framed);
+    QPixmapCache::clear();
+    QCOMPARE(paint(QStyle::CC_ComboBox, option), frameless);
 }
 
 void TestStyleComplexPainting::editableComboBox_data()
@@ -674,6 +687,14 @@ void TestStyleComplexPainting::titleBarButtonStates()
     const int hovered = change(QStyle::SC_TitleBarCloseButton, {});
     QVERIFY(hovered > 8 && hovered < 16); // a twelfth of the way to white
     QVERIFY(change(QStyle::SC_TitleBarCloseButton, QStyle::State_Sunken) < 0);
+
+    // A line on a dense screen starts half a unit outside.
+    const QImage image = paint(QStyle::CC_TitleBar, option);
+    const int ratio = qRound(qApp->devicePixelRatio());
+    for (int pixel = 0; pixel < ratio; ++pixel) {
+        COMPARE_PIXEL(image, 276 * ratio - ratio / 2 + pixel, 12 * ratio, highlight.darker(180));
+        COMPARE_PIXEL(image, 285 * ratio, 3 * ratio - ratio / 2 + pixel, highlight.darker(180));
+    }
 }
 
 void TestStyleComplexPainting::dial_data()

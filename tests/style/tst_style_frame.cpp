@@ -136,6 +136,7 @@ private Q_SLOTS:
 
     void subElementRects();
     void standardPixmaps();
+    void standardIcons();
 
     void polishing();
     void palettes();
@@ -385,6 +386,32 @@ void tst_StyleFrame::standardPixmaps()
 
     QVERIFY(!m_style.standardPixmap(QStyle::SP_DirIcon).isNull());
     QVERIFY(!m_style.standardIcon(QStyle::SP_DialogCloseButton).isNull());
+}
+
+/// The icons of the window buttons are their pixmaps, each pixel a square of device pixels.
+void tst_StyleFrame::standardIcons()
+{
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    for (QStyle::StandardPixmap button :
+         {QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton,
+          QStyle::SP_TitleBarCloseButton, QStyle::SP_DockWidgetCloseButton})
+    {
+        const QIcon icon = m_style.standardIcon(button);
+        const QPixmap expected = m_style.standardPixmap(button);
+        const auto draw = [&](const QPixmap &pixmap) {
+            return StylePainting::picture([&](QPainter &painter) {
+                m_style.drawItemPixmap(&painter, QRect(2, 2, 16, 16), Qt::AlignCenter, pixmap);
+            });
+        };
+        QCOMPARE(draw(icon.pixmap(16, 16)), draw(expected));
+        QCOMPARE(StylePainting::picture(
+                     [&](QPainter &painter) { icon.paint(&painter, QRect(2, 2, 16, 16)); }),
+                 draw(expected));
+        QCOMPARE(icon.actualSize(QSize(16, 16)), QSize(11, 13));
+        QVERIFY(icon.pixmap(8, 8).width() <= 8 * qApp->devicePixelRatio());
+        QVERIFY(draw(icon.pixmap(16, 16, QIcon::Disabled)) != draw(expected));
+    }
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, false);
 }
 
 void tst_StyleFrame::polishing()

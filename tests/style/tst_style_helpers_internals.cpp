@@ -8,6 +8,9 @@
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 
+#include <private/qguiapplication_p.h>
+#include <private/qhighdpiscaling_p.h>
+
 #include <memory>
 
 // The hidden tools that all paint functions of the style share.
@@ -49,6 +52,7 @@ private Q_SLOTS:
 
     void cacheKeys();
     void keptDrawings();
+    void keptDrawingsFollowTheScreen();
     void cachedDrawingIsPaintedOnce();
     void uncacheableDrawingIsPaintedInPlace();
 
@@ -206,6 +210,35 @@ void tst_StyleHelpers::keptDrawings()
     compare("progressbusy", progress, progress.rect, [&](QPainter &painter) {
         style->drawControl(QStyle::CE_ProgressBarContents, &progress, &painter);
     });
+}
+
+/// A dense screen is plugged in: what was kept for the old one is not drawn on it.
+void tst_StyleHelpers::keptDrawingsFollowTheScreen()
+{
+    const DarkFusionStyle style;
+    const auto button = makeOption<QStyleOptionButton>(QRect(2, 2, 40, 24));
+    auto titleBar = makeTitleBar(QStyle::State_Active, Qt::WindowSystemMenuHint);
+    titleBar.rect = everything;
+    const auto draw = [&] {
+        return picture([&](QPainter &painter) {
+            style.drawComplexControl(QStyle::CC_TitleBar, &titleBar, &painter);
+            style.drawPrimitive(QStyle::PE_PanelButtonCommand, &button, &painter);
+            style.drawPrimitive(QStyle::PE_IndicatorArrowDown, &button, &painter);
+        });
+    };
+    const auto setScale = [](qreal scale) {
+        QHighDpiScaling::setGlobalFactor(scale);
+        QGuiApplicationPrivate::resetCachedDevicePixelRatio();
+    };
+    const qreal scale = qApp->devicePixelRatio();
+    draw();
+    setScale(scale + 1);
+    QCOMPARE(qApp->devicePixelRatio(), scale + 1);
+    const QImage kept = draw();
+    QPixmapCache::clear();
+    const QImage fresh = draw();
+    setScale(scale);
+    QCOMPARE(kept, fresh);
 }
 
 void tst_StyleHelpers::cachedDrawingIsPaintedOnce()
