@@ -1,30 +1,50 @@
 #ifndef NOCTURNE_GESTUREEND_P_H
 #define NOCTURNE_GESTUREEND_P_H
 
-#include <QtCore/QEvent>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QWidget>
+#include <QtCore/QObject>
+
+#include <functional>
+
+class QWidget;
 
 namespace Nocturne {
 
-/// Whether after \a event the release of a button pressed on \a widget may never arrive, so that a
-/// drag has to end now: the widget is hidden, disabled, or shut out by a modal window. A window
-/// that merely loses the focus still gets the rest of the drag.
-inline bool endsGesture(const QEvent *event, const QWidget *widget)
+/// Whether \a event, on its way to \a widget, takes the pointer away in the middle of a drag or
+/// shows that its button is up already: the widget is hidden, disabled or shut out by a modal
+/// window, or the pointer comes without a button. A window that merely loses the focus still gets
+/// the rest of the drag. No event tells a widget of a popup; Gesture knows of those as well.
+bool endsGesture(const QEvent *event, const QWidget *widget);
+
+/// What one hand does to a widget, from the first button that goes down to the last that comes up.
+///
+/// The widget tells of its buttons. While one is held, whatever keeps its release from arriving
+/// ends the gesture and calls the function given, once: what endsGesture() knows, a popup that
+/// opens, or a second press of the same button.
+class Gesture : public QObject
 {
-    switch (event->type()) {
-    case QEvent::Hide:
-        return true;
-    case QEvent::EnabledChange:
-        return !widget->isEnabled();
-    case QEvent::WindowDeactivate: {
-        const QWidget *modal = QApplication::activeModalWidget();
-        return modal && modal != widget->window() && !modal->isAncestorOf(widget->window());
-    }
-    default:
-        return false;
-    }
-}
+public:
+    /// \a widget outlives the gesture, which belongs to it.
+    Gesture(QWidget *widget, std::function<void()> interrupted);
+
+    bool isRunning() const { return m_held != Qt::NoButton; }
+
+    /// \a button went down.
+    void press(Qt::MouseButton button);
+    /// \a button came up. Returns whether that was the end of the gesture.
+    bool release(Qt::MouseButton button);
+    /// The gesture is over, whatever is held.
+    void end();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool isInterruptedBy(const QObject *watched, const QEvent *event) const;
+
+    QWidget *m_widget;
+    std::function<void()> m_interrupted;
+    Qt::MouseButtons m_held;
+    bool m_isReal = false; ///< made by a pointer that the application knows of
+};
 
 } // namespace Nocturne
 

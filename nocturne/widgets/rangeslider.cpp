@@ -1,6 +1,5 @@
 #include "rangeslider.h"
 
-#include "gestureend_p.h"
 #include "groovemapping_p.h"
 #include "handleaccessible_p.h"
 #include "rangeslider_p.h"
@@ -13,6 +12,7 @@
 #include <QtWidgets/QStylePainter>
 #include <QtWidgets/QToolTip>
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -23,11 +23,12 @@ constexpr int barAlpha = 200;
 constexpr int hoveredBarAlpha = 255;
 constexpr qreal barRadius = 2.0;
 
-/// A slider position no handle can be at, for painting the groove alone.
+/// A slider position no handle can be at, for painting the groove alone: below the range, also
+/// when all of it is below zero.
 int outsideRange(int minimum, int maximum)
 {
-    const qint64 position = qint64(minimum) - maximum;
-    return int(qMax<qint64>(position, std::numeric_limits<int>::min()));
+    const qint64 position = static_cast<qint64>(minimum) - std::max(maximum, 1);
+    return static_cast<int>(std::max<qint64>(position, std::numeric_limits<int>::min()));
 }
 
 /// Bar and handles are painted smoothly and half a unit off the pixel grid. Undone at the end of
@@ -295,7 +296,7 @@ void RangeSlider::setFrameRate(double framesPerSecond)
 
 bool RangeSlider::isMousePressed() const
 {
-    return m_mousePressed;
+    return m_private->gesture.isRunning();
 }
 
 bool RangeSlider::isKeyPressed() const
@@ -311,12 +312,17 @@ bool RangeSlider::event(QEvent *event)
         event->accept();
         return true;
     }
-    if (event->type() == QEvent::FocusOut)
-        m_keyPressed = false; // The release goes elsewhere now.
-    if (Nocturne::endsGesture(event, this)) {
+    switch (event->type()) {
+    case QEvent::FocusOut: // The release goes elsewhere now.
+    case QEvent::Hide:
+    case QEvent::WindowBlocked:
         m_keyPressed = false;
-        if (m_mousePressed)
-            endGesture();
+        break;
+    case QEvent::EnabledChange:
+        m_keyPressed = m_keyPressed && isEnabled();
+        break;
+    default:
+        break;
     }
     return QSlider::event(event);
 }
@@ -327,7 +333,7 @@ void RangeSlider::mousePressEvent(QMouseEvent *event)
         return;
 
     RangeSliderPrivate *d = d_func();
-    m_mousePressed = true;
+    d->gesture.press(event->button());
     d->gestureChangedValue = false;
     if (minimum() == maximum() || event->button() != event->buttons()) {
         event->ignore();
@@ -336,8 +342,8 @@ void RangeSlider::mousePressEvent(QMouseEvent *event)
 
     const RangeSliderPrivate::Hit hit = d->hitTest(event->pos());
     Q_EMIT mousePressed(hit.handle);
-    if (!m_mousePressed)
-        return; // A receiver hid or disabled the slider, which ended the gesture.
+    if (!isMousePressed())
+        return; // A receiver hid the slider or opened a popup, which ended the gesture.
 
     if (hit.handle != RangeSliderPrivate::NoHandle && d->isHandleEnabled(hit.handle))
         d->grab(hit.handle, hit.rect, event->pos());
@@ -348,7 +354,7 @@ void RangeSlider::mousePressEvent(QMouseEvent *event)
 
 void RangeSlider::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_mousePressed)
+    if (!isMousePressed())
         return;
 
     RangeSliderPrivate *d = d_func();
@@ -373,7 +379,7 @@ void RangeSlider::mouseReleaseEvent(QMouseEvent *event)
 void RangeSlider::endGesture()
 {
     RangeSliderPrivate *d = d_func();
-    m_mousePressed = false;
+    d->gesture.end();
     Q_EMIT mouseReleased(d->selectedHandles);
     setSliderDown(false);
     d->selectedHandles = RangeSliderPrivate::NoHandle;
@@ -540,7 +546,7 @@ void RangeSliderPrivate::grab(Handle handle, const QRect &handleRect, const QPoi
     pressPosition = position(handle);
     clickOffset = along(point) - along(handleRect.topLeft());
     q_ptr->setSliderDown(true);
-    if (!q_ptr->m_mousePressed)
+    if (!gesture.isRunning())
         return; // A receiver ended the gesture.
     if (selectedHandles != handle) {
         selectedHandles = handle;
@@ -556,13 +562,13 @@ void RangeSliderPrivate::jumpTo(const QPoint &point)
     const Triple before = values();
     q_ptr->setValues(minimumPosition, maximumPosition, mapping.valueAtMiddle(along(point)));
     gestureChangedValue = values() != before;
-    if (!q_ptr->m_mousePressed)
+    if (!gesture.isRunning())
         return;
 
     pressPosition = mainPosition;
     clickOffset = along(point) - along(hitTest(point).rect.topLeft());
     q_ptr->setSliderDown(true);
-    if (!q_ptr->m_mousePressed)
+    if (!gesture.isRunning())
         return;
     selectedHandles = MainHandle;
     q_ptr->update();

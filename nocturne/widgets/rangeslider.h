@@ -88,9 +88,9 @@ public:
     double frameRate() const;
     void setFrameRate(double framesPerSecond);
 
-    /// Whether the left button went down on the slider and no button has come up since. Also false
-    /// once the slider is hidden, disabled or shut out by a modal window, which ends a drag as a
-    /// release does.
+    /// Whether the left button went down on the slider and no button has come up since. Whatever
+    /// takes the pointer away ends a drag as a release does: the slider is hidden, disabled or shut
+    /// out by a modal window, a popup opens, or the pointer returns without a button.
     bool isMousePressed() const;
 
     /// Whether a key went down on the slider and none has come up since. Also false once the slider
@@ -180,7 +180,6 @@ private:
     void endGesture();
 
     QScopedPointer<RangeSliderPrivate> m_private;
-    bool m_mousePressed = false;
     bool m_keyPressed = false;
     bool m_rangeEnabled = false;
     double m_frameRate = 25.0;

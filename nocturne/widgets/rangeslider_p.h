@@ -1,6 +1,8 @@
 #ifndef NOCTURNE_RANGESLIDER_P_H
 #define NOCTURNE_RANGESLIDER_P_H
 
+#include "gestureend_p.h"
+
 #include <nocturne/painting/paintsample_p.h>
 
 #include <nocturne/widgets/rangeslider.h>
@@ -46,6 +48,7 @@ public:
 
     explicit RangeSliderPrivate(RangeSlider *slider)
         : q_ptr(slider)
+        , gesture(slider, [slider] { slider->endGesture(); })
     {}
     virtual ~RangeSliderPrivate() = default;
 
@@ -78,6 +81,7 @@ public:
     void drawHandle(QStylePainter *painter, Handle handle) const;
 
     RangeSlider *q_ptr;
+    Nocturne::Gesture gesture;
     int maximumValue = 0;
     int minimumValue = 0;
     int mainValue = 50;

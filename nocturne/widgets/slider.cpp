@@ -7,12 +7,14 @@
 
 Slider::Slider(QWidget *parent)
     : QSlider(parent)
+    , m_gesture(new Nocturne::Gesture(this, [this] { letGo(); }))
 {
     setAttribute(Qt::WA_MouseTracking);
 }
 
 Slider::Slider(Qt::Orientation orientation, QWidget *parent)
     : QSlider(orientation, parent)
+    , m_gesture(new Nocturne::Gesture(this, [this] { letGo(); }))
 {
     setAttribute(Qt::WA_MouseTracking);
 }
@@ -22,6 +24,16 @@ Slider::~Slider() = default;
 void Slider::setEnableDirectJump(bool enable)
 {
     m_directJump = enable;
+}
+
+void Slider::setJumpButtons(Qt::MouseButtons buttons)
+{
+    m_jumpButtons = buttons;
+}
+
+Qt::MouseButtons Slider::jumpButtons() const
+{
+    return m_jumpButtons;
 }
 
 void Slider::setKeyPressed(bool pressed)
@@ -36,7 +48,7 @@ bool Slider::isKeyPressed() const
 
 bool Slider::isMousePressed() const
 {
-    return m_mousePressed;
+    return m_gesture->isRunning();
 }
 
 void Slider::positionChange(int value)
@@ -52,24 +64,38 @@ bool Slider::event(QEvent *event)
     case QEvent::Wheel:
         event->ignore();
         return true;
-    case QEvent::MouseButtonPress:
-        m_firstChange = true;
-        m_mousePressed = true;
+    case QEvent::MouseButtonPress: {
+        const Qt::MouseButton button = static_cast<QMouseEvent *>(event)->button();
+        if (!m_jumpButtons.testFlag(button)) {
+            event->ignore();
+            return true;
+        }
+        if (isEnabled()) {
+            m_firstChange = m_firstChange || !isMousePressed(); // Later buttons start nothing.
+            m_gesture->press(button);
+        }
         break;
-    case QEvent::MouseButtonRelease:
-        m_firstChange = false;
-        m_mousePressed = false;
+    }
+    case QEvent::MouseButtonRelease: {
+        auto *release = static_cast<QMouseEvent *>(event);
+        // The base class goes on as long as any button is held, also one that was not taken.
+        if (m_gesture->release(release->button()) && release->buttons() != Qt::NoButton)
+            letGo();
         break;
+    }
     case QEvent::KeyPress:
-        m_keyPressed = true;
+        m_keyPressed = isEnabled();
         break;
     case QEvent::KeyRelease:
     case QEvent::FocusOut: // The release goes elsewhere now.
+    case QEvent::Hide:
+    case QEvent::WindowBlocked:
         m_keyPressed = false;
         break;
+    case QEvent::EnabledChange:
+        m_keyPressed = m_keyPressed && isEnabled();
+        break;
     default:
-        if (Nocturne::endsGesture(event, this))
-            endGesture();
         break;
     }
     return QSlider::event(event);
@@ -77,19 +103,25 @@ bool Slider::event(QEvent *event)
 
 void Slider::mousePressEvent(QMouseEvent *event)
 {
-    const bool wasPressed = m_mousePressed;
+    const bool wasPressed = isMousePressed();
+    // A receiver that hides or disables the slider or opens a popup ends the gesture.
+    const auto gestureEnded = [this, wasPressed] { return wasPressed && !isMousePressed(); };
     Q_EMIT mousePressed();
-    if (wasPressed && !m_mousePressed)
-        return; // A receiver hid or disabled the slider, which ended the gesture.
+    if (gestureEnded())
+        return;
 
     if (m_directJump)
         setValue(valueForClick(event->pos().x()));
+    if (gestureEnded())
+        return;
     QSlider::mousePressEvent(event);
+    if (gestureEnded())
+        letGo();
 }
 
 void Slider::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_mousePressed && m_directJump) {
+    if (!isMousePressed() && m_directJump) {
         const QPoint pos = event->pos();
         const int value =
             QStyle::sliderValueFromPosition(minimum(), maximum(), pos.x(), width(), false);
@@ -121,7 +153,8 @@ void Slider::resizeEvent(QResizeEvent *) {}
 
 void Slider::sliderChange(SliderChange change)
 {
-    if (change == SliderValueChange && m_mousePressed) {
+    // What nobody hears of leaves the first change to be reported.
+    if (change == SliderValueChange && isMousePressed() && !signalsBlocked()) {
         const bool firstChange = m_firstChange;
         m_firstChange = false;
         Q_EMIT valueChanged(value(), firstChange);
@@ -138,11 +171,8 @@ int Slider::valueForClick(int x) const
 
 /// Lets go of the handle as a release would. The toolkit keeps what it holds on to private, and a
 /// release is the only thing that makes it forget.
-void Slider::endGesture()
+void Slider::letGo()
 {
-    m_firstChange = false;
-    m_mousePressed = false;
-    m_keyPressed = false;
     QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), Qt::LeftButton, Qt::NoButton,
                         Qt::NoModifier);
     QSlider::mouseReleaseEvent(&release);

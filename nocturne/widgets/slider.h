@@ -3,7 +3,12 @@
 
 #include <nocturne/nocturneglobal.h>
 
+#include <QtCore/QScopedPointer>
 #include <QtWidgets/QSlider>
+
+namespace Nocturne {
+class Gesture;
+}
 
 /// A slider for value controls: it jumps to where it is clicked, tells one mouse gesture from the
 /// next, reports the value under a hovering mouse and leaves the wheel to its parent.
@@ -37,6 +42,12 @@ public:
     /// The place is measured along x, on a vertical slider too.
     void setEnableDirectJump(bool enable);
 
+    /// The buttons that the slider takes, all at first. Any other changes neither its value nor its
+    /// flags, emits no mousePressed() and goes to the parent: leave out Qt::RightButton to open a
+    /// menu of your own. Buttons that are held meanwhile end their gesture as they began it.
+    void setJumpButtons(Qt::MouseButtons buttons);
+    Qt::MouseButtons jumpButtons() const;
+
     /// Overrides isKeyPressed() until the next key event, for hosts that handle keys themselves.
     void setKeyPressed(bool pressed);
 
@@ -44,8 +55,10 @@ public:
     /// loses the focus, is hidden or disabled.
     bool isKeyPressed() const;
 
-    /// Whether a mouse button went down on the slider and none has come up since. Also false once
-    /// the slider is hidden, disabled or shut out by a modal window, which ends a drag.
+    /// Whether a gesture is on: from the first mouse button that goes down on the slider to the
+    /// last that comes up. Whatever takes the pointer away ends it too: the slider is hidden,
+    /// disabled or shut out by a modal window, a popup opens, or the pointer returns without a
+    /// button.
     bool isMousePressed() const;
 
 public Q_SLOTS:
@@ -54,9 +67,10 @@ public Q_SLOTS:
     void positionChange(int value);
 
 Q_SIGNALS:
-    /// The value changed while isMousePressed(). \a firstChange is true for the first change after
-    /// the button went down, usually the jump to the clicked place, and false for every further
-    /// one. Changes by keys and by calls emit QSlider::valueChanged(int) alone.
+    /// The value changed while isMousePressed(). \a firstChange is true for the first change of the
+    /// gesture, usually the jump to the clicked place, and false for every further one, also when
+    /// more buttons go down meanwhile. Changes by keys and by calls emit
+    /// QSlider::valueChanged(int) alone while no button is held.
     void valueChanged(double value, bool firstChange);
 
     /// The mouse moved over the slider without a button, onto another \a value than before. The
@@ -82,10 +96,11 @@ protected:
 
 private:
     int valueForClick(int x) const;
-    void endGesture();
+    void letGo();
 
+    QScopedPointer<Nocturne::Gesture> m_gesture;
+    Qt::MouseButtons m_jumpButtons = Qt::AllButtons;
     bool m_firstChange = true;
-    bool m_mousePressed = false;
     bool m_keyPressed = false;
     bool m_directJump = true;
     int m_lastHoverValue = 0;

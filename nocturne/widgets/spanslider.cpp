@@ -15,6 +15,7 @@
 
 SpanSlider::SpanSlider(QWidget *parent)
     : QSlider(parent)
+    , m_gesture(new Nocturne::Gesture(this, [this] { endGesture(); }))
     , m_spanSample(new Nocturne::PaintSample)
 {
     initialize();
@@ -22,6 +23,7 @@ SpanSlider::SpanSlider(QWidget *parent)
 
 SpanSlider::SpanSlider(Qt::Orientation orientation, QWidget *parent)
     : QSlider(orientation, parent)
+    , m_gesture(new Nocturne::Gesture(this, [this] { endGesture(); }))
     , m_spanSample(new Nocturne::PaintSample)
 {
     initialize();
@@ -167,7 +169,7 @@ void SpanSlider::triggerAction(SliderAction action, bool main)
         moves = false;
         break;
     default:
-        qWarning("QxtSpanSliderPrivate::triggerAction: Unknown action");
+        qWarning("SpanSlider::triggerAction: Unknown action");
         moveUpper = false;
         break;
     }
@@ -250,6 +252,8 @@ void SpanSlider::handleMousePress(const QPoint &pos, QStyle::SubControl &control
         m_pressValue = value;
         m_offset = pick(pos - rect.topLeft());
         m_lastPressed = handle;
+        if (!m_gesture->isRunning())
+            m_gesture->press(Qt::LeftButton);
         setSliderDown(true);
     }
     if (control != oldControl)
@@ -291,13 +295,6 @@ bool SpanSlider::isHandleDown() const
     return m_lowerPressed == QStyle::SC_SliderHandle || m_upperPressed == QStyle::SC_SliderHandle;
 }
 
-bool SpanSlider::event(QEvent *event)
-{
-    if (Nocturne::endsGesture(event, this) && isHandleDown())
-        endGesture();
-    return QSlider::event(event);
-}
-
 void SpanSlider::keyPressEvent(QKeyEvent *event)
 {
     QAbstractSlider::keyPressEvent(event);
@@ -335,10 +332,13 @@ void SpanSlider::mousePressEvent(QMouseEvent *event)
         return;
     }
     m_firstMovement = true;
+    m_gesture->press(event->button());
     handleMousePress(event->pos(), m_upperPressed, m_upper, UpperHandle);
-    const bool gestureEnded = !m_firstMovement; // A receiver hid or disabled the slider.
-    if (!gestureEnded && m_upperPressed != QStyle::SC_SliderHandle)
+    // A receiver that hides the slider or opens a popup ends the gesture.
+    if (m_gesture->isRunning() && m_upperPressed != QStyle::SC_SliderHandle)
         handleMousePress(event->pos(), m_lowerPressed, m_lower, LowerHandle);
+    if (!isHandleDown())
+        m_gesture->end();
     event->accept();
 }
 
@@ -378,10 +378,12 @@ void SpanSlider::mouseReleaseEvent(QMouseEvent *event)
 
 void SpanSlider::endGesture()
 {
-    setSliderDown(false);
+    // Before anything is reported: nothing may be dragged any more while a receiver works.
+    m_gesture->end();
     m_lowerPressed = QStyle::SC_None;
     m_upperPressed = QStyle::SC_None;
     m_firstMovement = false;
+    setSliderDown(false);
     update();
 }
 

@@ -10,6 +10,7 @@
 class QStylePainter;
 
 namespace Nocturne {
+class Gesture;
 class PaintSample;
 }
 
@@ -24,6 +25,9 @@ class PaintSample;
 /// along the slider move one handle, the main control, and those across it the other one; which is
 /// which changes when the handles pass each other. The wheel moves nothing. Owned by its parent
 /// like every widget.
+///
+/// Whatever takes the pointer away ends a drag as a release does: the slider is hidden, disabled or
+/// shut out by a modal window, a popup opens, or the pointer returns without a button.
 ///
 /// \code
 /// auto *band = new SpanSlider(Qt::Horizontal, panel);
@@ -131,7 +135,6 @@ Q_SIGNALS:
     void upperPositionChanged(int upper);
 
 protected:
-    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -166,6 +169,7 @@ private:
     HandleMovementMode m_movement = FreeMovement;
     bool m_firstMovement = false;
     bool m_blockTracking = false;
+    QScopedPointer<Nocturne::Gesture> m_gesture;
     QScopedPointer<Nocturne::PaintSample> m_spanSample;
 };
 

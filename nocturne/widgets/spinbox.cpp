@@ -10,6 +10,7 @@
 
 SpinBox::SpinBox(QWidget *parent)
     : QSpinBox(parent)
+    , m_gesture(new Nocturne::Gesture(this, [this] { abandonDrag(); }))
 {
     setButtonSymbols(QAbstractSpinBox::NoButtons);
     setAttribute(Qt::WA_MacShowFocusRect, false);
@@ -66,6 +67,7 @@ void SpinBox::dragStart(QMouseEvent *event)
     m_moved = false;
     m_firstStep = true;
     m_dragging = true;
+    m_gesture->press(event->button());
     grabMouse();
 }
 
@@ -100,6 +102,7 @@ void SpinBox::dragMove(QMouseEvent *event)
 
 void SpinBox::dragEnd(QMouseEvent *event)
 {
+    m_gesture->end();
     m_dragging = false;
     m_moved = false;
     if (isDragging() && event->button() == Qt::LeftButton) {
@@ -155,9 +158,6 @@ bool SpinBox::filterOwnEvent(QEvent *event)
             lineEdit()->setReadOnly(false);
         break;
     case QEvent::FocusOut:
-        // A popup takes the release.
-        if (m_dragging && static_cast<QFocusEvent *>(event)->reason() == Qt::PopupFocusReason)
-            abandonDrag();
         if (!isCursorInside())
             lineEdit()->setReadOnly(true);
         break;
@@ -233,13 +233,6 @@ QString SpinBox::textFromValue(int value) const
 void SpinBox::paintEvent(QPaintEvent *event)
 {
     QAbstractSpinBox::paintEvent(event);
-}
-
-bool SpinBox::event(QEvent *event)
-{
-    if (Nocturne::endsGesture(event, this))
-        abandonDrag();
-    return QSpinBox::event(event);
 }
 
 bool SpinBox::isCursorInside() const

@@ -4,9 +4,14 @@
 #include <nocturne/nocturneglobal.h>
 
 #include <QtCore/QPoint>
+#include <QtCore/QScopedPointer>
 #include <QtWidgets/QSpinBox>
 
 class QMouseEvent;
+
+namespace Nocturne {
+class Gesture;
+}
 
 /// A whole number that is changed by dragging across it, like a jog control.
 ///
@@ -14,6 +19,9 @@ class QMouseEvent;
 /// with Ctrl, half as fast with Shift. A click without a drag turns the field into an ordinary
 /// text field, as does keyboard focus; it returns to dragging when it loses focus or when the
 /// pointer moves over it or one of its siblings. The mouse wheel is left to the parent.
+///
+/// Whatever takes the pointer away ends a drag where it is: the spin box is hidden, disabled or
+/// shut out by a modal window, a popup opens, or the pointer comes without a button.
 ///
 /// In relative mode the field shows "--" instead of a number, for a selection whose values differ.
 ///
@@ -68,7 +76,6 @@ Q_SIGNALS:
 protected:
     QString textFromValue(int value) const override;
     void paintEvent(QPaintEvent *event) override;
-    bool event(QEvent *event) override;
 
 private:
     bool filterOwnEvent(QEvent *event);
@@ -82,6 +89,7 @@ private:
     void showCursor(Qt::CursorShape shape);
     void dropCursor();
 
+    QScopedPointer<Nocturne::Gesture> m_gesture;
     QPoint m_lastPos;
     bool m_moved = false;
     bool m_firstStep = true;

@@ -6,21 +6,24 @@
 #include <QtGui/QMouseEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QAction>
 #include <QtWidgets/QDialog>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QStyleFactory>
 #include <QtWidgets/QStyleOptionSlider>
 
 #include <memory>
+#include <utility>
 
 namespace TestSupport {
 
 /// Whether \a widget takes a mouse event with exactly these buttons.
 inline bool sendMouse(QWidget *widget, QEvent::Type type, const QPoint &position,
-                      Qt::MouseButton button, Qt::MouseButtons buttons)
+                      Qt::MouseButton button, Qt::MouseButtons buttons,
+                      Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
-    QMouseEvent event(type, position, widget->mapToGlobal(position), button, buttons,
-                      Qt::NoModifier);
+    QMouseEvent event(type, position, widget->mapToGlobal(position), button, buttons, modifiers);
     QCoreApplication::sendEvent(widget, &event);
     return event.isAccepted();
 }
@@ -79,29 +82,20 @@ inline bool nothingIsHeld()
     return !QApplication::overrideCursor() && !QWidget::mouseGrabber();
 }
 
-/// The ways to take a widget away from under a pressed button, as rows for interrupt().
-inline void addInterruptions()
+/// Rows of a script for run() and what it notes.
+inline void addScripts(std::initializer_list<std::pair<const char *, const char *>> rows)
 {
-    QTest::addColumn<QString>("how");
-    for (const char *how : {"hidden", "disabled", "modal window"})
-        QTest::newRow(how) << QString(how);
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("log");
+    for (const auto &row : rows)
+        QTest::newRow(row.first) << QString(row.first) << QString(row.second);
 }
 
-/// The window that shuts \a widget out, or none.
-inline std::unique_ptr<QDialog> interrupt(QWidget *widget, const QString &how)
+/// A row for each way to take a widget away from under a pressed button, after \a begin.
+inline void addInterruptions(const QString &begin, const QString &then, const QString &log)
 {
-    if (how == "hidden") {
-        widget->hide();
-        return nullptr;
-    }
-    if (how == "disabled") {
-        widget->setEnabled(false);
-        return nullptr;
-    }
-    auto dialog = std::make_unique<QDialog>();
-    dialog->setModal(true);
-    showActive(dialog.get());
-    return dialog;
+    for (const char *how : {"hide", "disable", "modal", "popup", "enter", "lost, move 35"})
+        QTest::newRow(how) << begin + ", " + how + ", held, restore" + then << log;
 }
 
 /// Whether every pixel is the same, give or take one of 255: what shines through a smoothed corner
@@ -120,18 +114,135 @@ inline bool sameImage(const QImage &a, const QImage &b)
     return a.size() == b.size();
 }
 
-/// A slider with a hand on its handles and a log of its signals, which the subclass connects.
+/// A widget with a hand on it and a log of its signals, which the subclass connects.
 template <typename Base>
 class Driven : public Base
 {
 public:
-    explicit Driven(Qt::Orientation orientation)
-        : Base(orientation)
+    using Base::Base;
+
+    virtual QPoint place(int number) const = 0;
+    /// How far from that place it is pressed, so that a lost offset shows.
+    virtual QPoint grip() const { return {}; }
+    /// Whether anything is left of a gesture.
+    virtual bool isHeld() const = 0;
+    /// Does what the steps here do not know.
+    virtual void perform(const QString &verb, int number)
     {
-        this->resize(orientation == Qt::Horizontal ? QSize(320, 30) : QSize(30, 320));
+        QFAIL(qPrintable(QString("%1 %2").arg(verb).arg(number)));
     }
 
-    virtual QStyleOptionSlider optionAt(int position) const = 0;
+    /// Carries out steps such as "press 20, move 30, release 30" and returns what was noted.
+    /// Presses, and moves with a button, that are left to the parent note "ignored".
+    QString run(const QString &script)
+    {
+        static const QHash<QString, std::pair<QEvent::Type, Qt::MouseButton>> events = {
+            {"press", {QEvent::MouseButtonPress, Qt::LeftButton}},
+            {"release", {QEvent::MouseButtonRelease, Qt::LeftButton}},
+            {"right", {QEvent::MouseButtonPress, Qt::RightButton}},
+            {"rightup", {QEvent::MouseButtonRelease, Qt::RightButton}},
+            {"double", {QEvent::MouseButtonDblClick, Qt::LeftButton}},
+            {"move", {QEvent::MouseMove, Qt::NoButton}}};
+        for (const QString &step : script.split(", ", Qt::SkipEmptyParts)) {
+            const QString verb = step.section(' ', 0, 0);
+            const int number = step.section(' ', 1).toInt();
+            if (events.contains(verb))
+                send(events[verb].first, place(number) + grip(), events[verb].second);
+            else if (verb == "jump") // to the place itself
+                send(QEvent::MouseButtonPress, place(number), Qt::LeftButton);
+            else if (verb == "leave") // the drag area
+                send(QEvent::MouseMove, place(number) + QPoint(60, 60), Qt::NoButton);
+            else if (verb == "held")
+                note("held")(isHeld());
+            else if (!showOrTakeAway(verb))
+                perform(verb, number);
+        }
+        return takeLog();
+    }
+
+    bool send(QEvent::Type type, const QPoint &point, Qt::MouseButton button,
+              Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        m_buttons.setFlag(button, button && type != QEvent::MouseButtonRelease);
+        const bool taken = sendMouse(this, type, point, button, m_buttons, modifiers);
+        if (!taken && m_buttons && type != QEvent::MouseButtonRelease)
+            m_log << "ignored";
+        return taken;
+    }
+
+    /// A slot that adds the name and the values of a signal to the log.
+    auto note(const char *name)
+    {
+        return [this, name](auto... values) {
+            const QStringList entry{name, QString::number(values)...};
+            m_log << entry.join(' ');
+        };
+    }
+    /// What was noted since the last call, separated by commas.
+    QString takeLog() { return std::exchange(m_log, {}).join(", "); }
+
+private:
+    bool showOrTakeAway(const QString &verb)
+    {
+        if (verb == "show") {
+            showActive(this->window());
+        } else if (verb == "hide") {
+            this->hide();
+        } else if (verb == "disable") {
+            this->setEnabled(false);
+        } else if (verb == "modal") {
+            m_above = std::make_unique<QDialog>();
+            m_above->setWindowModality(Qt::ApplicationModal);
+            showActive(m_above.get());
+        } else if (verb == "popup") {
+            m_above = std::make_unique<QMenu>();
+            m_above->addAction(new QAction("action", m_above.get()));
+            m_above->show();
+        } else if (verb == "deactivate") {
+            m_above = std::make_unique<QWidget>();
+            showActive(m_above.get());
+        } else if (verb == "enter") {
+            QEvent event(QEvent::Enter);
+            QCoreApplication::sendEvent(this, &event);
+        } else if (verb == "lost") { // The release went elsewhere.
+            m_buttons = Qt::NoButton;
+        } else if (verb == "restore") {
+            m_above.reset();
+            this->show();
+            this->setEnabled(true);
+            m_buttons = Qt::NoButton;
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+    QStringList m_log;
+    Qt::MouseButtons m_buttons;
+    std::unique_ptr<QWidget> m_above;
+};
+
+/// One that is a slider, with places along its groove.
+template <typename Base>
+class DrivenSlider : public Driven<Base>
+{
+public:
+    explicit DrivenSlider(Qt::Orientation orientation)
+        : Driven<Base>(orientation)
+    {
+        this->resize(isHorizontal() ? QSize(320, 30) : QSize(30, 320));
+    }
+
+    QStyleOptionSlider optionAt(int position) const
+    {
+        QStyleOptionSlider option;
+        QSlider::initStyleOption(&option);
+        option.sliderPosition = option.sliderValue = position;
+        return option;
+    }
+    bool isHorizontal() const { return this->orientation() == Qt::Horizontal; }
+    bool isHeld() const override { return this->isSliderDown(); }
+    QPoint grip() const override { return isHorizontal() ? QPoint(2, 0) : QPoint(0, 2); }
 
     QRect rectOf(QStyle::SubControl control, int position = 0) const
     {
@@ -140,54 +251,7 @@ public:
     }
     QRect handleAt(int position) const { return rectOf(QStyle::SC_SliderHandle, position); }
     /// The middle of a handle at that position.
-    QPoint place(int position) const { return handleAt(position).center(); }
-
-    bool press(const QPoint &point, Qt::MouseButton button = Qt::LeftButton,
-               Qt::MouseButtons others = Qt::NoButton)
-    {
-        return sendMouse(this, QEvent::MouseButtonPress, point, button, button | others);
-    }
-    bool drag(const QPoint &point) { return sendDrag(this, point); }
-    bool release(const QPoint &point, Qt::MouseButton button = Qt::LeftButton,
-                 Qt::MouseButtons others = Qt::NoButton)
-    {
-        return sendMouse(this, QEvent::MouseButtonRelease, point, button, others);
-    }
-    /// Carries out steps such as "press 20, drag 30, release 30" and returns what was noted. Each
-    /// goes to a place off the middle of the handle at that position, so that a lost offset shows;
-    /// "right" and "rightup" are a second button over a held left one. Steps that are left to the
-    /// parent note "ignored"; other words are for perform().
-    QString run(const QString &script)
-    {
-        for (const QString &step : script.split(", ", Qt::SkipEmptyParts)) {
-            const QStringList words = step.split(' ');
-            const QString verb = words.first();
-            const int number = words.value(1).toInt();
-            const bool horizontal = this->orientation() == Qt::Horizontal;
-            const QPoint point = place(number) + (horizontal ? QPoint(2, 0) : QPoint(0, 2));
-            if (verb == "press")
-                noteIgnored(press(point));
-            else if (verb == "jump") // at the middle
-                noteIgnored(press(place(number)));
-            else if (verb == "drag")
-                noteIgnored(drag(point));
-            else if (verb == "leave")
-                drag(point + (horizontal ? QPoint(0, 60) : QPoint(60, 0)));
-            else if (verb == "release")
-                release(point);
-            else if (verb == "right")
-                press(point, Qt::RightButton, Qt::LeftButton);
-            else if (verb == "rightup")
-                release(point, Qt::RightButton, Qt::LeftButton);
-            else
-                perform(verb, number);
-        }
-        return takeLog();
-    }
-    virtual void perform(const QString &verb, int number)
-    {
-        QFAIL(qPrintable(QString("%1 %2").arg(verb).arg(number)));
-    }
+    QPoint place(int position) const override { return handleAt(position).center(); }
 
     /// Whether the slider paints what \a paint does, pixel by pixel.
     template <typename Paint>
@@ -205,27 +269,6 @@ public:
         }
         return true;
     }
-
-    /// A slot that adds the name and the values of a signal to the log.
-    auto note(const char *name)
-    {
-        return [this, name](auto... values) {
-            const QStringList entry{name, QString::number(values)...};
-            m_log << entry.join(' ');
-        };
-    }
-    /// What was noted since the last call, separated by commas.
-    QString takeLog() { return std::exchange(m_log, {}).join(", "); }
-
-private:
-    void noteIgnored(bool accepted)
-    {
-        if (!accepted)
-            m_log << "ignored";
-    }
-
-private:
-    QStringList m_log;
 };
 
 /// Fusion with a drag area of 20 units around the slider.

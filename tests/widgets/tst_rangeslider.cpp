@@ -4,7 +4,6 @@
 #include <nocturne/DarkUX>
 #include <nocturne/RangeSlider>
 
-#include <QtGui/QAccessible>
 #include <QtGui/QHelpEvent>
 #include <QtWidgets/QToolTip>
 
@@ -19,11 +18,11 @@ const QVector<QPair<Qt::Orientation, Qt::LayoutDirection>> ways = {
 };
 
 /// A range slider of 0 to 100 that starts at 20, 80 and 50.
-class TestRange : public TestSupport::Driven<RangeSlider>
+class TestRange : public TestSupport::DrivenSlider<RangeSlider>
 {
 public:
     explicit TestRange(Qt::Orientation orientation = Qt::Horizontal, bool range = true)
-        : Driven(orientation)
+        : DrivenSlider(orientation)
     {
         setRange(0, 100);
         setEnableRange(range);
@@ -41,12 +40,11 @@ public:
         connect(this, &RangeSlider::sliderMoveChanged, this, note("hover"));
     }
 
-    QStyleOptionSlider optionAt(int position) const override
+    bool isHeld() const override { return isMousePressed() || isSliderDown() || handles(); }
+    /// Which of them are held, as bits.
+    int handles() const
     {
-        QStyleOptionSlider option;
-        initStyleOption(&option);
-        option.sliderPosition = option.sliderValue = position;
-        return option;
+        return isMinimumSliderDown() + 2 * isMaximumSliderDown() + 4 * isMainSliderDown();
     }
 
     void perform(const QString &verb, int number) override
@@ -57,18 +55,16 @@ public:
             setSymmetricMoves(number);
         else if (verb == "range")
             setEnableRange(number);
-        else if (verb == "handles") // which of them are held, as bits
-            note("holds")(isMinimumSliderDown() + 2 * isMaximumSliderDown()
-                          + 4 * isMainSliderDown());
-    }
-
-    /// What a click at \a point first reports.
-    QString click(const QPoint &point)
-    {
-        takeLog();
-        press(point);
-        release(point);
-        return takeLog().section(',', 0, 0);
+        else if (verb == "one") // value, nothing to drag
+            setRange(number, number);
+        else if (verb == "all") // handles on one value
+            setValues(number, number, number);
+        else if (verb == "handles")
+            note("holds")(handles());
+        else if (verb == "key")
+            QTest::keyPress(this, Qt::Key_Right);
+        else if (verb == "keyed")
+            note("keyed")(isKeyPressed());
     }
 
     Ints values() const { return {minimumValue(), maximumValue(), mainValue()}; }
@@ -150,82 +146,89 @@ private Q_SLOTS:
 
     void gestures_data()
     {
-        QTest::addColumn<QString>("script");
-        QTest::addColumn<QString>("log");
-        QTest::addColumn<Ints>("values");
-        const auto row = [](const char *script, const char *log, const Ints &values) {
-            QTest::newRow(script) << script << log << values;
-        };
-        row("press 20, handles, release 20", "pressed 1, holds 1, released 1", {20, 80, 50});
-        row("press 20, drag 30, release 30",
-            "pressed 1, minpos 30, positions 30 80 50, min 30, released 1, values 30 80 50",
-            {30, 80, 50});
-        row("press 80, drag 70, handles, release 70",
-            "pressed 2, maxpos 70, positions 20 70 50, max 70, holds 2, released 2, "
-            "values 20 70 50",
-            {20, 70, 50});
-        row("press 50, drag 95, release 95, handles",
-            "pressed 4, mainpos 95, positions 20 80 95, main 95, released 4, values 20 80 95, "
-            "holds 0",
-            {20, 80, 95});
-        row("press 20, drag 95, release 95", // The handles stop at each other.
-            "pressed 1, minpos 80, positions 80 80 50, min 80, released 1, values 80 80 50",
-            {80, 80, 50});
-        row("jump 35, handles, release 35", // A press on the groove brings the main handle.
-            "pressed 0, main 35, holds 4, released 4, values 20 80 35", {20, 80, 35});
-        row("range 0, jump 20, handles, release 20", // Without a range so does one on a handle.
-            "pressed 1, main 20, holds 4, released 4, values 20 80 20", {20, 80, 20});
-        row("tracking 0, press 20, drag 25, release 25",
-            "pressed 1, minpos 25, positions 25 80 50, released 1", {20, 80, 50});
-        // A second button pressed in the middle is left alone; its release ends the drag.
-        row("press 20, right 20, drag 22, rightup 22, drag 40, release 40",
-            "pressed 1, minpos 22, positions 22 80 50, min 22, released 1, values 22 80 50, "
-            "released 0",
-            {22, 80, 50});
-        row("symmetric 1, press 20, drag 15, symmetric 0, drag 14, release 14",
-            "pressed 1, minpos 15, maxpos 85, positions 15 85 50, min 15, max 85, minpos 14, "
-            "positions 14 85 50, min 14, released 1, values 14 85 50",
-            {14, 85, 50});
-        row("symmetric 1, press 80, drag 99, release 99",
-            "pressed 2, minpos 1, maxpos 99, positions 1 99 50, min 1, max 99, released 2, "
-            "values 1 99 50",
-            {1, 99, 50});
+        TestSupport::addScripts({
+            {"press 20, handles, release 20, held", "pressed 1, holds 1, released 1, held 0"},
+            {"press 20, move 30, held, release 30",
+             "pressed 1, minpos 30, positions 30 80 50, min 30, held 1, released 1, "
+             "values 30 80 50"},
+            {"press 80, move 70, handles, release 70",
+             "pressed 2, maxpos 70, positions 20 70 50, max 70, holds 2, released 2, "
+             "values 20 70 50"},
+            {"press 50, move 95, release 95, handles",
+             "pressed 4, mainpos 95, positions 20 80 95, main 95, released 4, values 20 80 95, "
+             "holds 0"},
+            {"press 20, move 95, release 95", // The handles stop at each other.
+             "pressed 1, minpos 80, positions 80 80 50, min 80, released 1, values 80 80 50"},
+            {"press 80, move 5, release 5",
+             "pressed 2, maxpos 20, positions 20 20 50, max 20, released 2, values 20 20 50"},
+            {"jump 35, handles, release 35", // A press on the groove brings the main handle.
+             "pressed 0, main 35, holds 4, released 4, values 20 80 35"},
+            {"range 0, jump 20, handles, release 20", // Without a range so does one on a handle.
+             "pressed 1, main 20, holds 4, released 4, values 20 80 20"},
+            {"tracking 0, press 20, move 25, release 25",
+             "pressed 1, minpos 25, positions 25 80 50, released 1"},
+            // A second button pressed in the middle is left alone; its release ends the drag.
+            {"press 20, right 20, move 22, rightup 22, move 40, release 40, held",
+             "pressed 1, minpos 22, positions 22 80 50, min 22, released 1, values 22 80 50, "
+             "released 0, held 0"},
+            {"right 20, held, move 30, rightup 30, key, keyed", "held 0, released 0, keyed 1"},
+            {"symmetric 1, press 20, move 15, symmetric 0, move 14, release 14",
+             "pressed 1, minpos 15, maxpos 85, positions 15 85 50, min 15, max 85, minpos 14, "
+             "positions 14 85 50, min 14, released 1, values 14 85 50"},
+            {"symmetric 1, press 80, move 99, release 99",
+             "pressed 2, minpos 1, maxpos 99, positions 1 99 50, min 1, max 99, released 2, "
+             "values 1 99 50"},
+            {"press 20, move 30, leave 30, move 30, release 30", // It snaps back outside.
+             "pressed 1, minpos 30, positions 30 80 50, min 30, minpos 20, positions 20 80 50, "
+             "min 20, minpos 30, positions 30 80 50, min 30, released 1, values 30 80 50"},
+            // The keys' release goes elsewhere, the mouse's does not.
+            {"show, key, press 20, deactivate, keyed, move 30, release 30, held",
+             "pressed 1, keyed 0, minpos 30, positions 30 80 50, min 30, released 1, "
+             "values 30 80 50, held 0"},
+        });
+        TestSupport::addInterruptions("show, press 20, move 30", ", move 50",
+                                      "pressed 1, minpos 30, positions 30 80 50, min 30, "
+                                      "released 1, values 30 80 50, held 0");
     }
 
     void gestures()
     {
         QFETCH(QString, script);
         QFETCH(QString, log);
-        QFETCH(Ints, values);
+        TestSupport::LimitedDragStyle style;
         for (const auto &way : ways) {
             TestRange slider(way.first);
+            slider.setStyle(&style);
             slider.setLayoutDirection(way.second);
             QCOMPARE(slider.run(script), log);
-            QCOMPARE(slider.values(), values);
-            QVERIFY(!slider.isMousePressed() && !slider.isSliderDown());
         }
     }
 
     void handlesOnTopOfEachOther()
     {
-        TestRange slider;
-        slider.setValues(50, 50, 50);
-        const QRect handle = slider.handleAt(50);
-        const int y = handle.center().y();
-        QCOMPARE(slider.click(QPoint(handle.left() + 1, y)), QString("pressed 1"));
-        QCOMPARE(slider.click(QPoint(handle.right() - 1, y)), QString("pressed 2"));
-        QCOMPARE(handle.width() % 2, 1); // The tie is a pixel.
-        const int tie = handle.left() + (handle.width() - 1) / 2;
-        QCOMPARE(slider.click(QPoint(tie, y)), QString("pressed 2"));
-        slider.setValues(50, 50, 90);
-        QCOMPARE(slider.click(QPoint(handle.right() - 1, y)), QString("pressed 1"));
-
-        TestRange vertical(Qt::Vertical);
-        vertical.setValues(50, 50, 50);
-        const QRect upright = vertical.handleAt(50);
-        const int x = upright.center().x();
-        QCOMPARE(vertical.click(QPoint(x, upright.bottom() - 1)), QString("pressed 1"));
-        QCOMPARE(vertical.click(QPoint(x, upright.top() + 1)), QString("pressed 2"));
+        for (Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+            TestRange slider(orientation);
+            const auto pressedAt = [&slider](const QPoint &point) {
+                slider.send(QEvent::MouseButtonPress, point, Qt::LeftButton);
+                slider.send(QEvent::MouseButtonRelease, point, Qt::LeftButton);
+                return slider.takeLog().section(',', 0, 0);
+            };
+            slider.run("all 50");
+            const QRect handle = slider.handleAt(50);
+            const QPoint center = handle.center();
+            const bool horizontal = slider.isHorizontal();
+            const QPoint nearMinimum = horizontal ? QPoint(handle.left() + 1, center.y())
+                                                  : QPoint(center.x(), handle.bottom() - 1);
+            const QPoint nearMaximum = horizontal ? QPoint(handle.right() - 1, center.y())
+                                                  : QPoint(center.x(), handle.top() + 1);
+            QCOMPARE(pressedAt(nearMinimum), QString("pressed 1"));
+            QCOMPARE(pressedAt(nearMaximum), QString("pressed 2"));
+            QCOMPARE(handle.width() % 2, 1); // The tie is a pixel.
+            QCOMPARE(pressedAt(center), QString("pressed 2"));
+            slider.setValues(50, 50, 90);
+            slider.takeLog();
+            QCOMPARE(pressedAt(nearMaximum), QString("pressed 1"));
+        }
     }
 
     void symmetricMovesStayInTheRange()
@@ -236,110 +239,51 @@ private Q_SLOTS:
             slider.setRange(0, values[2] == 50 ? 100 : most);
             slider.setValues(values[0], values[1], values[2]);
             slider.setSymmetricMoves(true);
-            slider.press(slider.place(values[0]));
-            slider.drag(slider.place(0));
-            slider.release(slider.place(0));
+            slider.run(QString("press %1, move 0, release 0").arg(values[0]));
             QCOMPARE(slider.values(), Ints({0, slider.maximum(), values[2]}));
         }
     }
 
-    void leavingTheDragAreaSnapsBack()
-    {
-        TestSupport::LimitedDragStyle style;
-        TestRange slider;
-        slider.setStyle(&style);
-        QCOMPARE(slider.run("press 20, drag 30, leave 30, drag 30, release 30"),
-                 QString("pressed 1, minpos 30, positions 30 80 50, min 30, minpos 20, "
-                         "positions 20 80 50, min 20, minpos 30, positions 30 80 50, min 30, "
-                         "released 1, values 30 80 50"));
-    }
-
     void movesWithoutAHandleReportTheValue()
     {
+        const auto move = [](TestRange &slider, const QPoint &point) {
+            slider.send(QEvent::MouseMove, point, Qt::NoButton);
+        };
         TestRange empty;
-        empty.setRange(5, 5);
-        empty.takeLog();
-        QVERIFY(!empty.press(QPoint(100, 15)));
-        QVERIFY(empty.isMousePressed());
-        empty.drag(QPoint(120, 15));
-        empty.drag(QPoint(140, 15));
-        empty.release(QPoint(140, 15));
-        QCOMPARE(empty.takeLog(), QString("hover 120 15 5, released 0"));
+        empty.run("one 5");
+        QCOMPARE(empty.run("press 5, held"), QString("ignored, held 1"));
+        for (int x : {120, 140})
+            move(empty, QPoint(x, 15));
+        QCOMPARE(empty.run("release 5"), QString("hover 120 15 5, ignored, ignored, released 0"));
 
         for (bool horizontal : {true, false}) {
             TestRange slider(horizontal ? Qt::Horizontal : Qt::Vertical);
-            QVERIFY(!slider.press(QPoint(15, 15), Qt::LeftButton, Qt::RightButton));
-            const QPoint point = horizontal ? QPoint(80, 12) : QPoint(12, 80);
-            QVERIFY(!slider.drag(point));
-            slider.drag(point);
+            slider.run("right 20");
+            QCOMPARE(slider.run("press 20"), QString("ignored"));
+            move(slider, horizontal ? QPoint(80, 12) : QPoint(12, 80));
             // A quarter of the way from the left or from the top, where the maximum is.
-            QCOMPARE(slider.takeLog(), QString(horizontal ? "hover 80 12 25" : "hover 12 80 75"));
-            slider.release(point);
+            QCOMPARE(slider.takeLog(),
+                     QString(horizontal ? "hover 80 12 25, ignored" : "hover 12 80 75, ignored"));
         }
-    }
-
-    void otherButtonsAndKeys()
-    {
-        TestRange slider;
-        slider.press(slider.place(20), Qt::RightButton);
-        slider.drag(slider.place(30));
-        QVERIFY(!slider.isMousePressed());
-        QTest::keyPress(&slider, Qt::Key_Right);
-        QVERIFY(slider.isKeyPressed());
-        QTest::keyRelease(&slider, Qt::Key_Right);
-        QVERIFY(!slider.isKeyPressed());
-        QVERIFY(!TestSupport::takesWheel(&slider));
-        QCOMPARE(slider.values(), Ints({20, 80, 50}));
-        QCOMPARE(slider.value(), 0);
-        QCOMPARE(slider.takeLog(), QString());
-    }
-
-    void interruptedDrag_data() { TestSupport::addInterruptions(); }
-
-    void interruptedDrag()
-    {
-        QFETCH(QString, how);
-        TestRange slider;
-        QVERIFY(TestSupport::showActive(&slider));
-        slider.run("press 20, drag 30");
-        const auto modal = TestSupport::interrupt(&slider, how);
-        QCOMPARE(slider.run("handles"), QString("released 1, values 30 80 50, holds 0"));
-        QVERIFY(!slider.isMousePressed() && !slider.isSliderDown());
-        slider.drag(slider.place(50));
-        QCOMPARE(slider.takeLog(), QString());
-    }
-
-    void dragGoesOnWhenTheWindowLosesTheFocus()
-    {
-        TestRange slider;
-        QVERIFY(TestSupport::showActive(&slider));
-        slider.setFocus();
-        QTest::keyPress(&slider, Qt::Key_Shift);
-        slider.run("press 20");
-        QWidget other;
-        QVERIFY(TestSupport::showActive(&other));
-        QVERIFY(!slider.isKeyPressed());
-        slider.run("drag 30, release 30");
-        QCOMPARE(slider.minimumValue(), 30);
-        QVERIFY(!slider.isSliderDown());
+        QVERIFY(!TestSupport::takesWheel(&empty));
     }
 
     void receiversThatTakeTheSliderAway()
     {
-        TestRange slider;
-        slider.show();
-        const auto hiding = connect(&slider, &RangeSlider::mousePressed, &slider, &QWidget::hide);
-        QCOMPARE(slider.run("press 20, handles"), QString("pressed 1, released 0, holds 0"));
-        QVERIFY(!slider.isSliderDown());
-        disconnect(hiding);
-        slider.show();
-        connect(&slider, &QSlider::sliderPressed, &slider, [&] { slider.setEnabled(false); });
-        QVERIFY(slider.run("press 20, handles").endsWith("holds 0"));
-        QVERIFY(!slider.isSliderDown());
-
+        for (const char *how : {"hide", "popup"}) {
+            TestRange slider;
+            slider.run("show");
+            const auto take = [&slider, how] { slider.run(how); };
+            const auto early = connect(&slider, &RangeSlider::mousePressed, &slider, take);
+            slider.run("press 20, move 40");
+            QVERIFY(!slider.isHeld() && slider.minimumValue() == 20);
+            disconnect(early);
+            connect(&slider, &QSlider::sliderPressed, &slider, take);
+            slider.run("restore, press 20, move 40, restore, press 35, move 40");
+            QVERIFY(!slider.isHeld() && slider.minimumValue() == 20);
+        }
         auto doomed = std::make_unique<TestRange>();
-        doomed->show();
-        doomed->run("press 20, drag 25");
+        doomed->run("show, press 20, move 25");
         doomed.reset();
         QCoreApplication::processEvents();
     }
@@ -347,7 +291,6 @@ private Q_SLOTS:
     void toolTipOfTheRangeHandles()
     {
         TestRange slider;
-        slider.move(50, 50);
         slider.show();
         const auto help = [&](int position) {
             QToolTip::hideText();
@@ -393,40 +336,13 @@ private Q_SLOTS:
             COMPARE_PIXEL(image, inside.x(), inside.y(), QColor(65, 155, 249));
             for (int position : {10, 30, 70, 90})
                 QVERIFY(image.pixelColor(slider.place(position)).blue() < 50);
+            // Nor is it when the whole range is below zero, or ends there.
+            for (int most : {-200, 0}) {
+                slider.setRange(most - 100, most);
+                slider.setValues(most - 60, most - 40, most - 50);
+                QCOMPARE(TestSupport::render(slider), image);
+            }
         }
-    }
-
-    void handlesAreAccessible()
-    {
-        TestRange slider;
-        slider.show();
-        QAccessibleInterface *group = QAccessible::queryAccessibleInterface(&slider);
-        QVERIFY(group);
-        QCOMPARE(group->childCount(), 3);
-        const QStringList names = {"Minimum", "Maximum", "Position"};
-        for (int i = 0; i < 3; ++i) {
-            QAccessibleInterface *handle = group->child(i);
-            const int value = slider.values().at(i);
-            const QPoint center = slider.mapToGlobal(slider.place(value));
-            QCOMPARE(handle, group->child(i));
-            QCOMPARE(group->indexOfChild(handle), i);
-            QCOMPARE(handle->parent(), group);
-            QCOMPARE(handle->role(), QAccessible::Slider);
-            QCOMPARE(handle->text(QAccessible::Name), names.at(i));
-            QCOMPARE(handle->valueInterface()->currentValue().toInt(), value);
-            QCOMPARE(handle->text(QAccessible::Value), QString::number(value));
-            QCOMPARE(handle->rect().center(), center);
-            QCOMPARE(group->childAt(center.x(), center.y()), handle);
-            QVERIFY(!handle->state().invisible);
-        }
-        group->child(0)->valueInterface()->setCurrentValue(25);
-        group->child(2)->valueInterface()->setCurrentValue(1000);
-        QCOMPARE(slider.takeLog(), QString("min 25, main 100"));
-
-        slider.setEnableRange(false);
-        QVERIFY(group->child(1)->state().invisible);
-        group->child(1)->valueInterface()->setCurrentValue(90);
-        QCOMPARE(slider.maximumValue(), 80);
     }
 
 private:

@@ -4,39 +4,38 @@
 
 namespace {
 
-/// A slider of 0 to 99, pressed and dragged at places along x.
-class TestSlider : public TestSupport::Driven<Slider>
+/// A slider of 0 to 99.
+class TestSlider : public TestSupport::DrivenSlider<Slider>
 {
 public:
     explicit TestSlider(Qt::Orientation orientation = Qt::Horizontal)
-        : Driven(orientation)
+        : DrivenSlider(orientation)
     {
         connect(this, &Slider::valueChanged, this, note("value"));
-        connect(this, &Slider::sliderMoveChanged, this, note("hover"));
         connect(this, &Slider::mousePressed, this, note("pressed"));
         connect(this, &Slider::mouseDoubleClick, this, note("double"));
+        connect(this, &QSlider::sliderReleased, this, note("released"));
     }
 
-    QStyleOptionSlider optionAt(int) const override
-    {
-        QStyleOptionSlider option;
-        initStyleOption(&option);
-        return option;
-    }
+    QPoint grip() const override { return {}; } // The handle jumps under the pointer.
+    bool isHeld() const override { return isMousePressed() || isSliderDown(); }
 
-    /// The value whose handle has its middle at \a x.
-    int valueAt(int x) const
+    void perform(const QString &verb, int number) override
     {
-        const QRect groove = rectOf(QStyle::SC_SliderGroove);
-        const int length = rectOf(QStyle::SC_SliderHandle).width();
-        return QStyle::sliderValueFromPosition(minimum(), maximum(), x - length / 2 - groove.x(),
-                                               groove.width() - length, optionAt(0).upsideDown);
-    }
-
-    QPoint at(int x) const { return QPoint(x, height() / 2); }
-    void hover(int x)
-    {
-        TestSupport::sendMouse(this, QEvent::MouseMove, at(x), Qt::NoButton, Qt::NoButton);
+        if (verb == "set")
+            setValue(number);
+        else if (verb == "follow")
+            positionChange(number);
+        else if (verb == "buttons")
+            setJumpButtons(Qt::MouseButtons(number));
+        else if (verb == "nojump")
+            setEnableDirectJump(false);
+        else if (verb == "key")
+            QTest::keyPress(this, Qt::Key_Shift);
+        else if (verb == "is")
+            note("is")(value());
+        else if (verb == "keyed")
+            note("keyed")(isKeyPressed());
     }
 };
 
@@ -50,160 +49,126 @@ private Q_SLOTS:
     void initTestCase() { QApplication::setStyle(QStyleFactory::create("fusion")); }
     void cleanup() { QVERIFY(TestSupport::nothingIsHeld()); }
 
-    void clickJumpsAndDragContinues()
+    void gestures_data()
     {
+        TestSupport::addScripts({
+            {"press 60, held, move 75, release 75, held, set 20",
+             "pressed, value 60 1, held 1, value 75 0, released, held 0"},
+            // A click on the value leaves the first change to the drag.
+            {"set 45, press 45, move 50, move 55, release 55",
+             "pressed, value 50 1, value 55 0, released"},
+            // Two buttons are one gesture, whichever comes up first.
+            {"press 30, right 40, move 50, rightup 50, move 60, release 60, held",
+             "pressed, value 30 1, pressed, value 40 0, ignored, value 50 0, value 60 0, released, "
+             "held 0"},
+            {"press 30, right 30, release 30, held, move 50, rightup 50, held",
+             "pressed, value 30 1, pressed, ignored, held 1, value 50 0, released, held 0"},
+            {"right 40, set 50, rightup 40, set 60, press 30, release 30",
+             "pressed, value 40 1, ignored, value 50 0, pressed, value 30 1, released"},
+            // Buttons that were not asked for are left alone.
+            {"buttons 1, right 40, held, set 20, rightup 40, is", "ignored, held 0, is 20"},
+            {"buttons 1, press 30, right 40, move 50, release 50, held, move 60, is",
+             "pressed, value 30 1, ignored, value 50 0, released, held 0, ignored, is 50"},
+            // The host moves the slider without an echo; the first change is still to come.
+            {"set 50, press 50, follow 40, move 60, follow 20, move 70, release 70",
+             "pressed, value 60 1, value 70 0, released"},
+            {"disable, press 40, held, set 20, release 40", "held 0"},
+            {"double 40, is", "double, is 0"},
+            {"nojump, press 80, release 80, is", "pressed, value 10 1, is 10"},
+            {"show, key, keyed, hide, keyed", "keyed 1, keyed 0"},
+            {"show, key, disable, keyed", "keyed 0"},
+            {"show, key, modal, keyed", "keyed 0"},
+            // The menu of a right click takes its release.
+            {"show, right 40, popup, held, restore, set 70, held",
+             "pressed, value 40 1, ignored, held 0, held 0"},
+            // The release went elsewhere, and nothing was heard until the next press.
+            {"press 40, lost, press 60, release 60",
+             "pressed, value 40 1, released, pressed, value 60 1, released"},
+        });
+        TestSupport::addInterruptions("show, press 30, move 40",
+                                      ", set 80, move 50, move 60, is, press 20, release 20",
+                                      "pressed, value 30 1, value 40 0, released, held 0, is 80, "
+                                      "pressed, value 20 1, released");
+    }
+
+    void gestures()
+    {
+        QFETCH(QString, script);
+        QFETCH(QString, log);
         for (Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
             TestSlider slider;
             slider.setLayoutDirection(direction);
-            const QSignalSpy plain(&slider, &QSlider::valueChanged);
-            const auto valuesAt = [&slider](int first, int next) {
-                return QString("value %1 1, value %2 0")
-                    .arg(slider.valueAt(first))
-                    .arg(slider.valueAt(next));
-            };
-            slider.press(slider.at(200));
-            QVERIFY(slider.isMousePressed() && slider.isSliderDown());
-            slider.drag(slider.at(240));
-            slider.release(slider.at(240));
-            QVERIFY(!slider.isMousePressed() && !slider.isSliderDown());
-            QCOMPARE(slider.takeLog(), "pressed, " + valuesAt(200, 240));
-            QCOMPARE(plain.count(), 2);
-
-            // A click on the value leaves the first change to the drag.
-            slider.setValue(slider.valueAt(150));
-            slider.press(slider.at(150));
-            slider.drag(slider.at(170));
-            slider.drag(slider.at(190));
-            slider.release(slider.at(190));
-            QCOMPARE(slider.takeLog(), "pressed, " + valuesAt(170, 190));
+            QCOMPARE(slider.run(script), log);
         }
     }
 
     void verticalSliderJumpsAlongX()
     {
         TestSlider slider(Qt::Vertical);
-        slider.press(QPoint(30, 20));
-        slider.release(QPoint(30, 20));
-        const QString jump = QString("pressed, value %1 1").arg(slider.valueAt(30));
-        QVERIFY(slider.takeLog().startsWith(jump));
-    }
-
-    void withoutDirectJump()
-    {
-        TestSlider slider;
-        slider.setEnableDirectJump(false);
-        slider.hover(250);
-        QCOMPARE(slider.takeLog(), QString());
-        slider.press(slider.at(250));
-        slider.release(slider.at(250));
-        QCOMPARE(slider.takeLog(), QString("pressed, value %1 1").arg(slider.pageStep()));
+        slider.send(QEvent::MouseButtonPress, QPoint(30, 20), Qt::LeftButton);
+        const int length = slider.handleAt(0).width();
+        const QRect groove = slider.rectOf(QStyle::SC_SliderGroove);
+        const int jump = QStyle::sliderValueFromPosition(0, 99, 30 - length / 2 - groove.x(),
+                                                         groove.width() - length, true);
+        QVERIFY(slider.takeLog().startsWith(QString("pressed, value %1 1").arg(jump)));
     }
 
     void hoverReportsEachValueOnce()
     {
         TestSlider slider;
+        connect(&slider, &Slider::sliderMoveChanged, &slider, slider.note("hover"));
         QVERIFY(slider.hasMouseTracking());
         QStringList expected;
         int last = 0;
-        for (int x = 0; x < slider.width(); ++x) {
-            slider.hover(x);
+        const auto hoverAlong = [&slider](auto visit) {
+            for (int x = 0; x < slider.width(); ++x) {
+                slider.send(QEvent::MouseMove, QPoint(x, 15), Qt::NoButton);
+                visit(x);
+            }
+        };
+        hoverAlong([&](int x) {
             const int value = QStyle::sliderValueFromPosition(0, 99, x, slider.width(), false);
-            if (value != last)
+            if (std::exchange(last, value) != value)
                 expected << QString("hover %1 15 %2").arg(x).arg(value);
-            last = value;
-        }
+        });
         QCOMPARE(slider.takeLog(), expected.join(", "));
-        QCOMPARE(slider.value(), 0);
+        slider.setEnableDirectJump(false);
+        hoverAlong([](int) {});
+        QCOMPARE(slider.run("is"), QString("is 0"));
     }
 
     void callsKeysAndWheel()
     {
         TestSlider slider;
         QSignalSpy plain(&slider, &QSlider::valueChanged);
-        slider.positionChange(30);
-        QCOMPARE(slider.value(), 30);
+        QCOMPARE(slider.run("follow 30, is"), QString("is 30"));
         QCOMPARE(plain.count(), 0);
         QTest::keyPress(&slider, Qt::Key_Right);
         QVERIFY(slider.isKeyPressed());
         QTest::keyRelease(&slider, Qt::Key_Right);
-        QVERIFY(!slider.isKeyPressed());
+        QVERIFY(!slider.isKeyPressed() && !TestSupport::takesWheel(&slider));
         QCOMPARE(plain.count(), 1);
-        QVERIFY(!TestSupport::takesWheel(&slider));
-        QCOMPARE(slider.value(), 31);
-        QCOMPARE(slider.takeLog(), QString());
-        TestSupport::sendMouse(&slider, QEvent::MouseButtonDblClick, slider.at(250), Qt::LeftButton,
-                               Qt::LeftButton);
-        QCOMPARE(slider.value(), 31);
-        QCOMPARE(slider.takeLog(), QString("double"));
+        QCOMPARE(slider.run("is"), QString("is 31"));
     }
 
-    void interruptedDrag_data()
+    void receiversThatTakeTheSliderAway()
     {
-        TestSupport::addInterruptions();
-        QTest::newRow("parent hidden") << QString("parent hidden");
-    }
-
-    /// Whatever takes the slider away in mid-drag, nothing moves it without a button afterwards.
-    void interruptedDrag()
-    {
-        QFETCH(QString, how);
-        QWidget window;
-        window.resize(320, 40);
-        auto *slider = new TestSlider;
-        slider->setParent(&window);
-        QVERIFY(TestSupport::showActive(&window));
-        const QSignalSpy released(slider, &QSlider::sliderReleased);
-        QTest::keyPress(slider, Qt::Key_Shift);
-        slider->press(slider->at(100));
-        slider->drag(slider->at(120));
-        const int value = slider->value();
-        auto modal = how == "parent hidden" ? TestSupport::interrupt(&window, "hidden")
-                                            : TestSupport::interrupt(slider, how);
-        QVERIFY(!slider->isMousePressed() && !slider->isKeyPressed() && !slider->isSliderDown());
-        QCOMPARE(released.count(), 1);
-        modal.reset();
-        window.show();
-        slider->show();
-        slider->setEnabled(true);
-        slider->hover(200);
-        slider->hover(210);
-        QCOMPARE(slider->value(), value);
-        slider->release(slider->at(210));
-        QCOMPARE(released.count(), 1);
-        slider->takeLog();
-        slider->press(slider->at(250));
-        slider->release(slider->at(250));
-        QCOMPARE(slider->takeLog(), QString("pressed, value %1 1").arg(slider->value()));
-    }
-
-    void receiverTakesTheSliderAway()
-    {
-        TestSlider slider;
-        slider.show();
-        connect(&slider, &Slider::mousePressed, &slider, &QWidget::hide);
-        slider.press(slider.at(200));
-        QCOMPARE(slider.value(), 0);
-        QVERIFY(!slider.isMousePressed() && !slider.isSliderDown());
-
+        for (bool early : {true, false}) {
+            TestSlider slider;
+            const auto open = [&slider] { slider.run("popup"); };
+            const auto opening = early ? connect(&slider, &Slider::mousePressed, &slider, open)
+                                       : connect(&slider, &QSlider::sliderPressed, &slider, open);
+            slider.run("show, press 60, lost");
+            disconnect(opening);
+            QVERIFY(!slider.isHeld());
+            QCOMPARE(slider.value(), early ? 0 : 60);
+            slider.run("restore, move 80");
+            QVERIFY(slider.value() != 80);
+        }
         auto doomed = std::make_unique<TestSlider>();
-        doomed->show();
-        doomed->press(doomed->at(100));
-        doomed->drag(doomed->at(150));
+        doomed->run("show, press 30, move 50");
         doomed.reset();
         QCoreApplication::processEvents();
-    }
-
-    void secondButton()
-    {
-        TestSlider slider;
-        slider.press(slider.at(100));
-        slider.takeLog();
-        slider.press(slider.at(140), Qt::RightButton, Qt::LeftButton);
-        QCOMPARE(slider.takeLog(), QString("pressed, value %1 1").arg(slider.valueAt(140)));
-        slider.release(slider.at(140), Qt::RightButton, Qt::LeftButton);
-        QVERIFY(!slider.isMousePressed());
-        slider.release(slider.at(140));
-        QVERIFY(!slider.isSliderDown());
     }
 };
 

@@ -2,19 +2,17 @@
 
 #include <nocturne/SpanSlider>
 
-#include <QtGui/QAccessible>
-
 using Ints = QVector<int>;
 
 namespace {
 
 /// A span slider that starts at 20 and 60.
-class TestSpan : public TestSupport::Driven<SpanSlider>
+class TestSpan : public TestSupport::DrivenSlider<SpanSlider>
 {
 public:
     explicit TestSpan(Qt::Orientation orientation = Qt::Horizontal,
                       HandleMovementMode mode = FreeMovement)
-        : Driven(orientation)
+        : DrivenSlider(orientation)
     {
         setHandleMovementMode(mode);
         setSpan(20, 60);
@@ -25,20 +23,14 @@ public:
         connect(this, &SpanSlider::spanChanged, this, note("span"));
     }
 
-    QStyleOptionSlider optionAt(int position) const override
-    {
-        QStyleOptionSlider option;
-        initStyleOption(&option, LowerHandle);
-        option.sliderPosition = option.sliderValue = position;
-        return option;
-    }
-
     void perform(const QString &verb, int number) override
     {
         if (verb == "tracking")
             setTracking(number);
-        else if (verb == "down")
-            note("down")(isSliderDown());
+        else if (verb == "one") // value, nothing to drag
+            setRange(number, number);
+        else if (verb == "wheel")
+            note("wheel")(TestSupport::takesWheel(this));
     }
 
     Ints span() const { return {lowerValue(), upperValue()}; }
@@ -75,42 +67,47 @@ private Q_SLOTS:
         QCOMPARE(slider.takeLog(), QString("lower 28, span 28 30"));
     }
 
-    void dragsBothHandles_data()
+    void gestures_data()
     {
-        QTest::addColumn<Qt::Orientation>("orientation");
-        QTest::addColumn<bool>("mirrored");
-        QTest::addColumn<bool>("inverted");
-        QTest::newRow("horizontal") << Qt::Horizontal << false << false;
-        QTest::newRow("right to left") << Qt::Horizontal << true << false;
-        QTest::newRow("inverted") << Qt::Horizontal << false << true;
-        QTest::newRow("vertical") << Qt::Vertical << false << false;
-        QTest::newRow("vertical, inverted") << Qt::Vertical << true << true;
+        TestSupport::addScripts({
+            {"press 20, held, move 40, release 40, held",
+             "held 1, lowerpos 40, lower 40, span 40 60, held 0"},
+            {"press 60, move 90, release 90", "upperpos 90, upper 90, span 20 90"},
+            {"tracking 0, press 20, move 30, move 35, release 35",
+             "lowerpos 30, lowerpos 35, lower 35, span 35 60"},
+            // A second button pressed in the middle is left alone; its release ends the drag.
+            {"press 20, right 20, move 25, rightup 25, move 40, release 40, held",
+             "ignored, lowerpos 25, lower 25, span 25 60, ignored, held 0"},
+            {"right 20, press 20, move 25, rightup 25, release 25",
+             "ignored, lowerpos 25, lower 25, span 25 60"},
+            // A press between the handles grabs neither.
+            {"press 40, held, move 60, release 60", "held 0, ignored"},
+            {"press 60, move 70, leave 70, release 70", // It snaps back outside.
+             "upperpos 70, upper 70, span 20 70, upperpos 60, upper 60, span 20 60"},
+            {"one 7, press 7, held, wheel", "lower 7, upper 7, span 7 7, ignored, held 0, wheel 0"},
+        });
+        TestSupport::addInterruptions("show, tracking 0, press 20, move 30",
+                                      ", move 50, press 60, move 70, release 70",
+                                      "lowerpos 30, lower 30, span 30 60, held 0, upperpos 70, "
+                                      "upper 70, span 30 70");
     }
 
-    void dragsBothHandles()
+    void gestures()
     {
-        QFETCH(Qt::Orientation, orientation);
-        QFETCH(bool, mirrored);
-        QFETCH(bool, inverted);
-        TestSpan slider(orientation);
-        slider.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
-        slider.setInvertedAppearance(inverted);
-        const bool startsFirst = slider.pick(slider.place(0)) < slider.pick(slider.place(99));
-        QCOMPARE(startsFirst, orientation == Qt::Horizontal ? mirrored == inverted : inverted);
-        QCOMPARE(slider.run("press 20, down, drag 40, release 40"),
-                 QString("down 1, lowerpos 40, lower 40, span 40 60"));
-        QCOMPARE(slider.run("press 60, drag 90, release 90, down"),
-                 QString("upperpos 90, upper 90, span 40 90, down 0"));
-        QCOMPARE(slider.run("tracking 0, press 40, drag 30, drag 35, release 35"),
-                 QString("lowerpos 30, lowerpos 35, lower 35, span 35 90"));
-        // A second button pressed in the middle is left alone; its release ends the drag.
-        const QSignalSpy released(&slider, &QSlider::sliderReleased);
-        QCOMPARE(slider.run("tracking 1, press 35, right 35, drag 25, rightup 25, drag 40, down, "
-                            "release 40"),
-                 QString("lowerpos 25, lower 25, span 25 90, ignored, down 0"));
-        QCOMPARE(released.count(), 1);
-        // A press between the handles grabs neither.
-        QCOMPARE(slider.run("press 50, down, drag 60, release 60"), QString("down 0, ignored"));
+        QFETCH(QString, script);
+        QFETCH(QString, log);
+        TestSupport::LimitedDragStyle style;
+        for (int way = 0; way < 6; ++way) {
+            TestSpan slider(way < 4 ? Qt::Horizontal : Qt::Vertical);
+            const bool mirrored = way & 1;
+            const bool inverted = way & 2;
+            slider.setStyle(&style);
+            slider.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+            slider.setInvertedAppearance(inverted);
+            const bool startsFirst = slider.pick(slider.place(0)) < slider.pick(slider.place(99));
+            QCOMPARE(startsFirst, slider.isHorizontal() ? mirrored == inverted : inverted);
+            QCOMPARE(slider.run(script), log);
+        }
     }
 
     void handlesThatMeet_data()
@@ -141,21 +138,12 @@ private Q_SLOTS:
         QFETCH(Ints, span);
         TestSpan slider(Qt::Horizontal, static_cast<SpanSlider::HandleMovementMode>(mode));
         slider.setSpan(drag[0], drag[1]);
-        slider.run(QString("press %1, drag %1").arg(drag[2]));
+        slider.run(QString("press %1, move %1").arg(drag[2]));
         for (int position = drag[2]; position != drag[3]; position += drag[2] < drag[3] ? 1 : -1)
-            slider.run(QString("drag %1").arg(position));
-        slider.run(QString("drag %1, release %1").arg(drag[3]));
+            slider.run(QString("move %1").arg(position));
+        slider.run(QString("move %1, release %1").arg(drag[3]));
         QCOMPARE(slider.span(), span);
         QVERIFY(slider.lowerPosition() <= slider.upperPosition());
-    }
-
-    void leavingTheDragAreaSnapsBack()
-    {
-        TestSupport::LimitedDragStyle style;
-        TestSpan slider;
-        slider.setStyle(&style);
-        QCOMPARE(slider.run("press 60, drag 70, leave 70, release 70"),
-                 QString("upperpos 70, upper 70, span 20 70, upperpos 60, upper 60, span 20 60"));
     }
 
     void keys_data()
@@ -183,7 +171,7 @@ private Q_SLOTS:
         QTest::keyClick(&slider, key);
         QCOMPARE(slider.span(), span);
         slider.setSpan(20, 60);
-        slider.run("press 20, drag 59, drag 60, drag 61, drag 70, release 70");
+        slider.run("press 20, move 59, move 60, move 61, move 70, release 70");
         slider.setSpan(20, 60);
         QTest::keyClick(&slider, key);
         QCOMPARE(slider.span(), spanOfOtherMain);
@@ -209,7 +197,7 @@ private Q_SLOTS:
         slider.triggerAction(QAbstractSlider::SliderSingleStepSub, false);
         slider.triggerAction(QAbstractSlider::SliderNoAction, true);
         QCOMPARE(slider.span(), Ints({21, 59}));
-        QTest::ignoreMessage(QtWarningMsg, "QxtSpanSliderPrivate::triggerAction: Unknown action");
+        QTest::ignoreMessage(QtWarningMsg, "SpanSlider::triggerAction: Unknown action");
         slider.triggerAction(QAbstractSlider::SliderPageStepAdd, false);
         QCOMPARE(slider.span(), Ints({0, 59}));
         // To the far end, past the other handle.
@@ -217,44 +205,17 @@ private Q_SLOTS:
         QCOMPARE(slider.upperValue(), 99);
     }
 
-    void otherPresses()
-    {
-        TestSpan slider;
-        QVERIFY(!slider.press(slider.place(20), Qt::LeftButton, Qt::RightButton));
-        QVERIFY(!slider.isSliderDown());
-        slider.setRange(7, 7);
-        QVERIFY(!slider.press(slider.place(7)));
-        QVERIFY(!slider.isSliderDown());
-        QVERIFY(!TestSupport::takesWheel(&slider));
-    }
-
-    void interruptedDrag_data() { TestSupport::addInterruptions(); }
-
-    void interruptedDrag()
-    {
-        QFETCH(QString, how);
-        TestSpan slider;
-        slider.setTracking(false);
-        QVERIFY(TestSupport::showActive(&slider));
-        slider.run("press 20, drag 30");
-        const auto modal = TestSupport::interrupt(&slider, how);
-        QCOMPARE(slider.run("down"), QString("lower 30, span 30 60, down 0"));
-        slider.run("drag 50");
-        QCOMPARE(slider.lowerPosition(), 30);
-    }
-
     void receiversThatTakeTheSliderAway()
     {
-        TestSpan slider;
-        slider.setSpan(50, 50);
-        slider.takeLog();
-        slider.show();
-        connect(&slider, &QSlider::sliderPressed, &slider, &QWidget::hide);
-        QCOMPARE(slider.run("press 50, down, drag 40"), QString("down 0, ignored"));
-
+        for (const char *how : {"hide", "popup"}) {
+            TestSpan slider;
+            slider.setSpan(50, 50);
+            slider.run("show");
+            connect(&slider, &QSlider::sliderPressed, &slider, [&] { slider.run(how); });
+            QCOMPARE(slider.run("press 50, held, move 40"), QString("held 0, ignored"));
+        }
         auto doomed = std::make_unique<TestSpan>();
-        doomed->show();
-        doomed->run("press 20, drag 25");
+        doomed->run("show, press 20, move 25");
         doomed.reset();
         QCoreApplication::processEvents();
     }
@@ -270,29 +231,6 @@ private Q_SLOTS:
                     [&](QPainter *painter) { paintByHand(painter, slider, span); }));
             }
         }
-    }
-
-    void handlesAreAccessible()
-    {
-        TestSpan slider(Qt::Horizontal, SpanSlider::NoOverlapping);
-        slider.show();
-        QAccessibleInterface *group = QAccessible::queryAccessibleInterface(&slider);
-        QCOMPARE(group->childCount(), 2);
-        QAccessibleInterface *lower = group->child(0);
-        QCOMPARE(lower->text(QAccessible::Name), QString("Lower"));
-        QCOMPARE(group->child(1)->text(QAccessible::Name), QString("Upper"));
-        QCOMPARE(lower->rect().center(), slider.mapToGlobal(slider.place(20)));
-        QAccessibleValueInterface *upper = group->child(1)->valueInterface();
-        QCOMPARE(lower->valueInterface()->currentValue().toInt(), 20);
-        QCOMPARE(lower->valueInterface()->maximumValue().toInt(), 59);
-        QCOMPARE(upper->minimumValue().toInt(), 21);
-        lower->valueInterface()->setCurrentValue(90);
-        QCOMPARE(slider.span(), Ints({59, 60}));
-        upper->setCurrentValue(70);
-        QCOMPARE(slider.span(), Ints({59, 70}));
-        slider.setEnabled(false);
-        upper->setCurrentValue(80);
-        QCOMPARE(slider.span(), Ints({59, 70}));
     }
 
 private:
