@@ -51,3 +51,5 @@ void QMidiIn::openVirtualPort(const QString &name)
 {
     m_port->openVirtualPort(name);
 }
+
+#include "moc_qmidiin.cpp"

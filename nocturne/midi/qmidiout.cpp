@@ -129,3 +129,5 @@ void QMidiOut::abandonDevice()
     static_cast<void>(m_sender.release());
     static_cast<void>(m_device.release());
 }
+
+#include "moc_qmidiout.cpp"

@@ -168,3 +168,5 @@ bool CheckComboBox::QCheckListStyledItemDelegate::editorEvent(QEvent *event,
         return QStyledItemDelegate::editorEvent(event, model, option, index);
     }
 }
+
+#include "moc_checkcombobox.cpp"

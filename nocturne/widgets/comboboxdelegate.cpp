@@ -60,3 +60,5 @@ QSize ComboBoxDelegate::sizeHint(const QStyleOptionViewItem &option, const QMode
         return QSize(0, separatorHeight);
     return QItemDelegate::sizeHint(option, index);
 }
+
+#include "moc_comboboxdelegate.cpp"

@@ -16,6 +16,10 @@
 /// list->setModel(groupedModel);
 /// list->setItemDelegate(new ComboBoxDelegate(list));
 /// \endcode
+///
+/// The library has the class once more for its own combo boxes. qobject_cast() and dynamic_cast
+/// know both as one; what compares meta-objects itself, such as findChild<ComboBoxDelegate *>(),
+/// finds those only that the host has made.
 class NOCTURNE_HOSTKIT ComboBoxDelegate : public QItemDelegate
 {
     Q_OBJECT
@@ -28,5 +32,26 @@ public:
                const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 };
+
+// By the name of the class, which the host's delegates and the library's have in common.
+
+template <>
+inline ComboBoxDelegate *qobject_cast<ComboBoxDelegate *>(QObject *object)
+{
+    return static_cast<ComboBoxDelegate *>(object ? object->qt_metacast("ComboBoxDelegate")
+                                                  : nullptr);
+}
+
+template <>
+inline const ComboBoxDelegate *qobject_cast<const ComboBoxDelegate *>(QObject *object)
+{
+    return qobject_cast<ComboBoxDelegate *>(object);
+}
+
+template <>
+inline const ComboBoxDelegate *qobject_cast<const ComboBoxDelegate *>(const QObject *object)
+{
+    return qobject_cast<ComboBoxDelegate *>(const_cast<QObject *>(object));
+}
 
 #endif

@@ -49,6 +49,7 @@ Outcome run(const QString &program, const QStringList &arguments,
     } while (false)
 
 const QString buildDirectory = NOCTURNE_BUILD_DIR;
+const QString consumerSources = NOCTURNE_SOURCE_DIR "/tests/packaging/consumer";
 
 QByteArray contentsOf(const QString &path)
 {
@@ -195,33 +196,42 @@ private Q_SLOTS:
     void cmakeFindsIt()
     {
         const QTemporaryDir build;
-        VERIFY_RUNS("cmake",
-                    {"-S", NOCTURNE_SOURCE_DIR "/tests/packaging/consumer", "-B", build.path(),
-                     "-G", configured("CMAKE_GENERATOR"), "-DCMAKE_PREFIX_PATH=" + m_prefix.path(),
-                     "-DCMAKE_CXX_FLAGS=" + sanitizerFlags().join(' ')});
+        const QStringList configure = {"-G",
+                                       configured("CMAKE_GENERATOR"),
+                                       "-S",
+                                       consumerSources,
+                                       "-DCMAKE_PREFIX_PATH=" + m_prefix.path(),
+                                       "-DCMAKE_CXX_FLAGS=" + sanitizerFlags().join(' '),
+                                       "-B"};
+        VERIFY_RUNS("cmake", configure + QStringList{build.path()});
         VERIFY_RUNS("cmake", {"--build", build.path()});
-        VERIFY_RUNS(build.filePath("consumer"), {}, withoutLeakCheck());
-        VERIFY_RUNS(build.filePath("consumer-hostkit"), {}, withoutLeakCheck());
+        for (const char *program : {"main", "hostkit", "delegate"}) {
+            VERIFY_RUNS(build.filePath(program), {}, withoutLeakCheck());
+            const Outcome needed = run("readelf", {"-d", build.filePath(program)});
+            QCOMPARE(needed.output.contains("rtmidi"), !qstrcmp(program, "hostkit"));
+        }
+        // On a machine without RtMidi.
+        VERIFY_RUNS("cmake", configure
+                                 + QStringList{build.filePath("other"),
+                                               "-DCMAKE_DISABLE_FIND_PACKAGE_PkgConfig=ON"});
     }
 
     void pkgConfigFindsIt()
     {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        QProcessEnvironment environment = withoutLeakCheck();
         const QString libraries = QFileInfo(m_library).path();
         environment.insert("PKG_CONFIG_PATH", libraries + "/pkgconfig");
+        environment.insert("LD_LIBRARY_PATH", libraries);
         const Outcome flags = run("pkg-config", {"--cflags", "--libs", "nocturne"}, environment);
         QVERIFY2(flags.exitCode == 0, flags.output.constData());
 
-        const QTemporaryDir build;
-        const QString program = build.filePath("consumer");
-        const QString sources = NOCTURNE_SOURCE_DIR "/tests/packaging/consumer";
-        QStringList arguments = {
-            "-std=c++17", "-fPIC", "-o", program, sources + "/main.cpp", sources + "/theme.cpp"};
-        arguments << QString::fromLocal8Bit(flags.output.simplified()).split(' ');
-        arguments << sanitizerFlags();
-        VERIFY_RUNS(configured("CMAKE_CXX_COMPILER"), arguments);
-        environment = withoutLeakCheck();
-        environment.insert("LD_LIBRARY_PATH", libraries);
+        // With the archive, and without RtMidi, which this host does not use.
+        const QString program = m_prefix.filePath("host");
+        VERIFY_RUNS(configured("CMAKE_CXX_COMPILER"),
+                    QStringList{"-std=c++17", "-fPIC", "-o", program,
+                                consumerSources + "/delegate.cpp", "-lnocturne-hostkit"}
+                        + QString::fromLocal8Bit(flags.output.simplified()).split(' ')
+                        + sanitizerFlags());
         VERIFY_RUNS(program, {}, environment);
     }
 

@@ -1,12 +1,10 @@
+// A host of the shared library alone.
+
 #include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
 
 #include <QtCore/QFile>
 #include <QtWidgets/QApplication>
-
-#include <cstdio>
-
-const DarkUX *currentTheme();
 
 int main(int argc, char *argv[])
 {
@@ -14,8 +12,5 @@ int main(int argc, char *argv[])
     QApplication app(argc, argv);
     DarkUX theme;
     app.setStyle(theme.style());
-    std::printf("%s\n", qPrintable(theme.moduleVersion()));
-    const bool works =
-        currentTheme() == &theme && QFile::exists(QStringLiteral(":/resources/appicons/play.png"));
-    return works ? 0 : 1;
+    return QFile::exists(QStringLiteral(":/resources/appicons/play.png")) ? 0 : 1;
 }

@@ -1,6 +1,0 @@
-#include <nocturne/theme/darkux.h>
-
-const DarkUX *currentTheme()
-{
-    return DarkUX::getInstancePtr();
-}
