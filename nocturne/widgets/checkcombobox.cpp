@@ -4,6 +4,7 @@
 #include <QtGui/QStandardItemModel>
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 
 CheckComboBox::CheckComboBox(QWidget *parent)
@@ -86,11 +87,38 @@ void CheckComboBox::setUndeterminedText(const QString &text)
 
 bool CheckComboBox::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == lineEdit() && event->type() == QEvent::MouseButtonPress) {
+    // Whoever clicks fast makes double clicks.
+    const bool isPress =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    if (watched == lineEdit() && isPress) {
+        m_openingButton = static_cast<QMouseEvent *>(event)->button();
+        qApp->installEventFilter(this);
         showPopup();
         return true;
     }
+    if (m_openingButton != Qt::NoButton && watched->isWidgetType()) {
+        if (isPress)
+            endOpeningClick();
+        else if (isOpeningRelease(event)) {
+            endOpeningClick();
+            return true;
+        }
+    }
     return QComboBox::eventFilter(watched, event);
+}
+
+/// The popup takes the release of the press that has opened it for a choice, and closes. So that
+/// release is kept from it, wherever it goes.
+bool CheckComboBox::isOpeningRelease(const QEvent *event) const
+{
+    return event->type() == QEvent::MouseButtonRelease
+           && static_cast<const QMouseEvent *>(event)->button() == m_openingButton;
+}
+
+void CheckComboBox::endOpeningClick()
+{
+    m_openingButton = Qt::NoButton;
+    qApp->removeEventFilter(this);
 }
 
 void CheckComboBox::wheelEvent(QWheelEvent *event)

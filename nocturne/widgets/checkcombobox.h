@@ -73,11 +73,14 @@ private Q_SLOTS:
     void itemPressed(const QModelIndex &index);
 
 private:
+    bool isOpeningRelease(const QEvent *event) const;
+    void endOpeningClick();
     void updateSummary();
     QString summary() const;
     QString checkedTexts() const;
 
     std::unique_ptr<QStandardItemModel> m_model;
+    Qt::MouseButton m_openingButton = Qt::NoButton; ///< held since it has opened the popup
     QString m_noneCheckedText;
     QString m_allCheckedText;
     QString m_undeterminedText;

@@ -1,14 +1,19 @@
 #include "gradienttool.h"
 
 #include "gestureend_p.h"
+#include "gradienttoolaccessible_p.h"
 #include "gradienttoolslider_p.h"
 
+#include <QtGui/QAccessible>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QLinearGradient>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QColorDialog>
 
 #include <algorithm>
+#include <cmath>
+#include <numeric>
 
 namespace {
 
@@ -47,7 +52,9 @@ GradientTool::GradientTool(QWidget *parent)
     : QWidget(parent)
     , m_colorDialog(new QColorDialog)
 {
+    Nocturne::StopAccessibility::install();
     setMinimumSize(30, 44);
+    setFocusPolicy(Qt::StrongFocus);
     addStop(0.0, Qt::white);
     addStop(1.0, Qt::black);
     setActiveSlider(0);
@@ -129,6 +136,14 @@ QVector<unsigned int> GradientTool::getColorTable() const
 }
 
 void GradientTool::setActiveSlider(int index)
+{
+    const QPointer<GradientTool> self(this);
+    activate(index);
+    if (self)
+        announceFocus();
+}
+
+void GradientTool::activate(int index)
 {
     const int active = qBound(0, index, m_stops.size() - 1);
     for (int i = 0; i < m_stops.size(); ++i)
@@ -370,6 +385,7 @@ void GradientTool::mousePressEvent(QMouseEvent *event)
 void GradientTool::beginGesture()
 {
     abandonDrag(); // A popup may have taken the last release.
+    m_movedByKey = false;
     m_firstChange = true;
     m_pressed = true;
 }
@@ -419,8 +435,7 @@ void GradientTool::mouseMoveEvent(QMouseEvent *event)
     const QPointer<GradientTool> self(this);
     const double position = positionAt(event->x());
     if (position >= 0.0 && position <= 1.0) {
-        marker->setGeometry(markerGeometry(position));
-        m_stops[m_activeIndex].first = position;
+        placeStop(m_activeIndex, position);
         if (m_slideUpdate)
             Q_EMIT rampChanged(0.0, true);
     }
@@ -445,7 +460,7 @@ void GradientTool::mouseReleaseEvent(QMouseEvent *event)
         return;
     const QPointer<GradientTool> self(this);
     if (m_stops.size() > fewestStops && m_verticalFraction > removalFraction)
-        removeActiveStop();
+        removeActiveStop(m_firstChange);
     if (!self)
         return;
     m_verticalFraction = 0.0;
@@ -454,7 +469,7 @@ void GradientTool::mouseReleaseEvent(QMouseEvent *event)
     update();
 }
 
-void GradientTool::removeActiveStop()
+void GradientTool::removeActiveStop(bool complete)
 {
     if (!activeMarker())
         return;
@@ -463,8 +478,114 @@ void GradientTool::removeActiveStop()
 
     const QPointer<GradientTool> self(this);
     setActiveSlider(0);
-    if (self && m_pressed)
-        Q_EMIT rampChanged(0.0, m_firstChange);
+    if (self)
+        Q_EMIT rampChanged(0.0, complete);
+}
+
+int GradientTool::numberOf(const GradientToolSlider *marker) const
+{
+    const auto stop = std::find_if(m_stops.begin(), m_stops.end(),
+                                   [marker](const Stop &s) { return s.second == marker; });
+    return stop == m_stops.end() ? -1 : static_cast<int>(stop - m_stops.begin());
+}
+
+/// The stop to the right of \a index, or to its left; -1 beyond the last one. From no stop, -1, it
+/// goes to the one at the end.
+int GradientTool::stopBeside(int index, bool next) const
+{
+    QVector<int> order(m_stops.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(),
+                     [this](int a, int b) { return colorRampSort(m_stops.at(a), m_stops.at(b)); });
+    if (!next)
+        std::reverse(order.begin(), order.end());
+    return order.value(order.indexOf(index) + 1, -1);
+}
+
+void GradientTool::placeStop(int index, double position)
+{
+    Stop &stop = m_stops[index];
+    stop.first = position;
+    stop.second->setGeometry(markerGeometry(position));
+    if (QAccessible::isActive())
+        Nocturne::StopAccessibility::moved(stop.second, position);
+}
+
+/// Moves a stop other than by a drag.
+void GradientTool::moveStop(int index, double position, bool complete)
+{
+    const double bounded = boundedPosition(position);
+    if (index < 0 || bounded == m_stops.at(index).first)
+        return;
+    placeStop(index, bounded);
+    updateBar();
+    Q_EMIT rampChanged(0.0, complete);
+}
+
+void GradientTool::moveByKey(double step, bool repeated)
+{
+    const bool continued = repeated && m_movedByKey && !m_slideUpdate;
+    m_movedByKey = true;
+    // Rounded, so that a hundred steps lead from one end exactly to the other.
+    const double position = m_stops.at(m_activeIndex).first + step;
+    moveStop(m_activeIndex, std::round(position * 10000.0) / 10000.0, !continued);
+}
+
+void GradientTool::keyPressEvent(QKeyEvent *event)
+{
+    const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
+    if (!plain || m_pressed || !activeMarker()) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    switch (event->key()) {
+    case Qt::Key_Left:
+        moveByKey(-Nocturne::stopKeyStep, event->isAutoRepeat());
+        break;
+    case Qt::Key_Right:
+        moveByKey(Nocturne::stopKeyStep, event->isAutoRepeat());
+        break;
+    case Qt::Key_Delete:
+        if (m_stops.size() > fewestStops && !event->isAutoRepeat())
+            removeActiveStop(true);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+bool GradientTool::focusNextPrevChild(bool next)
+{
+    if (!hasFocus() || isDragging())
+        return QWidget::focusNextPrevChild(next);
+    const int stop = stopBeside(m_activeIndex, next);
+    if (stop < 0)
+        return QWidget::focusNextPrevChild(next);
+    setActiveSlider(stop);
+    return true;
+}
+
+void GradientTool::focusInEvent(QFocusEvent *event)
+{
+    QWidget::focusInEvent(event);
+    const QPointer<GradientTool> self(this);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+        activate(stopBeside(-1, event->reason() == Qt::TabFocusReason));
+    // Later, since the toolkit itself names the editor as the focus after this event.
+    if (self && QAccessible::isActive())
+        QMetaObject::invokeMethod(this, &GradientTool::announceFocus, Qt::QueuedConnection);
+}
+
+void GradientTool::focusOutEvent(QFocusEvent *event)
+{
+    m_movedByKey = false;
+    QWidget::focusOutEvent(event);
+}
+
+void GradientTool::announceFocus()
+{
+    if (QAccessible::isActive() && hasFocus() && activeMarker())
+        Nocturne::StopAccessibility::focused(activeMarker());
 }
 
 void GradientTool::mouseDoubleClickEvent(QMouseEvent *event)

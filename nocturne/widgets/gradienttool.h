@@ -14,11 +14,21 @@
 class QColorDialog;
 class GradientToolSlider;
 
+namespace Nocturne {
+class StopGroupInterface;
+class StopInterface;
+} // namespace Nocturne
+
 /// Edits a colour ramp: a bar that shows the gradient, and a marker below it for each colour stop.
 ///
 /// A press in the bar adds a stop, which follows the pointer until the release. Dragging a marker
 /// moves its stop; dragging it well below the widget removes it, as long as two stops remain. A
 /// double-click on a marker opens a colour dialog. One stop is always the active one.
+///
+/// With the focus, Tab and Shift+Tab make one stop after the other the active one, from left to
+/// right and back, and then leave the editor. Left and Right move the active stop by a hundredth of
+/// the bar, and Delete removes it, as long as two stops remain. To assistive technology each stop
+/// is a slider with a name and with its position as the value.
 ///
 /// Stops are numbered in the order in which they were added, from 0. A position is 0.0 at the left
 /// end of the bar and 1.0 at the right one.
@@ -101,7 +111,12 @@ Q_SIGNALS:
     /// The ramp has changed; the number is always 0.0. The bool is true for a complete step: a
     /// stop was added, a colour assigned or accepted, the first step of a drag, or any step of a
     /// drag while setSlideUpdate() is on. It is false for previews, for what they are undone with,
-    /// and for the further steps of a drag. With setSlideUpdate() on, a step is reported both ways.
+    /// and for the further steps of a drag. With setSlideUpdate() on, a step of a drag is reported
+    /// both ways.
+    ///
+    /// A press of a key that moves or removes the active stop is a complete step, and so is a
+    /// position set by assistive technology. What a held key repeats belongs to its press: false,
+    /// unless setSlideUpdate() is on.
     void rampChanged(double value, bool complete);
 
     /// A marker was double-clicked; no dialog is open yet.
@@ -119,6 +134,10 @@ protected:
                               const QPair<double, GradientToolSlider *> &b);
 
     bool event(QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 protected Q_SLOTS:
     void paintEvent(QPaintEvent *event) override;
@@ -129,6 +148,9 @@ protected Q_SLOTS:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
+    friend class Nocturne::StopGroupInterface;
+    friend class Nocturne::StopInterface;
+
     using Stop = QPair<double, GradientToolSlider *>;
 
     void drawBackground();
@@ -145,8 +167,15 @@ private:
     void pressMarker(const QPoint &point);
     void pressBar(const QPoint &point);
     void notifyDragStep();
-    void removeActiveStop();
+    void removeActiveStop(bool complete);
     void abandonDrag();
+    void activate(int index);
+    int numberOf(const GradientToolSlider *marker) const;
+    int stopBeside(int index, bool next) const;
+    void placeStop(int index, double position);
+    void moveStop(int index, double position, bool complete);
+    void moveByKey(double step, bool repeated);
+    void announceFocus();
     void chooseColor(GradientToolSlider *marker);
     void updateBar();
 
@@ -159,6 +188,7 @@ private:
     QPixmap m_checkerboard;
     bool m_firstChange = true;
     bool m_pressed = false;
+    bool m_movedByKey = false; ///< since the focus came or a button was pressed
     double m_verticalFraction = 0.0;
     int m_dragIndex = -1;
 };

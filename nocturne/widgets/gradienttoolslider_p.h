@@ -4,6 +4,13 @@
 #include <QtGui/QColor>
 #include <QtWidgets/QWidget>
 
+namespace Nocturne {
+
+/// How far a key moves a stop.
+constexpr double stopKeyStep = 0.01;
+
+} // namespace Nocturne
+
 /// The marker of one colour stop. Its tip is 4 units right of its left edge. Mouse events pass
 /// through to the editor.
 class GradientToolSlider : public QWidget

@@ -199,6 +199,12 @@ void ListWidget::scrollContentsBy(int dx, int dy)
 
 void ListWidget::paintEvent(QPaintEvent *event)
 {
+    // The base class lays out its items when the list itself is painted, which the viewport spares
+    // it when it covers the list.
+    const int offset = verticalOffset();
+    executeDelayedItemsLayout();
+    if (verticalOffset() != offset)
+        viewport()->update(); // More has moved than is being painted now.
     m_shownOffset = verticalOffset();
     paintBackground();
     paintItems(event->region());

@@ -39,12 +39,25 @@ QFont settled(const QFont &font)
 {
     QFont result(font);
     result.setFamily(font.family());
+    result.setFamilies(font.families());
+    result.setStyleName(font.styleName());
     if (font.pixelSize() > 0)
         result.setPixelSize(font.pixelSize());
     else
         result.setPointSizeF(font.pointSizeF());
     result.setWeight(font.weight());
     result.setStyle(font.style());
+    result.setStretch(font.stretch());
+    result.setUnderline(font.underline());
+    result.setOverline(font.overline());
+    result.setStrikeOut(font.strikeOut());
+    result.setFixedPitch(font.fixedPitch());
+    result.setKerning(font.kerning());
+    result.setCapitalization(font.capitalization());
+    result.setLetterSpacing(font.letterSpacingType(), font.letterSpacing());
+    result.setWordSpacing(font.wordSpacing());
+    result.setStyleHint(font.styleHint(), font.styleStrategy());
+    result.setHintingPreference(font.hintingPreference());
     return result;
 }
 

@@ -1,6 +1,7 @@
 #include "gestures.h"
 #include "xserver.h"
 
+#include <nocturne/CheckComboBox>
 #include <nocturne/ColorButton>
 #include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
@@ -267,6 +268,40 @@ private Q_SLOTS:
         pointer(at(other.mapToGlobal(QPoint(5, 5))) + QStringLiteral(" click 1"));
         QVERIFY(other.hasFocus());
         QVERIFY(!QApplication::overrideCursor());
+    }
+
+    void aClickOpensACheckComboBox_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<QString>("held");
+        for (const char *held : {"0", "0.7"}) {
+            QTest::addRow("dark, %s", held) << true << held;
+            QTest::addRow("fusion, %s", held) << false << held;
+        }
+    }
+
+    void aClickOpensACheckComboBox()
+    {
+        QFETCH(bool, dark);
+        QFETCH(QString, held);
+        const std::unique_ptr<QStyle> fusion(QStyleFactory::create("fusion"));
+        QWidget window;
+        window.setGeometry(listGeometry);
+        CheckComboBox combo(&window);
+        if (!dark)
+            combo.setStyle(fusion.get());
+        combo.setGeometry(20, 50, 200, 26);
+        for (const char *text : {"A", "B", "C", "D"})
+            combo.addCheckItem(text, {}, Qt::Unchecked);
+        QVERIFY(TestSupport::showActive(&window));
+
+        const QLineEdit *field = combo.lineEdit();
+        const QString click = at(field->mapToGlobal(field->rect().center()))
+                              + QString(" mousedown 1 sleep %1 mouseup 1").arg(held);
+        for (bool open : {true, false, true}) {
+            pointer(click);
+            QCOMPARE(combo.view()->isVisible(), open);
+        }
     }
 
     void itemsWithinTheList_data()

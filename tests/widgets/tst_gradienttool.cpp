@@ -1,5 +1,5 @@
+#include "gestures.h"
 #include "modaldialog.h"
-#include "testsupport.h"
 
 #include <nocturne/GradientTool>
 
@@ -369,6 +369,65 @@ private Q_SLOTS:
         f.editor.setRamp(ramp);
         f.release({105, 100});
         QCOMPARE(f.editor.getRamp(), ramp);
+    }
+
+    void keys()
+    {
+        QWidget window;
+        QPushButton before(&window);
+        Fixture f;
+        f.editor.setParent(&window);
+        QPushButton after(&window);
+        f.editor.setRamp({{1.0, Qt::red}, {0.0, Qt::green}, {0.5, Qt::blue}});
+        QVERIFY(TestSupport::showActive(&window));
+        before.setFocus();
+        const auto press = [&](Qt::Key key) { QTest::keyClick(window.focusWidget(), key); };
+        const auto hold = [&](Qt::Key key) {
+            QKeyEvent repeated(QEvent::KeyPress, key, {}, {}, true);
+            QCoreApplication::sendEvent(&f.editor, &repeated);
+        };
+
+        // Left to right, and out at both ends.
+        QString visited;
+        for (int i = 0; i < 4; ++i) {
+            press(Qt::Key_Tab);
+            visited += after.hasFocus() ? "-" : QString::number(f.editor.getActiveSlider());
+        }
+        for (int i = 0; i < 4; ++i) {
+            press(Qt::Key_Backtab);
+            visited += before.hasFocus() ? "-" : QString::number(f.editor.getActiveSlider());
+        }
+        QCOMPARE(visited, QString("120-021-"));
+
+        press(Qt::Key_Tab);
+        f.takeLog();
+        press(Qt::Key_Left);
+        QCOMPARE(f.takeLog(), Log());
+        press(Qt::Key_Right);
+        press(Qt::Key_Right);
+        hold(Qt::Key_Right);
+        f.editor.setSlideUpdate(true);
+        hold(Qt::Key_Right);
+        QCOMPARE(f.takeLog(), Log({"ramp true", "ramp true", "ramp false", "ramp true"}));
+        QCOMPARE(f.editor.getRamp().at(1).first, 0.04);
+        f.editor.setSlideUpdate(false);
+        f.press(firstMarker);
+        f.release(firstMarker);
+        f.takeLog();
+        hold(Qt::Key_Right);
+        QTest::keyClick(&f.editor, Qt::Key_Right, Qt::ControlModifier);
+        QCOMPARE(f.takeLog(), Log({"ramp true"}));
+
+        hold(Qt::Key_Delete);
+        press(Qt::Key_Delete);
+        press(Qt::Key_Delete);
+        QCOMPARE(f.takeLog(), Log({"opacity 100", "ramp true"}));
+        QCOMPARE(f.editor.getRamp(), Ramp({{1.0, Qt::red}, {0.5, Qt::blue}}));
+
+        // The pointer has them now.
+        f.press(lastMarker);
+        press(Qt::Key_Left);
+        QCOMPARE(f.editor.getRamp().first().first, 1.0);
     }
 
     void receiversMayReplaceOrDeleteEverything()

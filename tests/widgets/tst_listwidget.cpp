@@ -236,6 +236,31 @@ private Q_SLOTS:
         }
     }
 
+    void aPictureShowsTheItemsOfNow()
+    {
+        ListWidget list;
+        list.setFrameShape(QFrame::NoFrame);
+        list.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        list.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+        list.setFocusPolicy(Qt::NoFocus);
+        list.resize(200, 200);
+        list.show();
+        QCursor::setPos(list.mapToGlobal(QPoint(800, 100)));
+        QImage last = TestSupport::onScreen(list);
+        const auto compareAfter = [&](auto change) {
+            change();
+            const QImage picture = TestSupport::freshlyPainted(list);
+            QVERIFY(picture != last);
+            last = picture;
+            QTRY_COMPARE(TestSupport::onScreen(list), picture);
+        };
+        compareAfter([&list] { fill(list, 10); });
+        compareAfter([&list] { delete list.item(1); });
+        list.scrollToBottom();
+        last = TestSupport::onScreen(list);
+        compareAfter([&list] { delete list.item(8); });
+    }
+
     void delegateSizes()
     {
         struct Row

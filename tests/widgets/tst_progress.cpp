@@ -9,6 +9,7 @@
 #include <QtGui/QPainterPath>
 
 #include <cmath>
+#include <functional>
 #include <memory>
 
 namespace {
@@ -228,14 +229,31 @@ private Q_SLOTS:
     {
         QWidget panel;
         panel.resize(160, 160);
-        panel.setStyleSheet(QStringLiteral("font: italic bold 40px monospace"));
         RoundProgressBar within(&panel);
         RoundProgressBar alone;
-        for (RoundProgressBar *ring : {&within, &alone})
+        for (RoundProgressBar *ring : {&within, &alone}) {
             ring->resize(160, 160);
+            ring->setTitle("Stream out", QFont(), QFont(), 1, false);
+        }
         panel.show();
-        QCOMPARE(within.font().pixelSize(), 40);
-        QCOMPARE(TestSupport::render(within), TestSupport::render(alone));
+        const QImage plain = TestSupport::render(alone);
+        const QVector<std::function<void(QFont &)>> leaks{
+            [](QFont &f) { f = QFont("monospace", 40, QFont::Bold, true); },
+            [](QFont &f) { f.setFamilies({"monospace"}); },
+            [](QFont &f) { f.setUnderline(true); },
+            [](QFont &f) { f.setOverline(true); },
+            [](QFont &f) { f.setStrikeOut(true); },
+            [](QFont &f) { f.setStretch(200); },
+            [](QFont &f) { f.setLetterSpacing(QFont::AbsoluteSpacing, 5); },
+            [](QFont &f) { f.setWordSpacing(9); },
+            [](QFont &f) { f.setCapitalization(QFont::AllUppercase); },
+        };
+        for (const auto &leak : leaks) {
+            QFont font;
+            leak(font);
+            panel.setFont(font);
+            QCOMPARE(TestSupport::render(within), plain);
+        }
     }
 
     void barFillsValueOverMaximum_data()

@@ -1535,6 +1535,10 @@ Nach Schwarz blenden.</translation>
 <context>
     <name>GradientTool</name>
     <message>
+        <source>Color stop %1</source>
+        <translation>Farbmarke %1</translation>
+    </message>
+    <message>
         <source>Select color</source>
         <translation>Farbe auswählen</translation>
     </message>

@@ -1535,6 +1535,10 @@ Fundido a negro.</translation>
 <context>
     <name>GradientTool</name>
     <message>
+        <source>Color stop %1</source>
+        <translation>Parada de color %1</translation>
+    </message>
+    <message>
         <source>Select color</source>
         <translation>Seleccionar color</translation>
     </message>

@@ -1535,6 +1535,10 @@ Fondu au noir.</translation>
 <context>
     <name>GradientTool</name>
     <message>
+        <source>Color stop %1</source>
+        <translation>Point de couleur %1</translation>
+    </message>
+    <message>
         <source>Select color</source>
         <translation>Choisir une couleur</translation>
     </message>

@@ -1535,6 +1535,10 @@ Dissolvenza al nero.</translation>
 <context>
     <name>GradientTool</name>
     <message>
+        <source>Color stop %1</source>
+        <translation>Punto di colore %1</translation>
+    </message>
+    <message>
         <source>Select color</source>
         <translation>Seleziona colore</translation>
     </message>

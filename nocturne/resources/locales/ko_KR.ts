@@ -1535,6 +1535,10 @@ Fade to black.</source>
 <context>
     <name>GradientTool</name>
     <message>
+        <source>Color stop %1</source>
+        <translation>색상 정지점 %1</translation>
+    </message>
+    <message>
         <source>Select color</source>
         <translation>색 선택</translation>
     </message>

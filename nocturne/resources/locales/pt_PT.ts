@@ -1535,6 +1535,10 @@ Fundir para preto.</translation>
 <context>
     <name>GradientTool</name>
     <message>
+        <source>Color stop %1</source>
+        <translation>Ponto de cor %1</translation>
+    </message>
+    <message>
         <source>Select color</source>
         <translation>Selecionar cor</translation>
     </message>

@@ -1535,6 +1535,10 @@ Fade to black.</source>
 <context>
     <name>GradientTool</name>
     <message>
+        <source>Color stop %1</source>
+        <translation>色标 %1</translation>
+    </message>
+    <message>
         <source>Select color</source>
         <translation>选择颜色</translation>
     </message>
