@@ -1,6 +1,8 @@
 #include "edgeshadow_p.h"
 
-#include <nocturne/painting/toolkitexports_p.h>
+#include "devicepixels_p.h"
+#include "painterguards_p.h"
+#include "toolkitexports_p.h"
 
 #include <QtCore/QCache>
 #include <QtCore/QPair>
@@ -69,16 +71,6 @@ StretchedShadow stretchedShadow(int width, int ratio)
     return shadow;
 }
 
-/// How many device pixels a unit of \a painter has, 0 when that is not a whole number or units do
-/// not start at whole pixels.
-int wholeRatio(const QPainter &painter)
-{
-    const QTransform &transform = painter.deviceTransform();
-    const int ratio = qRound(transform.m11());
-    const QTransform whole(ratio, 0, 0, ratio, qRound(transform.dx()), qRound(transform.dy()));
-    return ratio > 0 && transform == whole ? ratio : 0;
-}
-
 } // namespace
 
 void paintEdgeShadows(QPainter *painter, const QSize &size, bool top, bool bottom)
@@ -98,11 +90,10 @@ void paintEdgeShadows(QPainter *painter, const QSize &size, bool top, bool botto
     if (top)
         drawStretched(painter, size.width());
     if (bottom) {
-        painter->save();
+        const PainterSaver saver(painter);
         painter->translate(0, size.height());
         painter->scale(1, -1);
         drawStretched(painter, size.width());
-        painter->restore();
     }
 }
 

@@ -1,5 +1,7 @@
 #include "paintsample_p.h"
 
+#include "devicepixels_p.h"
+
 #include <QtGui/QImage>
 #include <QtGui/QPaintEngine>
 #include <QtGui/QPainter>
@@ -11,20 +13,13 @@ namespace {
 constexpr int endLength = 4;
 constexpr int sampleLength = 2 * endLength; // with one unit more for the outline in the middle
 
-/// The whole number of device pixels a unit has, or 0 where a copied sample would not land on the
-/// device's pixels or would be smoothed.
-int wholeRatio(const QPainter &painter)
+/// The ratio of a sample for \a painter, or 0 where a sample would not look the same.
+int sampleRatio(const QPainter &painter)
 {
     if (!painter.paintEngine() || painter.paintEngine()->type() != QPaintEngine::Raster
         || painter.testRenderHint(QPainter::Antialiasing))
         return 0;
-    const QTransform &transform = painter.deviceTransform();
-    const int ratio = qRound(transform.m11());
-    const bool wholeScale = transform.type() <= QTransform::TxScale && ratio >= 1
-                            && transform.m11() == ratio && transform.m22() == ratio;
-    const bool wholeOffset =
-        transform.dx() == qRound(transform.dx()) && transform.dy() == qRound(transform.dy());
-    return wholeScale && wholeOffset ? ratio : 0;
+    return wholeRatio(painter);
 }
 
 /// A rectangle given along and across a shape of that orientation.
@@ -40,7 +35,7 @@ Rect oriented(Qt::Orientation orientation, Number along, Number across, Number l
 
 void PaintSample::draw(QPainter *painter, const QRect &rect, const Look &look, const Paint &paint)
 {
-    const Key key{rect.size(), wholeRatio(*painter), look};
+    const Key key{rect.size(), sampleRatio(*painter), look};
     if (key.ratio == 0 || rect.isEmpty()) {
         paint(painter, rect);
         return;
@@ -59,7 +54,7 @@ void PaintSample::drawStretched(QPainter *painter, const QRect &rect, Qt::Orient
     const int length = horizontal ? rect.width() : rect.height();
     const int thickness = horizontal ? rect.height() : rect.width();
     const Key key{oriented<QRect>(orientation, 0, 0, sampleLength, thickness).size(),
-                  wholeRatio(*painter), look};
+                  sampleRatio(*painter), look};
     if (key.ratio == 0 || length < sampleLength || thickness < 1) {
         paint(painter, rect);
         return;

@@ -2,7 +2,7 @@
 
 #include <nocturne/theme/darkux.h>
 
-#include <QtGui/QLinearGradient>
+#include <algorithm>
 
 namespace Nocturne::ThemePaint {
 
@@ -28,10 +28,10 @@ QColor window(int shift, int alpha)
     return shifted(color(QPalette::Window), shift, alpha);
 }
 
-QBrush verticalGradient(const QRectF &rect, std::initializer_list<QGradientStop> stops)
+QLinearGradient verticalGradient(qreal top, qreal bottom, const QGradientStops &stops)
 {
-    QLinearGradient gradient(0.0, rect.top(), 0.0, rect.height());
-    gradient.setStops(QGradientStops(stops));
+    QLinearGradient gradient(0.0, top, 0.0, bottom);
+    gradient.setStops(stops);
     return gradient;
 }
 

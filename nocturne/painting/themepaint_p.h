@@ -1,11 +1,8 @@
 #ifndef NOCTURNE_THEMEPAINT_P_H
 #define NOCTURNE_THEMEPAINT_P_H
 
-#include <QtCore/QRectF>
 #include <QtGui/QBrush>
 #include <QtGui/QPalette>
-
-#include <initializer_list>
 
 /// What the paint events of the library's own widgets take from the theme.
 namespace Nocturne::ThemePaint {
@@ -26,9 +23,9 @@ QColor shifted(const QColor &color, int shift, int alpha = 255);
 /// The theme's Window colour, shifted.
 QColor window(int shift = 0, int alpha = 255);
 
-/// A gradient straight down from y = rect.top() to y = rect.height(). For a rectangle that starts
-/// at 1 it thus ends short of the bottom edge, which is meant.
-QBrush verticalGradient(const QRectF &rect, std::initializer_list<QGradientStop> stops);
+/// A gradient straight down from y = \a top to y = \a bottom. On panels and buttons it ends at
+/// their height: where they do not start at 0 that is short of their lower edge, which is meant.
+QLinearGradient verticalGradient(qreal top, qreal bottom, const QGradientStops &stops);
 
 } // namespace Nocturne::ThemePaint
 

@@ -6,9 +6,6 @@
 #include <QtWidgets/QStyleOption>
 
 namespace Nocturne::ComplexControls {
-
-using StyleHelpers::PainterSaver;
-
 namespace {
 
 QString comboBoxKey(const QStyleOptionComboBox *option)

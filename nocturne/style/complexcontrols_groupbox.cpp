@@ -5,9 +5,6 @@
 #include <QtWidgets/QStyleOption>
 
 namespace Nocturne::ComplexControls {
-
-using StyleHelpers::PainterSaver;
-
 namespace {
 
 void paintGroupBoxFrame(const QStyle *style, const QStyleOptionGroupBox *option, QPainter *painter,

@@ -6,9 +6,6 @@
 #include <QtWidgets/QStyleOption>
 
 namespace Nocturne::ComplexControls {
-
-using StyleHelpers::PainterSaver;
-
 namespace {
 
 // From the Window colour.
@@ -150,7 +147,7 @@ void paintScrollBarHandle(const ScrollBar &bar, QPainter *painter, const QRect &
     painter->drawRect(bar.horizontal ? slider.adjusted(-1, 0, 0, 1) : slider.adjusted(0, -1, 1, 0));
 
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(StyleColors::fixed(StyleColors::innerContrastLine));
+    painter->setPen(QColor::fromRgba(StyleColors::innerContrastLine));
     painter->drawRect(bar.horizontal ? slider.adjusted(0, 1, -1, -1)
                                      : slider.adjusted(1, 0, -1, -1));
 }
@@ -208,7 +205,7 @@ void paintScrollBarSubLine(const ScrollBar &bar, QPainter *painter, const QRect 
 
     painter->setPen(fills.outline);
     paintScrollBarSubLineEdge(bar, painter, slider, button);
-    painter->setPen(StyleColors::fixed(StyleColors::innerContrastLine));
+    painter->setPen(QColor::fromRgba(StyleColors::innerContrastLine));
     painter->drawRect(bar.horizontal ? button.adjusted(0, 1, -2, -1)
                                      : button.adjusted(1, 0, -1, -2));
 
@@ -233,7 +230,7 @@ void paintScrollBarAddLine(const ScrollBar &bar, QPainter *painter, const QRect 
 
     painter->setPen(fills.outline);
     paintScrollBarAddLineEdge(bar, painter, slider, button);
-    painter->setPen(StyleColors::fixed(StyleColors::innerContrastLine));
+    painter->setPen(QColor::fromRgba(StyleColors::innerContrastLine));
     painter->drawRect(button.adjusted(1, 1, -1, -1));
 
     int rotation = 180;

@@ -10,9 +10,6 @@
 #include <limits>
 
 namespace Nocturne::ComplexControls {
-
-using StyleHelpers::PainterSaver;
-
 namespace {
 
 constexpr QRgb inkColor = 0xff0b0b0b;    // rgb(11, 11, 11): the rim of the fill, the handle's dot
@@ -31,7 +28,7 @@ void paintSliderGroove(const QStyleOptionSlider *option, QPainter *painter, cons
         cached->setRenderHint(QPainter::Antialiasing);
         cached->translate(0.5, 0.5);
         cached->setPen(Qt::NoPen);
-        cached->setBrush(StyleColors::fixed(grooveColor));
+        cached->setBrush(QColor::fromRgba(grooveColor));
         const QRect rect(QPoint(), groove.size());
         cached->drawRoundedRect(
             isHorizontal(option) ? rect.adjusted(1, 2, -2, -1) : rect.adjusted(0, 1, -2, -2), 3, 3);
@@ -64,7 +61,7 @@ void paintSliderFill(const QStyleOptionSlider *option, QPainter *painter, const 
     StyleHelpers::drawCached(painter, groove.topLeft(), key, groove.size(), [&](QPainter *cached) {
         cached->setRenderHint(QPainter::Antialiasing);
         cached->translate(0.5, 0.5);
-        cached->setPen(StyleColors::fixed(inkColor));
+        cached->setPen(QColor::fromRgba(inkColor));
         const bool hovered = option->state & QStyle::State_MouseOver;
         cached->setBrush(
             StyleColors::withAlpha(ThemePaint::accentBlue, hovered ? 255 : restingFillAlpha));
@@ -153,7 +150,7 @@ void paintSliderHandle(const QStyleOptionSlider *option, QPainter *painter, cons
         const QPoint centre = QRect(QPoint(0, 1), handle.size()).center();
         cached->setBrush(Qt::gray);
         cached->drawEllipse(centre, 6, 6);
-        cached->setBrush(StyleColors::fixed(inkColor));
+        cached->setBrush(QColor::fromRgba(inkColor));
         cached->drawEllipse(centre, 2, 2);
     });
 }

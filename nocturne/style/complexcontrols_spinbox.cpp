@@ -6,9 +6,6 @@
 #include <QtWidgets/QStyleOption>
 
 namespace Nocturne::ComplexControls {
-
-using StyleHelpers::PainterSaver;
-
 namespace {
 
 constexpr int wellShift = -11; // from the Window colour

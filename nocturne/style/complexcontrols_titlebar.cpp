@@ -6,9 +6,6 @@
 #include <QtWidgets/QStyleOption>
 
 namespace Nocturne::ComplexControls {
-
-using StyleHelpers::PainterSaver;
-
 namespace {
 
 /// A title bar about to be painted: what its paint functions share.

@@ -5,9 +5,6 @@
 #include <QtWidgets/QPushButton>
 
 namespace Nocturne::StylePaint {
-
-using StyleHelpers::PainterSaver;
-
 namespace {
 
 constexpr int iconTextGap = 2;

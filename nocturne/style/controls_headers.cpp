@@ -2,6 +2,8 @@
 #include "stylehelpers_p.h"
 #include "stylepainting_p.h"
 
+#include <nocturne/painting/themepaint_p.h>
+
 namespace Nocturne::StylePaint {
 
 namespace {
@@ -32,7 +34,7 @@ bool hasNextSection(const QStyleOptionHeader &header)
 void paintSectionEdges(QPainter *painter, const QStyleOptionHeader &header, const QRect &r)
 {
     const QColor outline = StyleColors::outlineColor(header.palette);
-    const QColor contrast = StyleColors::fixed(StyleColors::innerContrastLine);
+    const QColor contrast = QColor::fromRgba(StyleColors::innerContrastLine);
     painter->setPen(contrast);
     painter->drawLine(r.topLeft(), r.topRight());
     painter->setPen(outline);
@@ -40,7 +42,7 @@ void paintSectionEdges(QPainter *painter, const QStyleOptionHeader &header, cons
     if (header.orientation == Qt::Vertical) {
         painter->drawLine(r.topRight(), r.bottomRight());
     } else if (hasNextSection(header)) {
-        painter->setPen(StyleColors::fixed(sectionSeparator));
+        painter->setPen(QColor::fromRgba(sectionSeparator));
         painter->drawLine(r.topRight(), r.bottomRight() + QPoint(0, -1));
         painter->setPen(contrast);
         painter->drawLine(r.topRight() + QPoint(-1, 0), r.bottomRight() + QPoint(-1, -1));
@@ -50,9 +52,8 @@ void paintSectionEdges(QPainter *painter, const QStyleOptionHeader &header, cons
 void paintSection(QPainter *painter, const QStyleOptionHeader &header)
 {
     const QRect r(QPoint(), header.rect.size());
-    QLinearGradient gradient = verticalGradient(r);
-    gradient.setStops(sectionStops(header.palette));
-    painter->fillRect(r, gradient);
+    painter->fillRect(
+        r, ThemePaint::verticalGradient(r.top(), r.bottom(), sectionStops(header.palette)));
     paintSectionEdges(painter, header, r);
 }
 

@@ -8,9 +8,6 @@
 #include <algorithm>
 
 namespace Nocturne::StylePaint {
-
-using StyleHelpers::PainterSaver;
-
 namespace {
 
 constexpr int separatorMargin = 5;
@@ -70,7 +67,7 @@ void paintSeparator(const MenuItem &item)
     const int left = r.left() + separatorMargin + (call.isRightToLeft() ? 0 : textWidth);
     const int right = r.right() - separatorMargin - (call.isRightToLeft() ? textWidth : 0);
     fillRow(call.painter, left, right, r.center().y(),
-            StyleColors::fixed(StyleColors::darkShade).lighter(106));
+            QColor::fromRgba(StyleColors::darkShade).lighter(106));
 }
 
 void paintRadioDot(const MenuItem &item, const QRect &rect)

@@ -2,15 +2,14 @@
 #include "stylehelpers_p.h"
 #include "stylepainting_p.h"
 
+#include <nocturne/painting/themepaint_p.h>
+
 #include <QtGui/QTextOption>
 #include <QtWidgets/QWidget>
 
 #include <algorithm>
 
 namespace Nocturne::StylePaint {
-
-using StyleHelpers::PainterSaver;
-
 namespace {
 
 constexpr QRgb grooveShadowAbove = 0x10000000;  // black, alpha 16
@@ -90,16 +89,15 @@ void paintBarEdge(QPainter *painter, const Bar &bar, const QColor &highlight)
     const int end = bar.isReversed ? bar.done.left() : bar.done.right();
     // The painter stands in the middle of a unit.
     const QRectF line(end + direction - 0.5, bar.done.top() + 0.5, 1.0, bar.done.height() - 1.0);
-    painter->fillRect(line.translated(direction, 0), StyleColors::fixed(barEdgeShadow));
+    painter->fillRect(line.translated(direction, 0), QColor::fromRgba(barEdgeShadow));
     painter->fillRect(line, highlight.darker(140));
 }
 
 /// Rounded at the end where the bar begins; an unfinished one is cut off straight at the other.
 void paintBarFill(QPainter *painter, const Bar &bar, const QColor &highlight, const QColor &outline)
 {
-    QLinearGradient gradient = verticalGradient(bar.whole);
-    gradient.setColorAt(0.0, highlight.lighter(120));
-    gradient.setColorAt(1.0, highlight);
+    const QLinearGradient gradient = ThemePaint::verticalGradient(
+        bar.whole.top(), bar.whole.bottom(), {{0.0, highlight.lighter(120)}, {1.0, highlight}});
     painter->setPen(outline);
     painter->setBrush(gradient);
     if (bar.isPartial()) {
@@ -111,7 +109,7 @@ void paintBarFill(QPainter *painter, const Bar &bar, const QColor &highlight, co
         painter->drawRoundedRect(bar.done, 2, 2);
     }
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(StyleColors::fixed(barContrastLine));
+    painter->setPen(QColor::fromRgba(barContrastLine));
     painter->drawRoundedRect(bar.done.adjusted(1, 1, -1, -1), 1, 1);
 }
 
@@ -149,12 +147,12 @@ void paintBar(QPainter *painter, const QPalette &palette, const QStyleOptionProg
 void paintGroove(QPainter *painter, const QPalette &palette, const QRect &r)
 {
     beginSharpAntialiasing(painter);
-    painter->setPen(StyleColors::fixed(grooveShadowAbove));
+    painter->setPen(QColor::fromRgba(grooveShadowAbove));
     painter->drawLine(r.topLeft() + QPoint(0, -1), r.topRight() + QPoint(0, -1));
     painter->setPen(StyleColors::outlineColor(palette));
     painter->setBrush(palette.base());
     painter->drawRoundedRect(r.adjusted(0, 0, -1, -1), 2, 2);
-    painter->setPen(StyleColors::fixed(grooveShadowInside));
+    painter->setPen(QColor::fromRgba(grooveShadowInside));
     painter->drawLine(r.left() + 1, r.top() + 1, r.right() - 1, r.top() + 1);
 }
 
@@ -191,8 +189,8 @@ void paintProgressGroove(const PaintCall &call)
         paintGroove(painter, call.palette(), QRect(QPoint(0, 1), call.rect().size()));
     };
     if (call.palette().base().style() == Qt::SolidPattern) {
-        drawKept(call.painter, r.topLeft(), QStringLiteral("progressgroove"), call.option, r.size(),
-                 paint);
+        StyleHelpers::drawKept(call.painter, r.topLeft(), QStringLiteral("progressgroove"),
+                               call.option, r.size(), paint);
     } else {
         // A pattern goes on from groove to groove.
         const PainterSaver saver(call.painter);
@@ -209,11 +207,11 @@ void paintProgressContents(const PaintCall &call)
     const Bar bar(*option, r);
     if (bar.isBusy && !isVertical(*option)) {
         // The stripes do not move.
-        drawKept(call.painter, r.topLeft(), QStringLiteral("progressbusy"), option, r.size(),
-                 [&](QPainter *painter) {
-                     paintBar(painter, call.palette(), *option,
-                              Bar(*option, QRect(QPoint(), r.size())));
-                 });
+        StyleHelpers::drawKept(call.painter, r.topLeft(), QStringLiteral("progressbusy"), option,
+                               r.size(), [&](QPainter *painter) {
+                                   paintBar(painter, call.palette(), *option,
+                                            Bar(*option, QRect(QPoint(), r.size())));
+                               });
         return;
     }
     const PainterSaver saver(call.painter);

@@ -2,12 +2,11 @@
 #include "stylehelpers_p.h"
 #include "stylepainting_p.h"
 
+#include <nocturne/painting/themepaint_p.h>
+
 #include <QtWidgets/QTabBar>
 
 namespace Nocturne::StylePaint {
-
-using StyleHelpers::PainterSaver;
-
 namespace {
 
 constexpr qreal tabRadius = 2.0;
@@ -70,18 +69,11 @@ QRect uprightRect(QTabBar::Shape shape, const QRect &rect)
     return shape == QTabBar::RoundedWest || shape == QTabBar::RoundedEast ? transposed(rect) : rect;
 }
 
-QBrush tabFill(const QRect &rect, const QColor &color, bool selected)
+QGradientStops tabStops(const QColor &color, bool selected)
 {
-    QLinearGradient gradient = verticalGradient(rect);
-    if (selected) {
-        gradient.setColorAt(0.0, color.lighter(104));
-        gradient.setColorAt(1.0, color);
-    } else {
-        gradient.setColorAt(0.0, color.darker(108));
-        gradient.setColorAt(0.85, color.darker(108));
-        gradient.setColorAt(1.0, color.darker(116));
-    }
-    return gradient;
+    if (selected)
+        return {{0.0, color.lighter(104)}, {1.0, color}};
+    return {{0.0, color.darker(108)}, {0.85, color.darker(108)}, {1.0, color.darker(116)}};
 }
 
 /// Outline, fill and the bright line inside, all cut off where the page begins.
@@ -93,10 +85,11 @@ void paintTabBody(QPainter *painter, const PaintCall &call, const QRect &rect, c
     beginSharpAntialiasing(painter);
     painter->setClipRect(rect.adjusted(-1, -1, 1, selected ? -2 : -3));
     painter->setPen(selected ? outline : outline.lighter(110));
-    painter->setBrush(tabFill(rect, color, selected));
+    painter->setBrush(
+        ThemePaint::verticalGradient(rect.top(), rect.bottom(), tabStops(color, selected)));
     painter->drawRoundedRect(body.adjusted(0, 0, -1, -1), tabRadius, tabRadius);
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(StyleColors::fixed(StyleColors::innerContrastLine));
+    painter->setPen(QColor::fromRgba(StyleColors::innerContrastLine));
     painter->drawRoundedRect(body.adjusted(1, 1, -2, -1), tabRadius, tabRadius);
 }
 
@@ -109,7 +102,7 @@ void paintTabFoot(QPainter *painter, const QRect &rect, const QColor &color)
         painter->fillRect(foot, color);
     const QPoint bright[] = {rect.bottomRight() + QPoint(-2, -1), rect.bottomLeft() + QPoint(0, -1),
                              rect.bottomRight() + QPoint(-1, -1)};
-    painter->setPen(StyleColors::fixed(StyleColors::innerContrastLine));
+    painter->setPen(QColor::fromRgba(StyleColors::innerContrastLine));
     painter->drawPoints(bright, 3);
 }
 
@@ -135,11 +128,12 @@ void paintTabShape(const PaintCall &call)
     const QRect area = turn.mapRect(rect.adjusted(-2, -2, 2, 2));
     const QString prefix =
         QLatin1String(hasFrame ? "framedtab" : "tab") + QChar(static_cast<ushort>(tab->shape));
-    drawKept(call.painter, area.topLeft(), prefix, tab, area.size(), [&](QPainter *painter) {
-        painter->translate(-area.topLeft());
-        painter->setTransform(turn, true);
-        paintTabBody(painter, call, rect, color);
-    });
+    StyleHelpers::drawKept(call.painter, area.topLeft(), prefix, tab, area.size(),
+                           [&](QPainter *painter) {
+                               painter->translate(-area.topLeft());
+                               painter->setTransform(turn, true);
+                               paintTabBody(painter, call, rect, color);
+                           });
     if (call.has(QStyle::State_Selected)) {
         const PainterSaver saver(call.painter);
         call.painter->setTransform(turn, true);

@@ -2,14 +2,13 @@
 #include "stylehelpers_p.h"
 #include "stylepainting_p.h"
 
+#include <nocturne/painting/themepaint_p.h>
+
 #include <QtWidgets/QMainWindow>
 
 #include <algorithm>
 
 namespace Nocturne::StylePaint {
-
-using StyleHelpers::PainterSaver;
-
 namespace {
 
 // Dots of a grip lie three units apart, from six left of and above its middle.
@@ -109,7 +108,7 @@ void paintToolBarLines(QPainter *painter, const QStyleOptionToolBar &toolBar)
     for (const ToolBarLine &line : toolBarLines) {
         if (line.area == toolBar.toolBarArea && (line.positions & at(toolBar.positionOfLine))) {
             painter->fillRect(edgeUnits(toolBar.rect, line.edge, line.distance),
-                              StyleColors::fixed(line.color));
+                              QColor::fromRgba(line.color));
         }
     }
 }
@@ -118,13 +117,12 @@ QBrush toolBarFill(const PaintCall &call)
 {
     const QRect &r = call.rect();
     const QColor window = call.color(QPalette::Window);
-    QLinearGradient gradient = verticalGradient(r);
+    QLinearGradient gradient = ThemePaint::verticalGradient(
+        r.top(), r.bottom(), {{0.0, window.lighter(104)}, {1.0, window}});
     if (!call.has(QStyle::State_Horizontal)) {
         gradient.setStart(r.left(), r.center().y());
         gradient.setFinalStop(r.right(), r.center().y());
     }
-    gradient.setColorAt(0.0, window.lighter(104));
-    gradient.setColorAt(1.0, window);
     return gradient;
 }
 
@@ -167,7 +165,7 @@ void paintRubberBand(const PaintCall &call)
     call.painter->setPen(StyleColors::withAlpha(highlight.darker(120), rubberBandOutlineAlpha));
     call.painter->setBrush(rubberBandFill(highlight, isTopLevel));
     call.painter->drawRoundedRect(r.adjusted(0, 0, -1, -1), 1, 1);
-    call.painter->setPen(StyleColors::fixed(rubberBandContrast));
+    call.painter->setPen(QColor::fromRgba(rubberBandContrast));
     call.painter->drawRoundedRect(r.adjusted(1, 1, -2, -2), 1, 1);
 }
 

@@ -1,6 +1,6 @@
 #include "darkproxystyle.h"
 
-#include "stylehelpers_p.h"
+#include <nocturne/painting/painterguards_p.h>
 
 #include <QtCore/QRegularExpression>
 #include <QtWidgets/QStyleOption>
@@ -67,7 +67,7 @@ void DarkProxyStyle::drawControl(ControlElement element, const QStyleOption *opt
 void DarkProxyStyle::drawMenuBadge(const QStyleOption *option, const QString &label,
                                    QPainter *painter, const QWidget *widget) const
 {
-    const Nocturne::StyleHelpers::PainterSaver saver(painter);
+    const Nocturne::PainterSaver saver(painter);
     painter->setBackgroundMode(Qt::OpaqueMode);
     painter->setBackground(Qt::red);
     painter->setBrush(Qt::blue);

@@ -64,7 +64,7 @@ void paintDialShadow(QPainter *painter, const DialMetrics &metrics)
     const qreal size = std::max(1.0, metrics.penSize / 2);
     const QRectF rect = metrics.disc.adjusted(-2 * size, -2 * size, 2 * size, 2 * size);
     QRadialGradient gradient(rect.center(), rect.width() / 2);
-    gradient.setColorAt(0.91, StyleColors::fixed(dialShadow));
+    gradient.setColorAt(0.91, QColor::fromRgba(dialShadow));
     gradient.setColorAt(1.0, Qt::transparent);
     painter->setPen(Qt::NoPen);
     painter->setBrush(gradient);
@@ -128,7 +128,7 @@ QBrush knobBrush(const QRectF &knob, const QColor &button)
 void paintDialKnob(QPainter *painter, const QStyleOptionSlider *option, const DialMetrics &metrics)
 {
     if (metrics.penSize > 3.0) {
-        painter->setPen(QPen(StyleColors::fixed(pointerColor), metrics.penSize));
+        painter->setPen(QPen(QColor::fromRgba(pointerColor), metrics.penSize));
         painter->drawLine(dialRadialPos(option, 0.90), dialRadialPos(option, 0.96));
     }
 
@@ -138,9 +138,9 @@ void paintDialKnob(QPainter *painter, const QStyleOptionSlider *option, const Di
     const qreal size = metrics.radius / 7;
     const QRectF knob(position.x() - size, position.y() - size, 2 * size, 2 * size);
     painter->setBrush(knobBrush(knob, button));
-    painter->setPen(StyleColors::fixed(knobRim));
+    painter->setPen(QColor::fromRgba(knobRim));
     painter->drawEllipse(knob.adjusted(-1, -1, 1, 1));
-    painter->setPen(StyleColors::fixed(knobOutline));
+    painter->setPen(QColor::fromRgba(knobOutline));
     painter->drawEllipse(knob);
 }
 

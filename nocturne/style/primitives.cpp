@@ -1,8 +1,6 @@
 #include "darkfusionstyle_p.h"
 #include "stylepainting_p.h"
 
-#include <QtWidgets/QApplication>
-
 #include <array>
 
 namespace {
@@ -53,14 +51,6 @@ QIcon &Nocturne::StylePaint::tabCloseIcon(const DarkFusionStyle *style)
 {
     return static_cast<const DarkFusionStylePrivate *>(QObjectPrivate::get(style))
         ->tabBarcloseButtonIcon;
-}
-
-bool Nocturne::StylePaint::showsPixmapsUnchanged(const QPainter *painter)
-{
-    const QTransform transform = painter->deviceTransform();
-    const qreal ratio = qApp->devicePixelRatio();
-    return transform.type() <= QTransform::TxScale && qFuzzyCompare(transform.m11(), ratio)
-           && qFuzzyCompare(transform.m22(), ratio);
 }
 
 void DarkFusionStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,

@@ -5,9 +5,6 @@
 #include <nocturne/painting/themepaint_p.h>
 
 namespace Nocturne::StylePaint {
-
-using StyleHelpers::PainterSaver;
-
 namespace {
 
 // Window shifted, for a panel that stands out of its window.
@@ -29,7 +26,7 @@ void paintRaisedPanel(QPainter *painter, const QPalette &palette, const QRect &r
     const auto window = [&palette](int shift) { return StyleColors::window(palette, shift); };
     painter->setPen(window(raisedBorderShift));
     painter->setBrush(ThemePaint::verticalGradient(
-        r, {{0.0, window(raisedTopShift)}, {1.0, window(raisedBottomShift)}}));
+        r.top(), r.height(), {{0.0, window(raisedTopShift)}, {1.0, window(raisedBottomShift)}}));
     painter->drawRect(r);
     painter->setBrush(Qt::NoBrush);
     painter->setPen(window(raisedHighlightShift));
@@ -39,8 +36,8 @@ void paintRaisedPanel(QPainter *painter, const QPalette &palette, const QRect &r
 void paintSunkenPanel(QPainter *painter, const QRect &r)
 {
     painter->setPen(QColor(sunkenBorder));
-    painter->setBrush(
-        ThemePaint::verticalGradient(r, {{0.0, QColor(sunkenTop)}, {1.0, QColor(sunkenBottom)}}));
+    painter->setBrush(ThemePaint::verticalGradient(
+        r.top(), r.height(), {{0.0, QColor(sunkenTop)}, {1.0, QColor(sunkenBottom)}}));
     painter->drawRect(r);
 }
 
@@ -91,18 +88,14 @@ void paintPanelButtonCommand(const PaintCall &call)
         }
     }
 
-    const QRect &rect = call.rect();
-    if (!StyleHelpers::hasPlainTransform(call.painter)) {
-        const PainterSaver saver(call.painter);
-        paintButtonPanel(call.painter, call.palette(), rect, isDown);
-        return;
-    }
+    const QSize size = call.rect().size();
     const QString prefix =
         isDefault ? QStringLiteral("pushbutton-1") : QStringLiteral("pushbutton-0");
-    const QString key = StyleHelpers::styleCacheKey(prefix, call.option, rect.size());
-    StyleHelpers::drawCached(call.painter, rect.topLeft(), key, rect.size(), [&](QPainter *panel) {
-        paintButtonPanel(panel, call.palette(), QRect(QPoint(), rect.size()), isDown);
-    });
+    StyleHelpers::drawCachedUnlessTransformed(
+        call.painter, call.rect().topLeft(), StyleHelpers::styleCacheKey(prefix, call.option, size),
+        size, [&](QPainter *panel) {
+            paintButtonPanel(panel, call.palette(), QRect(QPoint(), size), isDown);
+        });
 }
 
 void paintPanelButtonTool(const PaintCall &call)

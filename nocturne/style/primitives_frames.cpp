@@ -2,6 +2,8 @@
 #include "stylehelpers_p.h"
 #include "stylepainting_p.h"
 
+#include <nocturne/painting/themepaint_p.h>
+
 #include <QtCore/QMargins>
 #include <QtWidgets/QTabBar>
 #include <qdrawutil.h>
@@ -9,9 +11,6 @@
 #include <algorithm>
 
 namespace Nocturne::StylePaint {
-
-using StyleHelpers::PainterSaver;
-
 namespace {
 
 constexpr QRgb tabPageShadow = 0x0f000000; // black, alpha 15
@@ -52,8 +51,8 @@ QPixmap groupBoxImage()
 {
     const QString fileName = StyleHelpers::groupBoxImageFileName();
     QPixmap pixmap;
-    if (!StyleHelpers::findCached(fileName, &pixmap) && pixmap.load(fileName))
-        StyleHelpers::insertCached(fileName, pixmap);
+    if (!QPixmapCache::find(fileName, &pixmap) && pixmap.load(fileName))
+        QPixmapCache::insert(fileName, pixmap);
     return pixmap;
 }
 
@@ -127,9 +126,8 @@ void paintFrameFocusRect(const PaintCall &call)
         return;
     const QColor color = StyleColors::highlightedOutlineColor(call.palette());
     const QColor fill = StyleColors::withAlpha(color, focusFillAlpha);
-    QLinearGradient gradient = verticalGradient(call.rect());
-    gradient.setColorAt(0.0, fill.lighter(160));
-    gradient.setColorAt(1.0, fill);
+    const QLinearGradient gradient = ThemePaint::verticalGradient(
+        call.rect().top(), call.rect().bottom(), {{0.0, fill.lighter(160)}, {1.0, fill}});
 
     const PainterSaver saver(call.painter);
     beginSharpAntialiasing(call.painter);
@@ -176,7 +174,7 @@ void paintFrameTabWidget(const PaintCall &call)
     call.painter->fillRect(r.adjusted(0, 0, -1, -1), call.color(QPalette::Window));
     const auto *frame = call.as<QStyleOptionTabWidgetFrame>();
     if (frame && frame->shape != QTabBar::RoundedSouth)
-        fillRow(call.painter, r.left(), r.right(), r.bottom(), StyleColors::fixed(tabPageShadow));
+        fillRow(call.painter, r.left(), r.right(), r.bottom(), QColor::fromRgba(tabPageShadow));
 }
 
 void paintFrameTabBarBase(const PaintCall &call)

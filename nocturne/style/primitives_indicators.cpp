@@ -2,6 +2,8 @@
 #include "stylehelpers_p.h"
 #include "stylepainting_p.h"
 
+#include <nocturne/painting/themepaint_p.h>
+
 #include <QtGui/QPainterPath>
 
 #include <cmath>
@@ -41,10 +43,8 @@ void paintCheckBoxField(QPainter *painter, const PaintCall &call, const QRect &r
         painter->setBrush(pressedColor(call));
     } else {
         const QColor base = call.color(QPalette::Base);
-        QLinearGradient gradient = verticalGradient(r);
-        gradient.setColorAt(0.0, base.darker(115));
-        gradient.setColorAt(0.15, base);
-        gradient.setColorAt(1.0, base);
+        const QLinearGradient gradient = ThemePaint::verticalGradient(
+            r.top(), r.bottom(), {{0.0, base.darker(115)}, {0.15, base}, {1.0, base}});
         painter->setBrush(gradient);
     }
     painter->setPen(call.hasKeyboardFocus()
@@ -55,9 +55,10 @@ void paintCheckBoxField(QPainter *painter, const PaintCall &call, const QRect &r
 
 void paintPartialMark(QPainter *painter, const QColor &check, const QRect &r, int margin)
 {
-    QLinearGradient gradient = verticalGradient(r);
-    gradient.setColorAt(0.0, StyleColors::withAlpha(check, partialTopAlpha));
-    gradient.setColorAt(1.0, StyleColors::withAlpha(check, partialBottomAlpha));
+    const QLinearGradient gradient =
+        ThemePaint::verticalGradient(r.top(), r.bottom(),
+                                     {{0.0, StyleColors::withAlpha(check, partialTopAlpha)},
+                                      {1.0, StyleColors::withAlpha(check, partialBottomAlpha)}});
     painter->setPen(StyleColors::withAlpha(check, partialOutlineAlpha));
     painter->setBrush(gradient);
     painter->drawRect(r.adjusted(margin, margin, -margin, -margin));
@@ -119,8 +120,8 @@ void paintDots(const PaintCall &call, const int (&columns)[Columns], const int (
 
 void paintGripDot(QPainter *painter, int x, int y)
 {
-    painter->fillRect(x, y, 2, 2, StyleColors::fixed(StyleColors::lightShade));
-    painter->fillRect(x, y, 1, 1, StyleColors::fixed(StyleColors::darkShade));
+    painter->fillRect(x, y, 2, 2, QColor::fromRgba(StyleColors::lightShade));
+    painter->fillRect(x, y, 1, 1, QColor::fromRgba(StyleColors::darkShade));
 }
 
 void paintIndicatorArrowDown(const PaintCall &call)
@@ -157,8 +158,8 @@ void paintIndicatorCheckBox(const PaintCall &call)
     if (!call.as<QStyleOptionButton>())
         return;
     const QRect &r = call.rect();
-    drawKept(call.painter, r.topLeft(), QStringLiteral("checkbox"), call.option, r.size(),
-             [&call](QPainter *painter) { paintCheckBox(painter, call); });
+    StyleHelpers::drawKept(call.painter, r.topLeft(), QStringLiteral("checkbox"), call.option,
+                           r.size(), [&call](QPainter *painter) { paintCheckBox(painter, call); });
 }
 
 void paintIndicatorDockWidgetResizeHandle(const PaintCall &call)
@@ -204,10 +205,10 @@ void paintIndicatorRadioButton(const PaintCall &call)
     // The square around the circle and its line, which may reach out of the rectangle.
     const int reach = static_cast<int>(std::ceil(radius + 0.5));
     const QSize size(2 * reach, 2 * reach);
-    drawKept(call.painter, centre - QPoint(reach, reach), QStringLiteral("radiobutton"),
-             call.option, size, [&](QPainter *painter) {
-                 paintRadioButton(painter, call, QPointF(reach, reach), radius);
-             });
+    StyleHelpers::drawKept(
+        call.painter, centre - QPoint(reach, reach), QStringLiteral("radiobutton"), call.option,
+        size,
+        [&](QPainter *painter) { paintRadioButton(painter, call, QPointF(reach, reach), radius); });
 }
 
 void paintIndicatorToolBarHandle(const PaintCall &call)

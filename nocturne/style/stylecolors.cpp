@@ -27,11 +27,6 @@ int merged(int a, int b, int factor)
 
 } // namespace
 
-QColor shifted(const QColor &color, int shift, int alpha)
-{
-    return ThemePaint::shifted(color, shift, alpha);
-}
-
 QColor withAlpha(QColor color, int alpha)
 {
     color.setAlpha(alpha);
@@ -40,13 +35,13 @@ QColor withAlpha(QColor color, int alpha)
 
 QColor window(const QPalette &palette, int shift, int alpha)
 {
-    return shifted(palette.color(QPalette::Window), shift, alpha);
+    return ThemePaint::shifted(palette.color(QPalette::Window), shift, alpha);
 }
 
 QColor outlineColor(const QPalette &palette)
 {
     if (hasTexturedWindow(palette))
-        return fixed(texturedOutline);
+        return QColor::fromRgba(texturedOutline);
     return palette.color(QPalette::Window).darker(140);
 }
 
@@ -70,7 +65,7 @@ QColor highlightedOutlineColor(const QPalette &palette)
 QColor tabFrameColor(const QPalette &palette)
 {
     if (hasTexturedWindow(palette))
-        return fixed(texturedTabFrame);
+        return QColor::fromRgba(texturedTabFrame);
     return buttonColor(palette).lighter(104);
 }
 

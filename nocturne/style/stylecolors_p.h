@@ -13,18 +13,10 @@ class QWidget;
 namespace Nocturne::StyleColors {
 
 /// Dark and light dots, and the line inside the outline of a raised part.
+// QColor::fromRgba() makes colours of them; QColor(QRgb) would make them opaque.
 constexpr QRgb darkShade = 0x3c000000;         // black, alpha 60
 constexpr QRgb lightShade = 0x5affffff;        // white, alpha 90
 constexpr QRgb innerContrastLine = 0x1effffff; // white, alpha 30
-
-/// A colour given with its alpha. QColor(QRgb) would make it opaque.
-inline QColor fixed(QRgb rgba)
-{
-    return QColor::fromRgba(rgba);
-}
-
-/// \a color with \a shift added to red, green and blue; the result has the alpha given.
-QColor shifted(const QColor &color, int shift, int alpha = 255);
 
 /// \a color at \a alpha.
 QColor withAlpha(QColor color, int alpha);

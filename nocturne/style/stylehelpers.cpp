@@ -1,11 +1,10 @@
 #include "stylehelpers_p.h"
 
 #include "stylecolors_p.h"
-#include "stylepainting_p.h"
 
+#include <nocturne/painting/devicepixels_p.h>
 #include <nocturne/painting/toolkitexports_p.h>
 
-#include <QtGui/QPixmapCache>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleOption>
 
@@ -234,8 +233,8 @@ void drawTitleButtonHighlight(QPainter *painter, const QRect &r, const QColor &c
 void drawTitleButtonEdge(QPainter *painter, const QRect &r)
 {
     QLinearGradient gradient(r.center().x(), r.top(), r.center().x(), r.bottom());
-    gradient.setColorAt(0.0, StyleColors::fixed(titleButtonEdgeTop));
-    gradient.setColorAt(1.0, StyleColors::fixed(titleButtonEdgeBottom));
+    gradient.setColorAt(0.0, QColor::fromRgba(titleButtonEdgeTop));
+    gradient.setColorAt(1.0, QColor::fromRgba(titleButtonEdgeBottom));
     painter->setPen(QPen(gradient, 1));
     painter->drawLine(r.right() + 1, r.top() + 2, r.right() + 1, r.bottom() - 2);
     painter->drawPoint(r.right(), r.top() + 1);
@@ -279,16 +278,6 @@ QPixmap styleCachePixmap(const QSize &size)
     return pixmap;
 }
 
-bool findCached(const QString &key, QPixmap *pixmap)
-{
-    return QPixmapCache::find(key, pixmap);
-}
-
-void insertCached(const QString &key, const QPixmap &pixmap)
-{
-    QPixmapCache::insert(key, pixmap);
-}
-
 bool fitsCache(const QSize &size)
 {
     const qreal ratio = qApp->devicePixelRatio();
@@ -296,12 +285,10 @@ bool fitsCache(const QSize &size)
     return bytes <= 1024.0 * QPixmapCache::cacheLimit();
 }
 
-bool hasPlainTransform(const QPainter *painter)
+bool showsPixmapsUnchanged(const QPainter *painter)
 {
-    const QTransform::TransformationType device = painter->deviceTransform().type();
-    return device == QTransform::TxScale
-           || (device <= QTransform::TxTranslate
-               && painter->worldTransform().type() <= QTransform::TxTranslate);
+    const int ratio = wholeRatio(*painter);
+    return ratio > 0 && ratio == qApp->devicePixelRatio();
 }
 
 QString arrowImageFileName()
@@ -318,7 +305,7 @@ QPixmap colorizedImage(const QString &fileName, const QColor &color, int rotatio
 {
     const QString key = colorizedImageKey(fileName, color.rgba(), rotation);
     QPixmap pixmap;
-    if (findCached(key, &pixmap))
+    if (QPixmapCache::find(key, &pixmap))
         return pixmap;
 
     QImage image = sourceImage(fileName);
@@ -326,7 +313,7 @@ QPixmap colorizedImage(const QString &fileName, const QColor &color, int rotatio
         return QPixmap();
     colorize(&image, color.rgba());
     pixmap = QPixmap::fromImage(turned(image, rotation));
-    insertCached(key, pixmap);
+    QPixmapCache::insert(key, pixmap);
     return pixmap;
 }
 
@@ -345,8 +332,8 @@ void drawArrowImage(QStyle::PrimitiveElement element, QPainter *painter, const Q
                            colorizedImage(arrowImageFileName(), color, arrowRotation(element)));
     };
     // The colour alone, not the option: those who paint arrows change their palettes at each paint.
-    StylePaint::drawKept(painter, rect.topLeft(), scaledArrowPrefix(element, color), nullptr,
-                         rect.size(), paintScaled);
+    drawKept(painter, rect.topLeft(), scaledArrowPrefix(element, color), nullptr, rect.size(),
+             paintScaled);
 }
 
 void drawToolButtonArrow(const QStyle *style, const QStyleOptionToolButton *option,
@@ -385,11 +372,11 @@ void drawTitleBarButton(QPainter *painter, const QStyleOptionTitleBar *option, c
     if (sunken)
         painter->fillRect(inner, highlight.darker(120));
     else if (hover)
-        painter->fillRect(inner, StyleColors::fixed(titleButtonHover));
+        painter->fillRect(inner, QColor::fromRgba(titleButtonHover));
 
     drawTitleButtonBorder(painter, rect, titleButtonBorder(option, highlight));
     drawTitleButtonHighlight(
-        painter, rect, sunken ? highlight.darker(130) : StyleColors::fixed(titleButtonHighlight));
+        painter, rect, sunken ? highlight.darker(130) : QColor::fromRgba(titleButtonHighlight));
     drawTitleButtonEdge(painter, rect);
 }
 

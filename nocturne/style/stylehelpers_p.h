@@ -1,10 +1,12 @@
 #ifndef NOCTURNE_STYLEHELPERS_P_H
 #define NOCTURNE_STYLEHELPERS_P_H
 
+#include <nocturne/painting/painterguards_p.h>
+
 #include <QtCore/QLineF>
 #include <QtCore/QVector>
-#include <QtGui/QPainter>
 #include <QtGui/QPixmap>
+#include <QtGui/QPixmapCache>
 #include <QtWidgets/QStyle>
 
 class QStyleOption;
@@ -14,23 +16,6 @@ class QStyleOptionToolButton;
 
 /// The tools that the paint functions of the style share.
 namespace Nocturne::StyleHelpers {
-
-/// Saves a painter's state and restores it at the end of the scope.
-class PainterSaver
-{
-public:
-    explicit PainterSaver(QPainter *painter)
-        : m_painter(painter)
-    {
-        m_painter->save();
-    }
-    ~PainterSaver() { m_painter->restore(); }
-
-private:
-    Q_DISABLE_COPY(PainterSaver)
-
-    QPainter *m_painter;
-};
 
 /// \a value units at 96 DPI in units of the screen's logical DPI, which is read once per process.
 qreal dpiScaled(qreal value);
@@ -57,6 +42,13 @@ void drawCached(QPainter *painter, const QPoint &topLeft, const QString &key, co
 template <typename Paint>
 void drawCachedUnlessTransformed(QPainter *painter, const QPoint &topLeft, const QString &key,
                                  const QSize &size, Paint paint);
+
+/// Paints as \a paint(QPainter *) does for an origin at \a topLeft, within \a size units, and keeps
+/// the drawing for the next element with the same \a prefix, look and size. Under a painter that
+/// would blur a kept drawing, \a paint draws on the painter itself.
+template <typename Paint>
+void drawKept(QPainter *painter, const QPoint &topLeft, const QString &prefix,
+              const QStyleOption *option, const QSize &size, Paint paint);
 
 /// The name of the toolkit's upward arrow, for colorizedImage(). Where the toolkit was built
 /// without it, the style's own arrow answers to the name.
@@ -94,14 +86,11 @@ QVector<QLineF> dialTickLines(const QStyleOptionSlider *option);
 /// A point on the line from the dial's centre to its value, \a offset of the way out.
 QPointF dialRadialPos(const QStyleOptionSlider *option, qreal offset);
 
-bool findCached(const QString &key, QPixmap *pixmap);
-void insertCached(const QString &key, const QPixmap &pixmap);
-
 /// Whether the pixmap cache can hold a drawing of \a size units.
 bool fitsCache(const QSize &size);
 
-/// Whether \a painter moves or, for its device, scales its input and does nothing else to it.
-bool hasPlainTransform(const QPainter *painter);
+/// Whether a kept drawing reaches the device pixel by pixel.
+bool showsPixmapsUnchanged(const QPainter *painter);
 
 template <typename Paint>
 void paintAt(QPainter *painter, const QPoint &topLeft, Paint paint)
@@ -118,7 +107,7 @@ void drawCached(QPainter *painter, const QPoint &topLeft, const QString &key, co
     if (size.isEmpty())
         return;
     QPixmap pixmap;
-    if (!findCached(key, &pixmap)) {
+    if (!QPixmapCache::find(key, &pixmap)) {
         if (!fitsCache(size)) {
             paintAt(painter, topLeft, paint);
             return;
@@ -128,7 +117,7 @@ void drawCached(QPainter *painter, const QPoint &topLeft, const QString &key, co
         QPainter cachePainter(&pixmap);
         paint(&cachePainter);
         cachePainter.end();
-        insertCached(key, pixmap);
+        QPixmapCache::insert(key, pixmap);
     }
     painter->drawPixmap(topLeft, pixmap);
 }
@@ -139,10 +128,21 @@ void drawCachedUnlessTransformed(QPainter *painter, const QPoint &topLeft, const
 {
     if (size.isEmpty())
         return;
-    if (hasPlainTransform(painter))
+    if (painter->deviceTransform().type() <= QTransform::TxScale)
         drawCached(painter, topLeft, key, size, paint);
     else
         paintAt(painter, topLeft, paint);
+}
+
+template <typename Paint>
+void drawKept(QPainter *painter, const QPoint &topLeft, const QString &prefix,
+              const QStyleOption *option, const QSize &size, Paint paint)
+{
+    if (showsPixmapsUnchanged(painter)) {
+        drawCached(painter, topLeft, styleCacheKey(prefix, option, size), size, paint);
+    } else {
+        paintAt(painter, topLeft, paint);
+    }
 }
 
 } // namespace Nocturne::StyleHelpers

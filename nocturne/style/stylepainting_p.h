@@ -68,36 +68,12 @@ using Function = void (*)(const PaintCall &call);
 
 inline void paintNothing(const PaintCall &) {}
 
-/// Whether a pixmap at the application's device pixel ratio reaches the device pixel by pixel.
-bool showsPixmapsUnchanged(const QPainter *painter);
-
 /// Turns antialiasing on and moves the painter half a unit down and right, where lines of one
 /// unit cover whole pixels again.
 inline void beginSharpAntialiasing(QPainter *painter)
 {
     painter->setRenderHint(QPainter::Antialiasing);
     painter->translate(0.5, 0.5);
-}
-
-/// A gradient from the upper edge of \a rect to the upper edge of its last row.
-inline QLinearGradient verticalGradient(const QRect &rect)
-{
-    return QLinearGradient(rect.topLeft(), rect.bottomLeft());
-}
-
-/// Paints as \a paint(QPainter *) does for an origin at \a topLeft, within \a size units, and keeps
-/// the drawing for the next element with the same \a prefix, look and size. Under a painter that
-/// would blur a kept drawing, \a paint draws on the painter itself.
-template <typename Paint>
-void drawKept(QPainter *painter, const QPoint &topLeft, const QString &prefix,
-              const QStyleOption *option, const QSize &size, Paint paint)
-{
-    if (showsPixmapsUnchanged(painter)) {
-        StyleHelpers::drawCached(painter, topLeft,
-                                 StyleHelpers::styleCacheKey(prefix, option, size), size, paint);
-    } else {
-        StyleHelpers::paintAt(painter, topLeft, paint);
-    }
 }
 
 /// Lines of one unit along whole rows and columns of units, both ends included. They are filled,

@@ -155,12 +155,13 @@ void ColorButton::drawButton(QPainter *painter)
 
     if (isDown() || isChecked()) {
         painter->setBrush(Nocturne::ThemePaint::verticalGradient(
-            r, {{0, QColor(downTop)}, {1, QColor(downBottom)}}));
+            r.top(), r.height(), {{0, QColor(downTop)}, {1, QColor(downBottom)}}));
         painter->setPen(QColor(downBorder));
         painter->drawRect(r);
     } else {
         painter->setBrush(Nocturne::ThemePaint::verticalGradient(
-            r, {{0, Nocturne::ThemePaint::window(24)}, {1, Nocturne::ThemePaint::window(1)}}));
+            r.top(), r.height(),
+            {{0, Nocturne::ThemePaint::window(24)}, {1, Nocturne::ThemePaint::window(1)}}));
         painter->setPen(Nocturne::ThemePaint::window(-18));
         painter->drawRect(r);
         painter->setPen(Nocturne::ThemePaint::window(33));

@@ -25,7 +25,7 @@ void paintRule(QPainter *painter, QRect rect)
 void paintRaised(QPainter *painter, const QRect &rect)
 {
     painter->setBrush(Nocturne::ThemePaint::verticalGradient(
-        QRect(1, 1, rect.width() - 2, rect.height() - 2),
+        1, rect.height() - 2,
         {{0.0, Nocturne::ThemePaint::window(10)}, {1.0, Nocturne::ThemePaint::window(-7)}}));
     painter->setPen(Qt::black);
     painter->drawRect(rect);
@@ -38,9 +38,10 @@ void paintRaised(QPainter *painter, const QRect &rect)
 void paintSunken(QPainter *painter, const QRect &rect)
 {
     painter->setBrush(
-        Nocturne::ThemePaint::verticalGradient(rect, {{0.0, Nocturne::ThemePaint::window()},
-                                                      {0.4, Nocturne::ThemePaint::window(5)},
-                                                      {1.0, Nocturne::ThemePaint::window(-3)}}));
+        Nocturne::ThemePaint::verticalGradient(rect.top(), rect.height(),
+                                               {{0.0, Nocturne::ThemePaint::window()},
+                                                {0.4, Nocturne::ThemePaint::window(5)},
+                                                {1.0, Nocturne::ThemePaint::window(-3)}}));
     painter->drawRect(rect);
 }
 

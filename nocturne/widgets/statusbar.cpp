@@ -14,6 +14,7 @@ void StatusBar::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Nocturne::ThemePaint::verticalGradient(
-        rect(), {{0.0, Nocturne::ThemePaint::window()}, {1.0, Nocturne::ThemePaint::window(-7)}}));
+        rect().top(), rect().height(),
+        {{0.0, Nocturne::ThemePaint::window()}, {1.0, Nocturne::ThemePaint::window(-7)}}));
     painter.drawRect(rect());
 }

@@ -15,7 +15,7 @@ void paintBar(QPainter *painter, const QRect &bar)
 {
     painter->setPen(QColor(0, 0, 0, 128));
     painter->setBrush(Nocturne::ThemePaint::verticalGradient(
-        bar.adjusted(1, 1, -1, -1),
+        bar.top() + 1, bar.height() - 2,
         {{0.0, Nocturne::ThemePaint::window(-8)}, {1.0, Nocturne::ThemePaint::window(-16)}}));
     painter->drawRect(bar.adjusted(-1, 0, 2, -2));
 }
@@ -28,7 +28,8 @@ void paintSelectedTab(QPainter *painter, const QStyleOptionTab &tab)
         QRect(tab.rect.left(), 0, tab.rect.width(), tab.rect.height()).translated(4, 4);
     painter->setPen(Qt::NoPen);
     painter->setBrush(Nocturne::ThemePaint::verticalGradient(
-        shape, {{0.0, Nocturne::ThemePaint::window(10)}, {1.0, Nocturne::ThemePaint::window()}}));
+        shape.top(), shape.height(),
+        {{0.0, Nocturne::ThemePaint::window(10)}, {1.0, Nocturne::ThemePaint::window()}}));
     painter->drawRoundedRect(shape, tabRadius, tabRadius);
 }
 

@@ -283,8 +283,8 @@ void tst_StyleHelpers::uncacheableDrawingIsPaintedInPlace()
     COMPARE_PIXEL(image, 5, 2, Qt::red);
     COMPARE_PIXEL(image, 5, 4, Qt::red);
     QPixmap pixmap;
-    QVERIFY(!Nocturne::StyleHelpers::findCached(QStringLiteral("huge"), &pixmap));
-    QVERIFY(!Nocturne::StyleHelpers::findCached(QStringLiteral("turned"), &pixmap));
+    QVERIFY(!QPixmapCache::find(QStringLiteral("huge"), &pixmap));
+    QVERIFY(!QPixmapCache::find(QStringLiteral("turned"), &pixmap));
 }
 
 /// The toolkit's arrow, or the style's own where that is missing: an upright triangle.
