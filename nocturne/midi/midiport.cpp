@@ -10,22 +10,23 @@ namespace Nocturne {
 void MidiPort::attach(RtMidi *device, const char *direction, QStringList errors)
 {
     m_device = device;
-    errors.removeDuplicates();
-    if (!device) {
-        qWarning("There is no MIDI %s: %s", direction,
-                 qPrintable(errors.join(QStringLiteral("; "))));
-        return;
+    if (device) {
+        // An interface whose service is not running is created all the same; it says so when asked.
+        device->setErrorCallback(&MidiPort::keepAbsence, this);
+        guarded([this] { m_device->getPortCount(); });
+        device->setErrorCallback(&MidiPort::onError, this);
+        for (const std::string &absence : m_absences)
+            errors << QString::fromStdString(absence);
     }
-    // RtMidi has written these to the standard error stream itself, before it threw them.
-    for (const QString &error : qAsConst(errors))
-        qWarning("%s", qPrintable(error));
 
-    device->setErrorCallback(&MidiPort::onError, this);
-    // An interface whose service is not running is created all the same; it says so when asked.
-    m_failed = false;
-    guarded([this] { m_device->getPortCount(); });
-    if (m_failed)
-        qWarning("There is no MIDI %s: no MIDI service is running", direction);
+    // RtMidi has written these to the standard error stream itself, while the device was created.
+    errors.removeDuplicates();
+    if (!device || !m_absences.empty()) {
+        qWarning("There is no MIDI %s: %s", direction, qPrintable(errors.join(QLatin1Char(' '))));
+    } else {
+        for (const QString &error : qAsConst(errors))
+            qWarning("%s", qPrintable(error));
+    }
 }
 
 void MidiPort::detach()
@@ -42,11 +43,16 @@ bool MidiPort::isOpen() const
 QStringList MidiPort::portNames()
 {
     QStringList names;
+    m_failed = false;
+    m_listing = true;
     guarded([this, &names] {
         // Counted anew each time: devices come and go, and an index past the last is not safe.
         for (unsigned int i = 0; i < m_device->getPortCount(); ++i)
             names << QString::fromStdString(m_device->getPortName(i));
     });
+    m_listing = false;
+    if (!m_failed)
+        m_absences.clear();
     m_names = distinctNames(names);
     return m_names.values();
 }
@@ -79,6 +85,7 @@ bool MidiPort::openPort(const QString &name)
 
 void MidiPort::openPort(unsigned int index)
 {
+    m_closedReported = false;
     guarded([this, index] {
         // RtMidi reads past its list for an index that JACK does not have.
         if (index < m_device->getPortCount())
@@ -92,6 +99,7 @@ void MidiPort::openPort(unsigned int index)
 void MidiPort::openVirtualPort(const QString &name)
 {
     m_failed = false;
+    m_closedReported = false;
     guarded([this, &name] {
         m_device->openVirtualPort(name.toStdString());
         m_virtualPortOpen = !m_failed;
@@ -108,11 +116,31 @@ void MidiPort::closeOpenPort()
     });
 }
 
+void MidiPort::reportClosed()
+{
+    if (!m_closedReported)
+        report(RtMidiError::WARNING, "QMidiOut: no port is open, nothing is sent");
+    m_closedReported = true;
+}
+
 void MidiPort::onError(RtMidiError::Type type, const std::string &text, void *port)
 {
-    if (type != RtMidiError::DEBUG_WARNING)
-        static_cast<MidiPort *>(port)->m_failed = true;
+    if (type == RtMidiError::DEBUG_WARNING)
+        return;
+    auto *self = static_cast<MidiPort *>(port);
+    self->m_failed = true;
+    // A host may ask for the ports every second; it is told of each reason once.
+    if (self->m_absences.count(text) > 0)
+        return;
+    if (self->m_listing)
+        self->m_absences.insert(text);
     report(type, text);
+}
+
+void MidiPort::keepAbsence(RtMidiError::Type type, const std::string &text, void *port)
+{
+    if (type != RtMidiError::DEBUG_WARNING)
+        static_cast<MidiPort *>(port)->m_absences.insert(text);
 }
 
 void MidiPort::report(RtMidiError::Type type, const std::string &text)

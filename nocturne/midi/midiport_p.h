@@ -1,6 +1,7 @@
 #ifndef NOCTURNE_MIDIPORT_P_H
 #define NOCTURNE_MIDIPORT_P_H
 
+#include <nocturne/midi/driversilence_p.h>
 #include <nocturne/midi/qmidimessage.h>
 
 #include <QtCore/QMap>
@@ -8,8 +9,10 @@
 
 #include <rtmidi/RtMidi.h>
 
+#include <algorithm>
 #include <exception>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -28,8 +31,8 @@ public:
     {}
 
     /// Creates the device with \a create(interface): by RtMidi's own choice or, when that fails,
-    /// by the first compiled interface that does not. Null, after one warning that there is no
-    /// MIDI \a direction, when none works.
+    /// by a compiled interface that does not. Null when none works. A port without device or
+    /// without a service says once, with the reasons, that there is no MIDI \a direction.
     template <typename Device, typename Create>
     std::unique_ptr<Device> createDevice(const char *direction, Create create);
 
@@ -42,6 +45,9 @@ public:
     void openPort(unsigned int index);
     void openVirtualPort(const QString &name);
     void closeOpenPort();
+
+    /// Says that nothing is sent because no port is open, once until one has been opened.
+    void reportClosed();
 
     /// Runs \a work, which calls RtMidi. What it throws is reported, not passed on.
     template <typename Work>
@@ -56,12 +62,16 @@ public:
 private:
     void attach(RtMidi *device, const char *direction, QStringList errors);
     static void onError(RtMidiError::Type type, const std::string &text, void *port);
+    static void keepAbsence(RtMidiError::Type type, const std::string &text, void *port);
 
     std::string m_portName;
     RtMidi *m_device = nullptr;
     QMap<int, QString> m_names;
     bool m_virtualPortOpen = false;
-    bool m_failed = false; ///< RtMidi has reported something since this was reset
+    bool m_failed = false;            ///< RtMidi has reported something since this was reset
+    bool m_listing = false;           ///< the ports are being asked for
+    std::set<std::string> m_absences; ///< why they could not be listed of late; reported already
+    bool m_closedReported = false;
 };
 
 /// The message in \a bytes, received \a seconds after the one before. Missing bytes read as 0.
@@ -73,9 +83,13 @@ void receiveMidiMessage(double seconds, std::vector<unsigned char> *bytes, void 
 template <typename Device, typename Create>
 std::unique_ptr<Device> MidiPort::createDevice(const char *direction, Create create)
 {
-    // RtMidi's own choice gives up when the first interface fails, even if another would work.
+    const DriverSilence silence;
+    // RtMidi's own choice gives up when an interface fails, even if another would work. As a rule
+    // it is the first that has failed, and would say so again.
     std::vector<RtMidi::Api> interfaces;
     RtMidi::getCompiledApi(interfaces);
+    if (!interfaces.empty())
+        std::rotate(interfaces.begin(), interfaces.begin() + 1, interfaces.end());
     interfaces.insert(interfaces.begin(), RtMidi::UNSPECIFIED);
 
     QStringList errors;
@@ -97,6 +111,7 @@ void MidiPort::guarded(Work work)
 {
     if (!m_device)
         return;
+    const DriverSilence silence;
     try {
         work();
     } catch (const RtMidiError &error) {

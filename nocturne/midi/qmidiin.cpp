@@ -34,6 +34,7 @@ QMidiIn::~QMidiIn()
 {
     // The service may be delivering a message at this moment; the device waits for it to finish,
     // while this object is still whole.
+    const Nocturne::DriverSilence silence;
     m_device.reset();
 }
 

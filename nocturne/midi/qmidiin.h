@@ -26,7 +26,8 @@ class MidiPort;
 /// Create it, call it and destroy it on one thread, normally the GUI thread. The signal comes on
 /// the thread of the MIDI service; a receiver that lives in another thread gets it queued.
 ///
-/// Without a MIDI service the object works, lists nothing and opens nothing; one warning says so.
+/// Without a MIDI service the object works, lists nothing and opens nothing; one warning says so,
+/// however often it is asked.
 /// Errors are written to the standard error stream and, from the rank of an error on, logged as
 /// warnings. System-exclusive, timing-clock and active-sensing messages are not received. An input
 /// whose service was restarted stays silent: make a new one.

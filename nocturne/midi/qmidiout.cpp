@@ -24,6 +24,7 @@ QMidiOut::~QMidiOut()
 {
     finishSending();
     m_sender.reset();
+    const Nocturne::DriverSilence silence;
     m_device.reset();
 }
 
@@ -104,8 +105,7 @@ void QMidiOut::sendOverJack(QMidiMessage::Bytes bytes)
 {
     // RtMidi would keep the message until a port is opened, and hang when it has kept too many.
     if (!m_port->isOpen()) {
-        Nocturne::MidiPort::report(RtMidiError::WARNING,
-                                   "QMidiOut: no port is open, nothing is sent");
+        m_port->reportClosed();
         return;
     }
     if (!m_sender)

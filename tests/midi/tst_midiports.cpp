@@ -6,11 +6,13 @@
 
 #include <QtCore/QMutex>
 #include <QtCore/QStorageInfo>
+#include <QtCore/QTemporaryFile>
 #include <QtTest/QtTest>
 
 #include <atomic>
-#include <sstream>
+#include <dlfcn.h>
 #include <thread>
+#include <unistd.h>
 
 using Bytes = QMidiMessage::Bytes;
 
@@ -29,29 +31,36 @@ void keepLines(QtMsgType type, const QMessageLogContext &, const QString &text)
         debugLines << text;
 }
 
-/// Collects what is logged and what is written to std::cerr while it lives.
+/// Collects what is logged and what anybody writes to the standard error stream while it lives.
 class Diagnostics
 {
 public:
     Diagnostics()
         : m_handler(qInstallMessageHandler(keepLines))
-        , m_buffer(std::cerr.rdbuf(m_stream.rdbuf()))
+        , m_realError(dup(STDERR_FILENO))
     {
+        m_written.open();
+        dup2(m_written.handle(), STDERR_FILENO);
         warnings.clear();
         debugLines.clear();
     }
     ~Diagnostics()
     {
-        std::cerr.rdbuf(m_buffer);
+        dup2(m_realError, STDERR_FILENO);
+        close(m_realError);
         qInstallMessageHandler(m_handler);
     }
 
-    QString standardError() const { return QString::fromStdString(m_stream.str()); }
+    QString standardError() const
+    {
+        QFile file(m_written.fileName());
+        return file.open(QIODevice::ReadOnly) ? QString(file.readAll()) : QString();
+    }
 
 private:
     QtMessageHandler m_handler;
-    std::ostringstream m_stream;
-    std::streambuf *m_buffer;
+    QTemporaryFile m_written;
+    int m_realError;
 };
 
 /// A device of the service that keeps what it is sent, as bytes, with nothing filtered.
@@ -222,9 +231,18 @@ private Q_SLOTS:
         const Diagnostics diagnostics;
         QMidiIn input;
         QMidiOut output;
-        QCOMPARE(warnings.filter("There is no MIDI input").size(), 1);
-        QCOMPARE(warnings.filter("There is no MIDI output").size(), 1);
-        QVERIFY(input.portNames().isEmpty() && output.portNames().isEmpty());
+        QCOMPARE(warnings.size(), 2);
+        QVERIFY(warnings.first().startsWith("There is no MIDI input: Midi"));
+        QVERIFY(warnings.last().startsWith("There is no MIDI output: Midi"));
+        // What RtMidi itself has written, each text once; ALSA and JACK add nothing.
+        const QString written = diagnostics.standardError();
+        for (const QString &line : written.split('\n', Qt::SkipEmptyParts)) {
+            QVERIFY2(line.startsWith("Midi"), qPrintable(line));
+            QCOMPARE(written.count(line), 1);
+        }
+        for (int i = 0; i < 3; ++i)
+            QVERIFY(input.portNames().isEmpty() && output.portNames().isEmpty());
+        QCOMPARE(diagnostics.standardError(), written);
         QVERIFY(!input.openPort(QString()) && !output.openPort("Desk"));
         input.openVirtualPort("in");
         output.openVirtualPort("out");
@@ -237,6 +255,40 @@ private Q_SLOTS:
         message.setType(QMidiMessage::NoteOn);
         output.sendMessage(message);
         QCOMPARE(warnings.filter(QRegularExpression("no MIDI (in|out)put")).size(), 2);
+        QCOMPARE(diagnostics.standardError().count("no port is open"), 1);
+    }
+
+    void silencesItsOwnThreadOnly()
+    {
+        using Setter = void (*)(void (*)(const char *));
+        const auto setHandler =
+            reinterpret_cast<Setter>(dlsym(RTLD_DEFAULT, "jack_set_error_function"));
+        if (!setHandler)
+            QSKIP("RtMidi knows no JACK");
+        const Diagnostics diagnostics;
+        const auto ask = [] { RtMidiOut(RtMidi::UNIX_JACK, "client").getPortCount(); };
+        const QString line = "jack server is not running";
+        QMidiOut output;
+        {
+            const Nocturne::DriverSilence silence;
+            ask();
+            QVERIFY(!diagnostics.standardError().contains(line));
+            std::thread(ask).join();
+            QVERIFY(diagnostics.standardError().contains(line));
+        }
+        const int before = diagnostics.standardError().count(line);
+        ask();
+        QVERIFY(diagnostics.standardError().count(line) > before);
+
+        static int heard;
+        heard = 0;
+        setHandler([](const char *) { ++heard; });
+        output.portNames();
+        QVERIFY(heard > 0);
+        heard = 0;
+        ask();
+        QVERIFY(heard > 0);
+        setHandler(nullptr);
     }
 
     void hidesExceptions()
