@@ -1,0 +1,59 @@
+#ifndef DESKSTATE_H
+#define DESKSTATE_H
+
+#include <QtCore/QJsonObject>
+#include <QtCore/QPair>
+#include <QtCore/QPoint>
+#include <QtCore/QString>
+#include <QtCore/QVector>
+#include <QtGui/QColor>
+
+using Ramp = QVector<QPair<double, QColor>>;
+
+/// A clip of the bin. Its pictures are generated from its pattern.
+struct Clip
+{
+    QString name;
+    QString path; ///< of the file that was dropped
+    int pattern = 0;
+    int length = 250; ///< in frames, at least 2
+    int in = 0;       ///< first frame shown
+    int out = 249;    ///< last frame shown, at least in
+
+    bool operator==(const Clip &other) const;
+};
+
+/// What is done to every picture.
+struct Look
+{
+    int black = 0;   ///< brightness that becomes black, 0 to 255
+    int white = 255; ///< brightness that becomes white, above black
+    int amount = 0;  ///< how much of the ramp is mixed in, in percent
+    Ramp ramp = {{0.0, Qt::black}, {1.0, Qt::white}};
+    QPoint position; ///< of the picture in the frame, in pixels of 640 x 360
+
+    bool operator==(const Look &other) const;
+};
+
+/// Everything that can be undone, and that is kept from one start to the next.
+struct DeskState
+{
+    QVector<Clip> clips;
+    int current = -1; ///< row of the clip in the preview, -1 for none
+    Look look;
+    int transition = 25; ///< length of a mix in frames, 1 to 250
+    QString takeShortcut = QStringLiteral("Return");
+    QString playShortcut = QStringLiteral("Space");
+
+    bool operator==(const DeskState &other) const;
+
+    const Clip *currentClip() const;
+
+    QJsonObject toJson() const;
+
+    /// Reads what toJson() wrote. What is missing or out of range takes its default or nearest
+    /// value, so that a damaged file costs as little as possible.
+    static DeskState fromJson(const QJsonObject &object);
+};
+
+#endif
