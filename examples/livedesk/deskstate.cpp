@@ -82,6 +82,13 @@ QString shortcutFromJson(const QJsonValue &value, const QString &fallback)
 
 } // namespace
 
+bool isSameRamp(const Ramp &a, const Ramp &b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const auto &x, const auto &y) {
+        return x.first == y.first && x.second.rgba() == y.second.rgba();
+    });
+}
+
 bool Clip::operator==(const Clip &other) const
 {
     return name == other.name && path == other.path && pattern == other.pattern
@@ -91,7 +98,7 @@ bool Clip::operator==(const Clip &other) const
 bool Look::operator==(const Look &other) const
 {
     return black == other.black && white == other.white && amount == other.amount
-           && ramp == other.ramp && position == other.position;
+           && isSameRamp(ramp, other.ramp) && position == other.position;
 }
 
 bool DeskState::operator==(const DeskState &other) const

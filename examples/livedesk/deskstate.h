@@ -10,6 +10,9 @@
 
 using Ramp = QVector<QPair<double, QColor>>;
 
+/// Whether two ramps look the same: positions and colours of eight bits a channel.
+bool isSameRamp(const Ramp &a, const Ramp &b);
+
 /// A clip of the bin. Its pictures are generated from its pattern.
 struct Clip
 {

@@ -98,7 +98,7 @@ void LookPanel::refresh()
     const QSignalBlocker blockY(m_y);
     const QSignalBlocker blockTransition(m_transition);
     m_levels->setSpan(look.black, look.white);
-    if (m_ramp->getRamp() != look.ramp)
+    if (!isSameRamp(m_ramp->getRamp(), look.ramp))
         m_ramp->setRamp(look.ramp);
     m_amount->positionChange(look.amount);
     m_x->setValue(look.position.x());

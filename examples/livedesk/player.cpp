@@ -72,9 +72,10 @@ Player::Player(Desk *desk, QWidget *parent)
     m_tally->setElipse(true);
     m_tally->setFixedSize(18, 18);
 
-    auto *monitors = new QHBoxLayout;
-    monitors->addWidget(letterBox(m_preview, QStringLiteral("preview")));
+    auto *monitors = new QVBoxLayout;
+
     monitors->addWidget(letterBox(m_programMonitor, QStringLiteral("program")));
+    monitors->addWidget(letterBox(m_preview, QStringLiteral("preview")));
     auto *transport = new QHBoxLayout;
     transport->addWidget(m_play);
     transport->addWidget(m_time);
@@ -146,7 +147,7 @@ void Player::refresh()
 {
     const DeskState &state = m_desk->state();
     const Clip *clip = state.currentClip();
-    if (m_colorTable.isEmpty() || m_colorTableRamp != state.look.ramp) {
+    if (m_colorTable.isEmpty() || !isSameRamp(m_colorTableRamp, state.look.ramp)) {
         GradientTool table;
         table.setRamp(state.look.ramp);
         m_colorTable = table.getColorTable();
