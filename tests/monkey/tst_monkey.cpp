@@ -1,0 +1,757 @@
+#include "subjects.h"
+
+#include <nocturne/DarkFusionStyle>
+#include <nocturne/DarkProxyStyle>
+#include <nocturne/DarkUX>
+#include <nocturne/QBalloonTip>
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QMetaMethod>
+#include <QtCore/QMimeData>
+#include <QtCore/QPointer>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QTimer>
+#include <QtCore/QUrl>
+#include <QtGui/QDrag>
+#include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QStyleFactory>
+#include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+
+// A monkey: random events and calls on one class after the other. After every step it checks what
+// the class promises; a script that breaks something is cut down to the shortest that still does.
+//
+//   tst_monkey                             a short run over all classes, with a seed of the day
+//   tst_monkey --seed 7 --steps 100000     as long as wanted; --class Slider for one class
+//   tst_monkey --class Slider --replay 12,77,1034    the script that was printed
+
+namespace {
+
+/// A step is the seed of its dice, so any part of a script can be replayed on its own.
+using Script = std::vector<quint32>;
+
+/// Warnings of the toolkit that say nothing about the library.
+const char *const expectedWarnings[] = {
+    "QStandardPaths: XDG_RUNTIME_DIR not set",
+    "This plugin does not support",
+    "QWidget::setMinimumSize: ",
+    "QWidget::setMaximumSize: ",
+    "QWidget::repaint: Recursive repaint",
+    "QFont::setPointSizeF: ",
+    "QFont::setPixelSize: ",
+    "SpanSlider::triggerAction: Unknown action",
+    "QDrag: No mimedata set",
+    "QSplitter",
+};
+
+QString failure;
+quint64 eventCount = 0;
+
+void fail(const QString &what)
+{
+    if (failure.isEmpty())
+        failure = what;
+}
+
+void onMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    const bool expected =
+        std::any_of(std::begin(expectedWarnings), std::end(expectedWarnings),
+                    [&](const char *known) { return text.startsWith(QLatin1String(known)); });
+    if (type != QtDebugMsg && !expected)
+        fail(QStringLiteral("warning: ") + text);
+}
+
+/// Hears every signal of the subject and may do something violent in the middle of one.
+class Listener : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Is told whether the signal is one of the library's.
+    std::function<void(bool own)> armed;
+
+public Q_SLOTS:
+    void heard() { act(false); }
+    void heardOwn() { act(true); }
+
+private:
+    void act(bool own)
+    {
+        if (const auto act = std::exchange(armed, nullptr))
+            act(own);
+    }
+};
+
+class Monkey
+{
+public:
+    Monkey(const Subject &subject, quint32 firstStep);
+    ~Monkey();
+
+    void step(quint32 seed);
+    /// Lets go of everything; nothing may be left behind then.
+    void rest();
+
+private:
+    void makeSubject();
+    void listen();
+    QWidget *target(Dice &dice);
+    QPoint pointOn(const QWidget *widget, Dice &dice) const;
+    void send(QObject *receiver, QEvent *event);
+
+    void mouse(Dice &dice);
+    void wheel(Dice &dice);
+    void touchOrTablet(Dice &dice);
+    void keys(Dice &dice);
+    void drop(Dice &dice);
+    void otherInput(Dice &dice);
+    void changeWidget(Dice &dice);
+    void changeWorld(Dice &dice);
+    void arm(Dice &dice);
+    void check();
+
+    const Subject &m_subject;
+    std::unique_ptr<DarkUX> m_theme;
+    std::unique_ptr<QWidget> m_window;
+    QPointer<QWidget> m_widget;
+    QPointer<QWidget> m_pressedOn;
+    Qt::MouseButtons m_buttons;
+    Listener m_listener;
+    QTimer m_closer;
+};
+
+Monkey::Monkey(const Subject &subject, quint32 firstStep)
+    : m_subject(subject)
+    , m_theme(std::make_unique<DarkUX>())
+    , m_window(std::make_unique<QWidget>())
+{
+    QStyle *style = m_theme->style();
+    switch (firstStep % 4) {
+    case 1:
+        delete style;
+        style = QStyleFactory::create(QStringLiteral("Fusion"));
+        break;
+    case 2:
+        style = new DarkProxyStyle(style);
+        break;
+    case 3:
+        m_window->setStyleSheet(QStringLiteral(
+            "QWidget { color: #ddd; } QSlider::handle { width: 9px; } QListView::item { margin: "
+            "2px } QAbstractSpinBox { border: 1px solid red; }"));
+        break;
+    default:
+        break;
+    }
+    QApplication::setStyle(style);
+    QApplication::setPalette(m_theme->palette());
+
+    new QVBoxLayout(m_window.get());
+    m_window->resize(300, 200);
+    makeSubject();
+    m_window->show();
+
+    // Dialogs and menus that a step has opened end by themselves.
+    QObject::connect(&m_closer, &QTimer::timeout, [] {
+        QDrag::cancel();
+        if (QWidget *popup = QApplication::activePopupWidget())
+            popup->close();
+        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+            dialog->reject();
+    });
+    m_closer.start(2);
+}
+
+Monkey::~Monkey()
+{
+    m_closer.stop();
+    QBalloonTip::hideBalloon();
+    delete m_widget;
+    m_window.reset();
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+}
+
+void Monkey::makeSubject()
+{
+    m_widget = m_subject.create();
+    if (!m_widget->isWindow() || !(m_widget->windowFlags() & Qt::Popup))
+        m_window->layout()->addWidget(m_widget);
+    m_widget->show();
+    listen();
+}
+
+void Monkey::listen()
+{
+    const QMetaObject *meta = m_widget->metaObject();
+    for (int i = 0; i < meta->methodCount(); ++i) {
+        const QMetaMethod method = meta->method(i);
+        if (method.methodType() == QMetaMethod::Signal && method.name() != "destroyed") {
+            QObject::connect(
+                m_widget, QByteArray("2" + method.methodSignature()).constData(), &m_listener,
+                method.enclosingMetaObject() == meta ? SLOT(heardOwn()) : SLOT(heard()));
+        }
+    }
+}
+
+/// The subject or one of the widgets inside it.
+QWidget *Monkey::target(Dice &dice)
+{
+    if (!m_widget)
+        makeSubject();
+    if (m_buttons && m_pressedOn)
+        return QWidget::mouseGrabber() ? QWidget::mouseGrabber() : m_pressedOn.data();
+    const QList<QWidget *> inside = m_widget->findChildren<QWidget *>();
+    if (inside.isEmpty() || dice.coin())
+        return m_widget;
+    return inside.at(dice.roll(inside.size()));
+}
+
+QPoint Monkey::pointOn(const QWidget *widget, Dice &dice) const
+{
+    return {dice.roll(widget->width() + 20) - 10, dice.roll(widget->height() + 20) - 10};
+}
+
+void Monkey::send(QObject *receiver, QEvent *event)
+{
+    ++eventCount;
+    QCoreApplication::sendEvent(receiver, event);
+}
+
+void Monkey::mouse(Dice &dice)
+{
+    static const Qt::MouseButton allButtons[] = {Qt::LeftButton,  Qt::LeftButton,   Qt::LeftButton,
+                                                 Qt::RightButton, Qt::MiddleButton, Qt::BackButton};
+    const QPointer<QWidget> widget = target(dice);
+    const QPoint place = pointOn(widget, dice);
+    const QPoint global = widget->mapToGlobal(place);
+    const Qt::MouseButton button = allButtons[dice.roll(6)];
+    const auto modifiers = static_cast<Qt::KeyboardModifiers>(dice.roll(4) << 25);
+    QEvent::Type type = QEvent::MouseMove;
+    switch (dice.roll(6)) {
+    case 0:
+        type = dice.roll(4) ? QEvent::MouseButtonPress : QEvent::MouseButtonDblClick;
+        if (!m_buttons)
+            m_pressedOn = widget;
+        m_buttons |= button;
+        break;
+    case 1:
+        type = QEvent::MouseButtonRelease;
+        m_buttons &= ~button;
+        break;
+    case 2: {
+        // A release that went elsewhere.
+        if (dice.roll(4) == 0)
+            m_buttons = Qt::NoButton;
+        break;
+    }
+    default:
+        break;
+    }
+    QMouseEvent event(type, place, global, type == QEvent::MouseMove ? Qt::NoButton : button,
+                      m_buttons, modifiers);
+    send(widget, &event);
+}
+
+void Monkey::wheel(Dice &dice)
+{
+    QWidget *widget = target(dice);
+    const QPoint place = pointOn(widget, dice);
+    QWheelEvent event(place, widget->mapToGlobal(place), QPoint(),
+                      QPoint(dice.roll(3) * 120 - 120, dice.roll(5) * 120 - 240), m_buttons,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    send(widget, &event);
+}
+
+void Monkey::keys(Dice &dice)
+{
+    static const int all[] = {Qt::Key_Left,   Qt::Key_Right,     Qt::Key_Up,     Qt::Key_Down,
+                              Qt::Key_Home,   Qt::Key_End,       Qt::Key_PageUp, Qt::Key_Delete,
+                              Qt::Key_Return, Qt::Key_Escape,    Qt::Key_Space,  Qt::Key_Tab,
+                              Qt::Key_A,      Qt::Key_Backspace, Qt::Key_F2,     Qt::Key_Backtab,
+                              Qt::Key_Menu,   Qt::Key_unknown,   Qt::Key_Shift,  Qt::Key_Z};
+    const QPointer<QWidget> widget = target(dice);
+    const int key = all[dice.roll(20)];
+    const auto modifiers =
+        static_cast<Qt::KeyboardModifiers>(dice.roll(3) ? 0 : dice.roll(8) << 25);
+    const QString text = key >= Qt::Key_A && key <= Qt::Key_Z ? QString(QChar(key)) : QString();
+    if (dice.roll(4) == 0) {
+        QKeyEvent override(QEvent::ShortcutOverride, key, modifiers, text);
+        send(widget, &override);
+    }
+    for (QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, modifiers, text, dice.coin());
+        if (widget && dice.roll(5))
+            send(widget, &event);
+    }
+}
+
+void Monkey::drop(Dice &dice)
+{
+    const QPointer<QWidget> widget = target(dice);
+    QMimeData data;
+    if (dice.coin())
+        data.setUrls({QUrl(dice.text()), QUrl::fromLocalFile(QStringLiteral("/a/b.mov")), QUrl()});
+    if (dice.coin())
+        data.setColorData(dice.coin() ? QVariant(QColor(1, 2, 3)) : QVariant(dice.text()));
+    if (dice.coin())
+        data.setText(dice.text());
+    if (dice.coin())
+        data.setData(QStringLiteral("application/x-qabstractitemmodeldatalist"),
+                     dice.text().toUtf8());
+    const QPoint place = pointOn(widget, dice);
+    QDragEnterEvent enter(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    send(widget, &enter);
+    if (!widget)
+        return;
+    QDragMoveEvent move(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    send(widget, &move);
+    if (!widget)
+        return;
+    if (dice.coin()) {
+        QDropEvent event(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+        send(widget, &event);
+    } else {
+        QDragLeaveEvent leave;
+        send(widget, &leave);
+    }
+}
+
+void Monkey::touchOrTablet(Dice &dice)
+{
+    QWidget *widget = target(dice);
+    const QPointF place = pointOn(widget, dice);
+    if (dice.coin()) {
+        QTouchEvent::TouchPoint point(1);
+        point.setState(dice.coin() ? Qt::TouchPointPressed : Qt::TouchPointReleased);
+        point.setPos(place);
+        static QTouchDevice device;
+        QTouchEvent event(dice.coin() ? QEvent::TouchBegin : QEvent::TouchEnd, &device,
+                          Qt::NoModifier, point.state(), {point});
+        send(widget, &event);
+    } else {
+        QTabletEvent event(dice.coin() ? QEvent::TabletPress : QEvent::TabletMove, place,
+                           widget->mapToGlobal(place.toPoint()), QTabletEvent::Stylus,
+                           QTabletEvent::Pen, 0.5, 0, 0, 0, 0, 0, Qt::NoModifier, 1, Qt::LeftButton,
+                           Qt::LeftButton);
+        send(widget, &event);
+    }
+}
+
+void Monkey::otherInput(Dice &dice)
+{
+    QWidget *widget = target(dice);
+    const QPoint place = pointOn(widget, dice);
+    const QPoint global = widget->mapToGlobal(place);
+    switch (dice.roll(8)) {
+    case 0: {
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, global);
+        send(widget, &event);
+        break;
+    }
+    case 1: {
+        QHelpEvent event(dice.coin() ? QEvent::ToolTip : QEvent::WhatsThis, place, global);
+        send(widget, &event);
+        break;
+    }
+    case 2: {
+        QInputMethodEvent event(dice.text(), {});
+        event.setCommitString(dice.text());
+        send(widget, &event);
+        break;
+    }
+    case 3: {
+        QHoverEvent event(dice.coin() ? QEvent::HoverMove : QEvent::HoverLeave, place, place);
+        send(widget, &event);
+        break;
+    }
+    case 4: {
+        QFocusEvent event(dice.coin() ? QEvent::FocusIn : QEvent::FocusOut,
+                          static_cast<Qt::FocusReason>(dice.roll(8)));
+        send(widget, &event);
+        break;
+    }
+    case 5: {
+        QEvent event(dice.coin() ? QEvent::Leave : QEvent::WindowDeactivate);
+        send(widget, &event);
+        break;
+    }
+    case 6:
+        widget->setFocus(static_cast<Qt::FocusReason>(dice.roll(8)));
+        break;
+    default: {
+        auto *menu = new QMenu(m_window.get());
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->addAction(dice.text());
+        menu->popup(global);
+        break;
+    }
+    }
+}
+
+void Monkey::changeWidget(Dice &dice)
+{
+    if (!m_widget)
+        makeSubject();
+    switch (dice.roll(10)) {
+    case 0:
+        m_widget->setEnabled(dice.coin());
+        break;
+    case 1:
+        m_widget->setVisible(dice.roll(4));
+        break;
+    case 2: {
+        const int edge = dice.roll(20) ? 400 : 16384;
+        m_window->resize(dice.roll(edge), dice.roll(edge == 400 ? 400 : 60));
+        break;
+    }
+    case 3:
+        delete m_widget;
+        break;
+    case 4:
+        m_widget->deleteLater();
+        break;
+    case 5: {
+        auto other = std::make_unique<QWidget>();
+        m_widget->setParent(other.get());
+        m_widget->setParent(m_window.get());
+        m_window->layout()->addWidget(m_widget);
+        m_widget->show();
+        break;
+    }
+    case 6: {
+        const qreal ratio = 1.0 + dice.roll(5) / 2.0;
+        QImage image(QSize(std::min(m_widget->width(), 400), std::min(m_widget->height(), 400))
+                         * ratio,
+                     QImage::Format_ARGB32_Premultiplied);
+        if (image.isNull())
+            break;
+        image.setDevicePixelRatio(ratio);
+        QPainter painter(&image);
+        m_widget->render(&painter);
+        break;
+    }
+    default:
+        m_subject.call(m_widget, dice);
+        break;
+    }
+}
+
+void Monkey::changeWorld(Dice &dice)
+{
+    switch (dice.roll(8)) {
+    case 0: {
+        QPalette palette = m_theme->palette();
+        palette.setColor(QPalette::Window, QColor(dice.roll(256), dice.roll(256), 40));
+        m_theme->setPalette(palette, true);
+        m_window->setPalette(palette);
+        break;
+    }
+    case 1:
+        m_window->setLayoutDirection(dice.coin() ? Qt::RightToLeft : Qt::LeftToRight);
+        break;
+    case 2: {
+        QFont font = m_window->font();
+        font.setPixelSize(1 + dice.roll(60));
+        font.setBold(dice.coin());
+        m_window->setFont(font);
+        break;
+    }
+    case 3: {
+        QEvent event(QEvent::LanguageChange);
+        send(m_widget ? m_widget.data() : m_window.get(), &event);
+        break;
+    }
+    case 4: {
+        // Widgets exist without a theme, as long as none of them paints.
+        m_theme.reset();
+        m_theme = std::make_unique<DarkUX>();
+        const std::unique_ptr<DarkFusionStyle> unusedStyle(m_theme->style());
+        break;
+    }
+    case 5:
+        m_window->setStyleSheet(dice.coin() ? QString()
+                                            : QStringLiteral("* { padding: 3px; color: red; }"));
+        break;
+    case 6:
+        QBalloonTip::showBalloon(
+            static_cast<QSystemTrayIcon::MessageIcon>(dice.roll(4)), dice.text(), dice.text(),
+            nullptr, QPoint(dice.roll(800), dice.roll(800)), dice.roll(9) - 2, dice.coin());
+        break;
+    default:
+        QCoreApplication::processEvents();
+        break;
+    }
+}
+
+void Monkey::arm(Dice &dice)
+{
+    const int what = dice.roll(6);
+    m_listener.armed = [this, what](bool own) {
+        if (!m_widget)
+            return;
+        switch (what) {
+        case 0:
+            // The toolkit's own signals do not bear it.
+            if (own)
+                delete m_widget;
+            else
+                m_widget->deleteLater();
+            break;
+        case 1:
+            m_widget->hide();
+            break;
+        case 2:
+            m_widget->setEnabled(false);
+            break;
+        case 3:
+            m_widget->setParent(nullptr);
+            m_window->layout()->addWidget(m_widget);
+            break;
+        case 4: {
+            QEventLoop loop;
+            QTimer::singleShot(1, &loop, &QEventLoop::quit);
+            loop.exec();
+            break;
+        }
+        default: {
+            Dice inner(static_cast<quint32>(what) + 77u);
+            m_subject.call(m_widget, inner);
+            break;
+        }
+        }
+    };
+}
+
+void Monkey::step(quint32 seed)
+{
+    Dice dice(seed);
+    ++eventCount;
+    switch (dice.roll(16)) {
+    case 0:
+        wheel(dice);
+        break;
+    case 1:
+        touchOrTablet(dice);
+        break;
+    case 2:
+    case 3:
+        keys(dice);
+        break;
+    case 4:
+        drop(dice);
+        break;
+    case 5:
+        otherInput(dice);
+        break;
+    case 6:
+    case 7:
+        changeWidget(dice);
+        break;
+    case 8:
+        dice.roll(3) ? changeWorld(dice) : arm(dice);
+        break;
+    case 9:
+        if (dice.roll(8) == 0)
+            rest();
+        break;
+    default:
+        mouse(dice);
+        break;
+    }
+    check();
+}
+
+void Monkey::check()
+{
+    if (m_widget) {
+        const QString wrong = m_subject.check(m_widget);
+        if (!wrong.isEmpty())
+            fail(wrong);
+    }
+}
+
+void Monkey::rest()
+{
+    m_listener.armed = nullptr;
+    m_buttons = Qt::NoButton;
+    for (int i = 0; i < 10 && QApplication::activePopupWidget(); ++i)
+        QApplication::activePopupWidget()->close();
+    if (m_widget) {
+        // What a real pointer would show next: it moves with no button held.
+        for (QWidget *receiver : {QWidget::mouseGrabber(), m_widget.data()}) {
+            if (!receiver)
+                continue;
+            QMouseEvent move(QEvent::MouseMove, QPoint(1, 1), receiver->mapToGlobal(QPoint(1, 1)),
+                             Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+            send(receiver, &move);
+        }
+        if (m_widget) {
+            QEvent leave(QEvent::Leave);
+            send(m_widget, &leave);
+        }
+    }
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    if (QWidget::mouseGrabber())
+        fail(QStringLiteral("the mouse stays grabbed"));
+    if (QApplication::overrideCursor())
+        fail(QStringLiteral("an override cursor stays"));
+    if (QApplication::activePopupWidget())
+        fail(QStringLiteral("a popup stays"));
+}
+
+/// Runs \a script in this process; an empty text when it passes.
+QString run(const Subject &subject, const Script &script)
+{
+    failure.clear();
+    {
+        Monkey monkey(subject, script.empty() ? 0 : script.front());
+        for (quint32 step : script) {
+            monkey.step(step);
+            if (!failure.isEmpty())
+                return failure + QStringLiteral(" (at step %1)").arg(step);
+        }
+        monkey.rest();
+    }
+    return failure;
+}
+
+QString replayText(const Script &script)
+{
+    QStringList steps;
+    for (quint32 step : script)
+        steps << QString::number(step);
+    return steps.join(QLatin1Char(','));
+}
+
+/// Runs \a script in a process of its own, which may crash or hang. What went wrong, or nothing.
+QString runApart(const char *name, const Script &script, quint64 *events = nullptr)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("script"));
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return QStringLiteral("cannot write ") + path;
+    file.write(replayText(script).toLatin1());
+    file.close();
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QCoreApplication::applicationFilePath(),
+                  {QStringLiteral("--class"), QLatin1String(name), QStringLiteral("--replay"),
+                   QLatin1Char('@') + path});
+    if (!process.waitForFinished(120000)) {
+        process.kill();
+        process.waitForFinished();
+        return QStringLiteral("hangs");
+    }
+    const QByteArray output = process.readAll();
+    if (events)
+        *events += output.mid(output.lastIndexOf("events ") + 7).trimmed().toULongLong();
+    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
+        return QString();
+    return QString::fromLocal8Bit(output.right(6000));
+}
+
+/// Leaves out ever smaller parts of \a script while it goes on failing.
+Script shortened(const char *name, Script script)
+{
+    QElapsedTimer clock;
+    clock.start();
+    for (std::size_t part = script.size() / 2; part > 0; part /= 2) {
+        for (std::size_t at = 0; at < script.size() && clock.elapsed() < 300000;) {
+            Script shorter = script;
+            const auto from = shorter.begin() + static_cast<std::ptrdiff_t>(at);
+            const auto to = from + static_cast<std::ptrdiff_t>(std::min(part, script.size() - at));
+            shorter.erase(from, to);
+            if (!runApart(name, shorter).isEmpty())
+                script = shorter;
+            else
+                at += part;
+        }
+    }
+    return script;
+}
+
+Script parsed(QString text)
+{
+    if (text.startsWith(QLatin1Char('@'))) {
+        QFile file(text.mid(1));
+        text = file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
+    }
+    Script script;
+    for (const QString &step : text.split(QLatin1Char(',')))
+        script.push_back(step.trimmed().toUInt());
+    return script;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_FONT_DPI", "96");
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    const auto option = [&parser](const char *name, const char *what, const char *standard) {
+        parser.addOption({QLatin1String(name), QLatin1String(what), QLatin1String("value"),
+                          QLatin1String(standard)});
+    };
+    option("seed", "The first random number.", "1");
+    option("steps", "Steps for each class.", "1200");
+    option("class", "One class only.", "");
+    option("replay", "The steps of a script, or @ and a file with them.", "");
+    parser.process(app);
+    const QString only = parser.value(QStringLiteral("class"));
+    const QString replay = parser.value(QStringLiteral("replay"));
+    const quint32 seed = parser.value(QStringLiteral("seed")).toUInt();
+    const int steps = parser.value(QStringLiteral("steps")).toInt();
+
+    int failures = 0;
+    for (const Subject &subject : subjects()) {
+        if (!only.isEmpty() && only != QLatin1String(subject.name))
+            continue;
+        if (!replay.isEmpty()) {
+            qInstallMessageHandler(onMessage);
+            const QString wrong = run(subject, parsed(replay));
+            qInstallMessageHandler(nullptr);
+            std::printf("%s\nevents %llu\n", qPrintable(wrong),
+                        static_cast<unsigned long long>(eventCount));
+            return wrong.isEmpty() ? 0 : 1;
+        }
+        // Four scripts, one for each style.
+        quint64 events = 0;
+        const char *verdict = "passed";
+        for (quint32 part = 0; part < 4; ++part) {
+            Script script(1, seed * 4 + part);
+            for (int i = 1; i < std::max(2, steps / 4); ++i)
+                script.push_back(seed * 1000003u + part * 7919u + static_cast<quint32>(i) * 31u);
+            const QString wrong = runApart(subject.name, script, &events);
+            if (wrong.isEmpty())
+                continue;
+            verdict = "FAILED";
+            ++failures;
+            const Script shortest = shortened(subject.name, script);
+            std::printf("%s fails with seed %u: %s\nreplay with: --class %s --replay %s\n",
+                        subject.name, seed, qPrintable(wrong), subject.name,
+                        qPrintable(replayText(shortest)));
+        }
+        std::printf("%-20s %9llu events %s\n", subject.name,
+                    static_cast<unsigned long long>(events), verdict);
+        std::fflush(stdout);
+    }
+    return failures ? 1 : 0;
+}
+
+#include "tst_monkey.moc"
