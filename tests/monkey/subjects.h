@@ -28,6 +28,8 @@ public:
 
     /// A number that setters are easily wrong about, or any other.
     int extremeInt();
+    /// One end of a range that is no longer than an int can count.
+    int rangeEnd() { return extremeInt() / 4; }
     double extremeDouble();
     QString text();
 
@@ -44,6 +46,8 @@ struct Subject
     std::function<void(QWidget *, Dice &)> call;
     /// What is wrong with what the class promises; empty when nothing is.
     std::function<QString(QWidget *)> check;
+    /// Asks hosts to delete it with deleteLater() in its signals.
+    bool onlyDeletedLater = false;
 };
 
 /// Every widget of the library.
