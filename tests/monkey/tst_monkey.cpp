@@ -737,7 +737,13 @@ int main(int argc, char *argv[])
             continue;
         if (!replay.isEmpty()) {
             qInstallMessageHandler(onMessage);
-            const QString wrong = run(subject, parsed(replay));
+            // Inside an event loop, as in a host: what is deleted later is deleted there.
+            QString wrong;
+            QTimer::singleShot(0, &app, [&] {
+                wrong = run(subject, parsed(replay));
+                QCoreApplication::quit();
+            });
+            QCoreApplication::exec();
             qInstallMessageHandler(nullptr);
             std::printf("%s\nevents %llu\n", qPrintable(wrong),
                         static_cast<unsigned long long>(eventCount));
