@@ -60,7 +60,11 @@ LookPanel::LookPanel(Desk *desk, QWidget *parent)
                          state.look.white = white;
                      });
     });
+    // A press that adds a stop and the drag that moves it are one gesture.
+    connect(m_ramp, &GradientTool::mousePressed, this, [this] { m_newRamp = true; });
     connect(m_ramp, &GradientTool::rampChanged, this, [this](double, bool first) {
+        if (m_ramp->isMousePressed())
+            first = std::exchange(m_newRamp, false);
         m_desk->edit(Desk::Grade, first ? Desk::NewStep : Desk::SameGesture, tr("Colour ramp"),
                      [this](DeskState &state) { state.look.ramp = m_ramp->getRamp(); });
     });

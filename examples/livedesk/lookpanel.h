@@ -42,6 +42,7 @@ private:
     QLabel *m_positionLabel;
     QLabel *m_transitionLabel;
     bool m_newLevels = false;
+    bool m_newRamp = false;
 };
 
 #endif

@@ -376,6 +376,10 @@ void GradientTool::mousePressEvent(QMouseEvent *event)
     if (event->button() != Qt::LeftButton)
         return;
     beginGesture();
+    const QPointer<GradientTool> self(this);
+    Q_EMIT mousePressed();
+    if (!self || !m_pressed)
+        return;
     if (bar().contains(event->pos(), true))
         pressBar(event->pos());
     else

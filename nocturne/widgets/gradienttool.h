@@ -92,6 +92,10 @@ public:
     /// first.
     void setSlideUpdate(bool update);
 
+    /// Whether the left button went down on the editor and its gesture has not ended since: by the
+    /// release, or by whatever takes the pointer away.
+    bool isMousePressed() const { return m_pressed; }
+
 public Q_SLOTS:
     /// Changes the colour of a stop and emits rampChanged(0.0, true). Numbers beyond the stops are
     /// ignored.
@@ -118,6 +122,11 @@ Q_SIGNALS:
     /// position set by assistive technology. What a held key repeats belongs to its press: false,
     /// unless setSlideUpdate() is on.
     void rampChanged(double value, bool complete);
+
+    /// The left button went down, before the editor reacts to it. A press in the bar adds a stop
+    /// and the drag that follows moves it, both of which rampChanged() reports as complete steps; a
+    /// host that wants one undo step for the gesture begins it with the first change after this.
+    void mousePressed();
 
     /// A marker was double-clicked; no dialog is open yet.
     void updateSliderColorRequest(int index);

@@ -207,14 +207,15 @@ void tst_LiveDesk::workRound()
     const Clip before = *state().currentClip();
     trim->setMainPosition(before.length / 2); // out of the way of the others
     QCoreApplication::processEvents();
-    drag(trim, {trim->width() - 7, middle}, {trim->width() * 3 / 4, middle});
+    const int end = 7 + before.out * (trim->width() - 14) / (before.length - 1);
+    drag(trim, {end, middle}, {end - 12, middle});
     expectSteps(1, "a trim");
     QVERIFY(state().currentClip()->out < before.out);
 
     auto *levels = find<SpanSlider>("levels");
     const int levelsMiddle = levels->height() / 2;
     const int start = state().look.black * (levels->width() - 14) / 255 + 7;
-    drag(levels, {start, levelsMiddle}, {start + 30, levelsMiddle});
+    drag(levels, {start, levelsMiddle}, {start + 8, levelsMiddle});
     expectSteps(1, "a drag of the black level");
 
     auto *amount = find<Slider>("amount");
