@@ -1,11 +1,13 @@
 #include "screenshots.h"
 
+#include "galleryface.h"
 #include "gallerypage.h"
 
 #include <QtCore/QDir>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
@@ -15,19 +17,21 @@ constexpr QSize smallestPage(900, 600);
 
 enum class Variant { LeftToRight, RightToLeft, Disabled };
 
-QString suffixOf(Variant variant)
+QString suffixOf(GalleryFace face, Variant variant)
 {
     QString suffix;
+    if (face == GalleryFace::Readable)
+        suffix = QStringLiteral("-readable");
     if (variant == Variant::RightToLeft)
-        suffix = QStringLiteral("-rtl");
+        suffix += QStringLiteral("-rtl");
     else if (variant == Variant::Disabled)
-        suffix = QStringLiteral("-disabled");
+        suffix += QStringLiteral("-disabled");
     if (qApp->devicePixelRatio() > 1.0)
         suffix += QStringLiteral("@%1x").arg(qApp->devicePixelRatio());
     return suffix;
 }
 
-bool renderPage(const GalleryPage &page, Variant variant, const QDir &directory)
+bool renderPage(const GalleryPage &page, GalleryFace face, Variant variant, const QDir &directory)
 {
     QApplication::setLayoutDirection(variant == Variant::RightToLeft ? Qt::RightToLeft
                                                                      : Qt::LeftToRight);
@@ -38,8 +42,8 @@ bool renderPage(const GalleryPage &page, Variant variant, const QDir &directory)
     for (int i = 0; i < 5; ++i)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
 
-    const QString path = directory.absoluteFilePath(QLatin1String(page.name) + suffixOf(variant)
-                                                    + QStringLiteral(".png"));
+    const QString path = directory.absoluteFilePath(
+        QLatin1String(page.name) + suffixOf(face, variant) + QStringLiteral(".png"));
     const bool saved = widget->grab().save(path);
     if (saved)
         std::printf("%s\n", qPrintable(path));
@@ -58,18 +62,24 @@ bool renderScreenshots(const QString &directory, const QString &only)
         return false;
     }
 
-    bool found = false;
-    for (const GalleryPage &page : galleryPages()) {
-        if (!only.isEmpty() && only != QLatin1String(page.name))
-            continue;
-        found = true;
-        for (Variant variant : {Variant::LeftToRight, Variant::RightToLeft, Variant::Disabled}) {
-            if (!renderPage(page, variant, target))
-                return false;
+    QVector<GalleryPage> pages = galleryPages();
+    if (!only.isEmpty()) {
+        pages.erase(std::remove_if(pages.begin(), pages.end(),
+                                   [&only](const GalleryPage &page) {
+                                       return only != QLatin1String(page.name);
+                                   }),
+                    pages.end());
+        if (pages.isEmpty())
+            std::fprintf(stderr, "there is no page named %s\n", qPrintable(only));
+    }
+    bool isDone = !pages.isEmpty();
+    for (GalleryFace face : {GalleryFace::Exact, GalleryFace::Readable}) {
+        showGalleryFace(face);
+        for (const GalleryPage &page : qAsConst(pages)) {
+            for (Variant variant : {Variant::LeftToRight, Variant::RightToLeft, Variant::Disabled})
+                isDone = isDone && renderPage(page, face, variant, target);
         }
     }
-    if (!found)
-        std::fprintf(stderr, "there is no page named %s\n", qPrintable(only));
     std::fflush(stdout);
-    return found;
+    return isDone;
 }
