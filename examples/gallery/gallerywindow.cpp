@@ -1,8 +1,11 @@
 #include "gallerywindow.h"
 
+#include "galleryface.h"
+
 #include <QtCore/QEvent>
 #include <QtCore/QTimer>
 #include <QtWidgets/QAction>
+#include <QtWidgets/QActionGroup>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QScrollArea>
@@ -39,6 +42,8 @@ GalleryWindow::GalleryWindow(QWidget *parent)
             m_area->widget()->setEnabled(on);
     });
 
+    addFaces(bar);
+
     for (int i = 0; i < m_pages.size(); ++i)
         m_list->addItem(QString());
     connect(m_list, &QListWidget::currentRowChanged, this, &GalleryWindow::showRow);
@@ -70,6 +75,21 @@ void GalleryWindow::changeEvent(QEvent *event)
     }
 }
 
+void GalleryWindow::addFaces(QToolBar *bar)
+{
+    bar->addSeparator();
+    m_faces = new QActionGroup(this);
+    for (GalleryFace face : {GalleryFace::Exact, GalleryFace::Readable, GalleryFace::Dimmed}) {
+        QAction *action = m_faces->addAction(bar->addAction(QString()));
+        action->setCheckable(true);
+        action->setChecked(face == GalleryFace::Exact);
+        // The button that was pressed is still at work in the style that goes.
+        connect(
+            action, &QAction::triggered, this, [face] { showGalleryFace(face); },
+            Qt::QueuedConnection);
+    }
+}
+
 void GalleryWindow::showRow(int row)
 {
     if (row < 0)
@@ -84,6 +104,10 @@ void GalleryWindow::retranslate()
     setWindowTitle(Gallery::tr("libnocturne gallery"));
     m_rightToLeft->setText(Gallery::tr("Right to left"));
     m_enabled->setText(Gallery::tr("Enabled"));
+    const QList<QAction *> faces = m_faces->actions();
+    faces.at(0)->setText(Gallery::tr("Exact"));
+    faces.at(1)->setText(Gallery::tr("Readable"));
+    faces.at(2)->setText(Gallery::tr("Dimmed"));
     for (int row = 0; row < m_pages.size(); ++row)
         m_list->item(row)->setText(m_pages.at(row).translatedTitle());
 }

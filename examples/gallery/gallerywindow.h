@@ -6,8 +6,10 @@
 #include <QtWidgets/QMainWindow>
 
 class QAction;
+class QActionGroup;
 class QListWidget;
 class QScrollArea;
+class QToolBar;
 
 /// The list of pages on the left, the chosen one on the right.
 class GalleryWindow : public QMainWindow
@@ -25,6 +27,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void addFaces(QToolBar *bar);
     void showRow(int row);
     void retranslate();
 
@@ -33,6 +36,7 @@ private:
     QScrollArea *m_area;
     QAction *m_rightToLeft;
     QAction *m_enabled;
+    QActionGroup *m_faces;
 };
 
 #endif

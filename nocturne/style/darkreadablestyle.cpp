@@ -219,3 +219,5 @@ bool DarkReadableStyle::eventFilter(QObject *watched, QEvent *event)
     }
     return QProxyStyle::eventFilter(watched, event);
 }
+
+#include "moc_darkreadablestyle.cpp"

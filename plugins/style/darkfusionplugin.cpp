@@ -1,6 +1,7 @@
 #include "darkfusionplugin.h"
 
 #include <nocturne/DarkFusionStyle>
+#include <nocturne/DarkReadableStyle>
 #include <nocturne/DarkUX>
 
 #include <QtWidgets/QWidget>
@@ -20,23 +21,34 @@ QPalette themePalette()
     return theme.palette();
 }
 
-/// The style together with the palette it is meant for, because a program that knows it by name
+QPalette paletteFor(const DarkFusionStyle *)
+{
+    return themePalette();
+}
+
+QPalette paletteFor(const DarkReadableStyle *)
+{
+    return DarkReadableStyle::palette(themePalette());
+}
+
+/// A style together with the palette it is meant for, because a program that knows it by name
 /// only installs none.
-class ThemedDarkFusionStyle : public DarkFusionStyle
+template <typename Style>
+class Themed : public Style
 {
 public:
-    using DarkFusionStyle::polish;
+    using Style::polish;
 
-    QPalette standardPalette() const override { return themePalette(); }
+    QPalette standardPalette() const override { return paletteFor(this); }
 
     /// Without this, the colours of the desktop would win over those of the style.
-    void polish(QPalette &palette) override { palette = themePalette().resolve(palette); }
+    void polish(QPalette &palette) override { palette = paletteFor(this).resolve(palette); }
 
     /// The text of a web page is black unless the page says otherwise, but its paper is the
     /// palette's Base. Such a view keeps the white paper that pages are written for.
     void polish(QWidget *widget) override
     {
-        DarkFusionStyle::polish(widget);
+        Style::polish(widget);
         if (!widget || !widget->inherits("QWebView"))
             return;
         QPalette palette = widget->palette();
@@ -50,7 +62,9 @@ public:
 
 QStyle *DarkFusionPlugin::create(const QString &key)
 {
-    if (key.compare(QLatin1String("DarkFusion"), Qt::CaseInsensitive) != 0)
-        return nullptr;
-    return new ThemedDarkFusionStyle;
+    if (key.compare(QLatin1String("DarkFusion"), Qt::CaseInsensitive) == 0)
+        return new Themed<DarkFusionStyle>;
+    if (key.compare(QLatin1String("DarkFusionReadable"), Qt::CaseInsensitive) == 0)
+        return new Themed<DarkReadableStyle>;
+    return nullptr;
 }

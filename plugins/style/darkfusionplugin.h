@@ -3,7 +3,8 @@
 
 #include <QtWidgets/QStylePlugin>
 
-/// Offers DarkFusionStyle, with the theme's palette, to programs that know nothing of the library.
+/// Offers DarkFusionStyle and DarkReadableStyle, each with its palette, to programs that know
+/// nothing of the library.
 class DarkFusionPlugin : public QStylePlugin
 {
     Q_OBJECT
@@ -12,7 +13,8 @@ class DarkFusionPlugin : public QStylePlugin
 public:
     using QStylePlugin::QStylePlugin;
 
-    /// A new style for the key "DarkFusion" in any case, null for every other.
+    /// A new style for the keys "DarkFusion" and "DarkFusionReadable" in any case, null for every
+    /// other.
     QStyle *create(const QString &key) override;
 };
 

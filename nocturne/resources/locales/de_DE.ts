@@ -34,6 +34,18 @@
         <translation>Aktiviert</translation>
     </message>
     <message>
+        <source>Exact</source>
+        <translation>Exakt</translation>
+    </message>
+    <message>
+        <source>Readable</source>
+        <translation>Lesbar</translation>
+    </message>
+    <message>
+        <source>Dimmed</source>
+        <translation>Gedimmt</translation>
+    </message>
+    <message>
         <source>Theme</source>
         <translation>Design</translation>
     </message>

@@ -34,6 +34,18 @@
         <translation>Activado</translation>
     </message>
     <message>
+        <source>Exact</source>
+        <translation>Exacto</translation>
+    </message>
+    <message>
+        <source>Readable</source>
+        <translation>Legible</translation>
+    </message>
+    <message>
+        <source>Dimmed</source>
+        <translation>Atenuado</translation>
+    </message>
+    <message>
         <source>Theme</source>
         <translation>Tema</translation>
     </message>

@@ -34,6 +34,18 @@
         <translation>Activé</translation>
     </message>
     <message>
+        <source>Exact</source>
+        <translation>Exact</translation>
+    </message>
+    <message>
+        <source>Readable</source>
+        <translation>Lisible</translation>
+    </message>
+    <message>
+        <source>Dimmed</source>
+        <translation>Atténué</translation>
+    </message>
+    <message>
         <source>Theme</source>
         <translation>Thème</translation>
     </message>

@@ -34,6 +34,18 @@
         <translation>Abilitato</translation>
     </message>
     <message>
+        <source>Exact</source>
+        <translation>Esatto</translation>
+    </message>
+    <message>
+        <source>Readable</source>
+        <translation>Leggibile</translation>
+    </message>
+    <message>
+        <source>Dimmed</source>
+        <translation>Attenuato</translation>
+    </message>
+    <message>
         <source>Theme</source>
         <translation>Tema</translation>
     </message>

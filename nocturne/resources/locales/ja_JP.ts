@@ -34,6 +34,18 @@
         <translation>有効</translation>
     </message>
     <message>
+        <source>Exact</source>
+        <translation>正確</translation>
+    </message>
+    <message>
+        <source>Readable</source>
+        <translation>読みやすい</translation>
+    </message>
+    <message>
+        <source>Dimmed</source>
+        <translation>減光</translation>
+    </message>
+    <message>
         <source>Theme</source>
         <translation>テーマ</translation>
     </message>

@@ -34,6 +34,18 @@
         <translation>사용</translation>
     </message>
     <message>
+        <source>Exact</source>
+        <translation>정확</translation>
+    </message>
+    <message>
+        <source>Readable</source>
+        <translation>읽기 쉬움</translation>
+    </message>
+    <message>
+        <source>Dimmed</source>
+        <translation>어둡게</translation>
+    </message>
+    <message>
         <source>Theme</source>
         <translation>테마</translation>
     </message>

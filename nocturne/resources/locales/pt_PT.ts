@@ -34,6 +34,18 @@
         <translation>Ativado</translation>
     </message>
     <message>
+        <source>Exact</source>
+        <translation>Exato</translation>
+    </message>
+    <message>
+        <source>Readable</source>
+        <translation>Legível</translation>
+    </message>
+    <message>
+        <source>Dimmed</source>
+        <translation>Atenuado</translation>
+    </message>
+    <message>
         <source>Theme</source>
         <translation>Tema</translation>
     </message>

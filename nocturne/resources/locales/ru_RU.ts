@@ -34,6 +34,18 @@
         <translation>Включено</translation>
     </message>
     <message>
+        <source>Exact</source>
+        <translation>Точный</translation>
+    </message>
+    <message>
+        <source>Readable</source>
+        <translation>Читаемый</translation>
+    </message>
+    <message>
+        <source>Dimmed</source>
+        <translation>Приглушённый</translation>
+    </message>
+    <message>
         <source>Theme</source>
         <translation>Тема</translation>
     </message>

@@ -34,6 +34,18 @@
         <translation>启用</translation>
     </message>
     <message>
+        <source>Exact</source>
+        <translation>精确</translation>
+    </message>
+    <message>
+        <source>Readable</source>
+        <translation>易读</translation>
+    </message>
+    <message>
+        <source>Dimmed</source>
+        <translation>调暗</translation>
+    </message>
+    <message>
         <source>Theme</source>
         <translation>主题</translation>
     </message>
