@@ -140,8 +140,7 @@ void DarkReadableStyle::drawComplexControl(ComplexControl control,
         paintTitleBar(call);
         break;
     case CC_SpinBox:
-        QProxyStyle::drawComplexControl(control, option, painter, widget);
-        paintFocusWithoutFrame(call);
+        paintSpinBox(call);
         break;
     default:
         QProxyStyle::drawComplexControl(control, option, painter, widget);
@@ -171,16 +170,6 @@ int DarkReadableStyle::styleHint(StyleHint hint, const QStyleOption *option, con
     default:
         return QProxyStyle::styleHint(hint, option, widget, returnData);
     }
-}
-
-int DarkReadableStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
-                                   const QWidget *widget) const
-{
-    // Item views take the same metrics for their margins, and shall have those of the base style.
-    const bool isMargin = metric == PM_FocusFrameHMargin || metric == PM_FocusFrameVMargin;
-    if (isMargin && qobject_cast<const QFocusFrame *>(widget))
-        return Nocturne::Readable::focusFrameMargin;
-    return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 QIcon DarkReadableStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,

@@ -64,8 +64,6 @@ public:
     /// Leaves room in menus for check boxes that grow with the font.
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
                            const QWidget *widget = nullptr) const override;
-    int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
-                    const QWidget *widget = nullptr) const override;
     /// Scroll bars are not transient, disabled text has no second edge, frames lie above.
     int styleHint(StyleHint hint, const QStyleOption *option = nullptr,
                   const QWidget *widget = nullptr,

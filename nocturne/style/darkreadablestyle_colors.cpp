@@ -11,6 +11,7 @@ namespace Nocturne::Readable {
 
 namespace {
 
+constexpr double smoothingLoss = 0.4;     // what thin lines lose to the smoothing of their edges
 constexpr double titleBarContrast = 2.0;  // to the window; leaves room for a white title
 constexpr QRgb accentOrange = 0xffed6e00; // rgb(237, 110, 0)
 
@@ -77,8 +78,7 @@ public:
              {P::WindowText, P::Text, P::ButtonText, P::BrightText, P::Link, P::LinkVisited})
             set(role, onSurfaces(color(role)));
         set(P::PlaceholderText, onSurfaces(mixed(color(P::Text), color(P::Base), 60)));
-        if (m_group != P::Disabled)
-            set(P::Highlight, selectionGround());
+        set(P::Highlight, selectionGround());
         set(P::HighlightedText,
             lifted(color(P::HighlightedText), {color(P::Highlight), pressed()}, m_ratio));
         set(P::ToolTipBase, lifted(color(P::ToolTipBase), {color(P::ToolTipText)}, textContrast));
@@ -107,14 +107,15 @@ private:
         return button;
     }
 
+    /// Disabled controls lie on windows that are not.
     QColor onSurfaces(const QColor &text) const
     {
-        const QColor window = color(QPalette::Window);
+        const QColor window = m_palette.color(QPalette::Active, QPalette::Window);
         const QColor panel(std::min(255, window.red() + 24), std::min(255, window.green() + 24),
                            std::min(255, window.blue() + 24));
         return lifted(text,
-                      {window, panel, color(QPalette::Base), color(QPalette::AlternateBase),
-                       lightestButton(color(QPalette::Button))},
+                      {window, panel, color(QPalette::Window), color(QPalette::Base),
+                       color(QPalette::AlternateBase), lightestButton(color(QPalette::Button))},
                       m_ratio);
     }
 
@@ -122,9 +123,9 @@ private:
     {
         // The theme's inactive selection is too faint to be told at all, so it is the active one
         // with less colour.
-        QColor highlight = m_palette.color(QPalette::Active, QPalette::Highlight);
+        QColor highlight = color(QPalette::Highlight);
         if (m_group == QPalette::Inactive)
-            highlight = halfSaturated(highlight);
+            highlight = halfSaturated(m_palette.color(QPalette::Active, QPalette::Highlight));
         return nearestShade(
             highlight,
             {color(QPalette::Window), color(QPalette::Base), color(QPalette::AlternateBase)},
@@ -182,6 +183,7 @@ QColor nearestShade(const QColor &color, std::initializer_list<QColor> grounds, 
 
 Shades::Shades(const QPalette &palette)
     : ownKept(palette)
+    , arrows(palette)
     , ticks(palette)
     , titleBar(palette)
     , inactiveTitleBar(palette)
@@ -195,16 +197,19 @@ Shades::Shades(const QPalette &palette)
     const QColor pressed(24, 24, 24);
     const bool isEnabled = palette.currentColorGroup() != QPalette::Disabled;
 
+    // Disabled controls lie on windows that are not.
+    const QColor around = palette.color(QPalette::Active, QPalette::Window);
+    const QColor alternate = color(QPalette::AlternateBase);
     accent =
         accentFor(palette, ThemePaint::accentBlue, {window, base, menu, button}, faintContrast);
     orange = accentFor(palette, accentOrange, {pressed}, textContrast);
-    outline = nearestShade(Qt::gray, {window, base, menu, color(QPalette::AlternateBase)},
-                           isEnabled ? textContrast : faintContrast);
+    outline = nearestShade(Qt::gray, {window, around, base, menu, alternate},
+                           isEnabled ? textContrast : faintContrast + smoothingLoss);
     contour = mixed(window, Qt::black, 50);
     mark = lifted(color(QPalette::Text), {base}, faintContrast);
     groove = mixed(window, Qt::black, 60);
-    handle = nearestShade(Qt::gray, {groove}, faintContrast + 0.5);
-    handleHovered = nearestShade(Qt::gray, {groove}, textContrast + 0.5);
+    handle = nearestShade(Qt::gray, {groove}, faintContrast + smoothingLoss);
+    handleHovered = nearestShade(Qt::gray, {groove}, textContrast + smoothingLoss);
 
     const QPalette::ColorGroup group = palette.currentColorGroup();
     ownKept.setColor(QPalette::NoRole, outline); // any change makes a key of its own
@@ -214,7 +219,10 @@ Shades::Shades(const QPalette &palette)
     titleBar.setColor(group, QPalette::Highlight,
                       nearestShade(color(QPalette::Highlight), {window}, titleBarContrast));
     inactiveTitleBar.setColor(group, QPalette::Highlight, window);
-    pressedLabel.setColor(group, QPalette::HighlightedText, orange);
+    arrows.setColor(group, QPalette::WindowText,
+                    lifted(color(QPalette::WindowText), {around}, textContrast));
+    pressedLabel.setColor(group, QPalette::HighlightedText,
+                          isEnabled ? orange : color(QPalette::ButtonText));
 }
 
 const Shades &Face::shades(const QPalette &palette)

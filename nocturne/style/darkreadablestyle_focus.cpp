@@ -92,12 +92,14 @@ bool isFramed(const Call &call)
 
 } // namespace
 
-void paintFocusFrame(QPainter *painter, const QRect &rect, const Shades &shades)
+void paintFocusFrame(QPainter *painter, const QRect &rect, const Shades &shades, bool hasContour)
 {
     const QRect inside =
         rect.adjusted(focusFrameWidth, focusFrameWidth, -focusFrameWidth, -focusFrameWidth);
     for (const QRect &side : QRegion(rect) - inside)
         painter->fillRect(side, shades.accent);
+    if (!hasContour)
+        return;
     for (const QRect &side : QRegion(inside) - inside.adjusted(1, 1, -1, -1))
         painter->fillRect(side, shades.contour);
 }
@@ -125,10 +127,11 @@ void paintWidgetFrame(const Call &call)
     const QRect around =
         focusedPart(widget)
             .translated(frame->mapFromGlobal(widget->mapToGlobal(QPoint())))
-            .adjusted(-focusFrameMargin, -focusFrameMargin, focusFrameMargin, focusFrameMargin);
+            .adjusted(-focusFrameWidth, -focusFrameWidth, focusFrameWidth, focusFrameWidth);
     const QWidget *ground = frame->parentWidget();
     const QRect visible = ground->rect().translated(-frame->pos()) & frame->rect();
-    paintFocusFrame(call.painter, around & visible, call.face.shades(widget->palette()));
+    paintFocusFrame(call.painter, around & visible, call.face.shades(widget->palette()),
+                    !visible.contains(around));
 }
 
 bool isPaintedBy(const QStyle *style, const QWidget *widget)

@@ -9,6 +9,8 @@ namespace Nocturne::Readable {
 
 namespace {
 
+constexpr qreal strokeWidth = 2.0;
+
 using Strokes = QVector<QPolygonF>;
 
 QPolygonF box(qreal left, qreal top, qreal right, qreal bottom)
@@ -64,8 +66,8 @@ public:
         painter->translate(rect.x() + (rect.width() - extent) / 2.0,
                            rect.y() + (rect.height() - extent) / 2.0);
         painter->scale(extent / 16.0, extent / 16.0);
-        painter->setPen(QPen(QApplication::palette().color(group, QPalette::ButtonText), 1.6,
-                             Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+        painter->setPen(QPen(QApplication::palette().color(group, QPalette::ButtonText),
+                             strokeWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
         for (const QPolygonF &stroke : m_strokes)
             painter->drawPolyline(stroke);
     }

@@ -12,8 +12,9 @@ namespace {
 
 enum Drawing { CheckBoxDrawing, RadioDrawing, ComboBoxDrawing };
 
-constexpr int hoverAlpha = 26; // of white over what is under the pointer
-constexpr int chosenLine = 2;  // along the edge of chosen tabs and checked buttons
+constexpr int hoverAlpha = 26;   // of white over what is under the pointer
+constexpr qreal ringWidth = 1.4; // of straight lines: smoothing takes some away
+constexpr int chosenLine = 2;    // along the edge of chosen tabs and checked buttons
 
 /// The bits that an indicator depends on.
 int indicatorState(const Call &call)
@@ -126,7 +127,7 @@ void paintRadioButton(const Call &call)
         const qreal extent = std::min(size.width(), size.height());
         QRectF ring(0, 0, extent, extent);
         ring.moveCenter(QRectF(QPointF(), size).center());
-        const qreal width = lineWidth(size);
+        const qreal width = lineWidth(size) * ringWidth;
         painter->setRenderHint(QPainter::Antialiasing);
         painter->setPen(QPen(shades.outline, width));
         painter->setBrush(boxBrush(call));
@@ -163,8 +164,7 @@ void paintPushButtonLabel(const Call &call)
     if (!option)
         return;
     QStyleOptionButton label(*option);
-    if (call.isEnabled())
-        label.palette = call.shades().pressedLabel;
+    label.palette = call.shades().pressedLabel;
     // The base style keeps the right end free for the arrow, which is at the left end here.
     if (call.isRightToLeft() && option->features & QStyleOptionButton::HasMenu) {
         label.rect.translate(
@@ -202,6 +202,17 @@ void paintComboBox(const Call &call)
     call.face.kept.draw(call.painter, option->rect.topLeft(),
                         call.key(ComboBoxDrawing, option->rect.size(), state),
                         [&](QPainter *painter) { paintComboBoxPicture(call, *option, painter); });
+    paintFocusWithoutFrame(call);
+}
+
+void paintSpinBox(const Call &call)
+{
+    const auto *option = call.as<QStyleOptionSpinBox>();
+    if (!option)
+        return;
+    QStyleOptionSpinBox box(*option);
+    box.palette = call.shades().arrows;
+    call.baseComplex(QStyle::CC_SpinBox, box);
     paintFocusWithoutFrame(call);
 }
 

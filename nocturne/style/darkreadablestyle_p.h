@@ -50,6 +50,7 @@ struct Shades
     // What the base style is given instead of the palette to paint the same shape in other shades.
     // They stay the same objects, as their cache keys are part of the names of kept drawings.
     QPalette ownKept; ///< the same colours: keeps this face's drawings apart from the exact ones
+    QPalette arrows;
     QPalette ticks;
     QPalette titleBar;
     QPalette inactiveTitleBar;
@@ -162,6 +163,7 @@ void paintButtonPanel(const Call &call);
 void paintPushButtonLabel(const Call &call);
 void paintTabShape(const Call &call);
 void paintComboBox(const Call &call);
+void paintSpinBox(const Call &call);
 void paintTitleBar(const Call &call);
 
 // Menus.
@@ -178,11 +180,12 @@ void paintSlider(const Call &call);
 void paintDial(const Call &call);
 
 // Focus.
-constexpr int focusFrameWidth = 2;
-constexpr int focusFrameMargin = 3; ///< around the widget: the frame and its dark contour
+constexpr int focusFrameWidth = 2; // as wide as the margin of a QFocusFrame around its widget
 
-/// The frame that tells where the keyboard is, along the inside of \a rect.
-void paintFocusFrame(QPainter *painter, const QRect &rect, const Shades &shades);
+/// The frame that tells where the keyboard is, along the inside of \a rect. A frame that lies on a
+/// control, not around it, has a dark contour, as the control may be of any colour.
+void paintFocusFrame(QPainter *painter, const QRect &rect, const Shades &shades,
+                     bool hasContour = true);
 /// PE_FrameFocusRect: unless a QFocusFrame tells it already, or the focus came by the pointer.
 void paintFocusRect(const Call &call);
 /// For a control that is given the focus in its option only, such as one in a delegate.

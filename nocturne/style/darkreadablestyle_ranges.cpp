@@ -19,6 +19,7 @@ enum Drawing { // after those of the indicators
     DiscDrawing
 };
 
+constexpr qreal ringWidth = 1.4; // smoothing takes some away
 constexpr qreal handleRadius = 3.0;
 constexpr int handleInset = 2;
 constexpr qreal barRadius = 2.0;
@@ -39,17 +40,12 @@ bool isHorizontal(const QStyleOptionSlider *option)
     return option->orientation == Qt::Horizontal;
 }
 
-/// A filled shape while enabled, its outline while not.
-void setShape(QPainter *painter, const Call &call, const QColor &fill)
+/// A filled shape while enabled, its outline over \a ground while not.
+void setShape(QPainter *painter, const Call &call, const QColor &fill, const QBrush &ground)
 {
     painter->setRenderHint(QPainter::Antialiasing);
-    if (call.isEnabled()) {
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(fill);
-    } else {
-        painter->setPen(call.shades().outline);
-        painter->setBrush(call.color(QPalette::Window));
-    }
+    painter->setPen(call.isEnabled() ? QPen(Qt::NoPen) : QPen(call.shades().outline, ringWidth));
+    painter->setBrush(call.isEnabled() ? QBrush(fill) : ground);
 }
 
 // Progress bars
@@ -104,7 +100,7 @@ void paintScrollBarHandle(const Call &call, const QStyleOptionSlider *option, co
             isHeld && call.has(QStyle::State_MouseOver) ? shades.handleHovered : shades.handle;
         if (isHeld && call.has(QStyle::State_Sunken))
             fill = shades.accent;
-        setShape(painter, call, fill);
+        setShape(painter, call, fill, Qt::NoBrush);
         const qreal x = isHorizontal(option) ? 0.5 : handleInset + 0.5;
         const qreal y = isHorizontal(option) ? handleInset + 0.5 : 0.5;
         painter->drawRoundedRect(QRectF(QPointF(), slider.size()).adjusted(x, y, -x, -y),
@@ -177,7 +173,7 @@ void paintKnob(const Call &call, const QRect &handle)
         const qreal radius = std::min(rect.width(), rect.height()) / 2 - 1.5;
         const QColor light = call.has(QStyle::State_MouseOver) ? QColor(Qt::white)
                                                                : call.color(QPalette::WindowText);
-        setShape(painter, call, light);
+        setShape(painter, call, light, call.color(QPalette::Window));
         painter->drawEllipse(centre, radius, radius);
         if (call.isEnabled()) {
             painter->setBrush(call.shades().contour);
@@ -247,7 +243,7 @@ void paintDialTicks(const DialParts &dial, QPainter *painter, const QColor &colo
         return;
     const double most = std::max(1.0, 2 * M_PI * dial.radius / 3);
     const double interval = std::max<double>(dial.option->tickInterval, range / most);
-    painter->setPen(color);
+    painter->setPen(QPen(color, ringWidth));
     for (double value = 0; value < range + interval; value += interval) {
         const double at = std::min(value, range);
         painter->drawLine(dial.at(at, range, dial.disc + 2), dial.at(at, range, dial.radius - 0.5));
@@ -263,7 +259,7 @@ void paintDisc(const Call &call, const DialParts &dial, QPainter *painter)
     QLinearGradient gradient(0, dial.centre.y() - dial.disc, 0, dial.centre.y() + dial.disc);
     gradient.setColorAt(0, light.lighter(call.has(QStyle::State_MouseOver) ? 150 : 130));
     gradient.setColorAt(1, light.lighter(110));
-    painter->setPen(light);
+    painter->setPen(QPen(light, ringWidth));
     painter->setBrush(call.isEnabled() ? QBrush(gradient) : QBrush(Qt::NoBrush));
     painter->drawEllipse(dial.centre, dial.disc, dial.disc);
 }
@@ -347,9 +343,7 @@ void paintDial(const Call &call)
                             call.key(DiscDrawing, option->rect.size(), state),
                             [&](QPainter *painter) { paintDisc(call, dial, painter); });
     }
-    call.painter->setRenderHint(QPainter::Antialiasing);
-    call.painter->setPen(call.isEnabled() ? QPen(Qt::NoPen) : QPen(call.shades().outline));
-    call.painter->setBrush(call.isEnabled() ? QBrush(call.shades().contour) : QBrush(Qt::NoBrush));
+    setShape(call.painter, call, call.shades().contour, Qt::NoBrush);
     call.painter->drawEllipse(dial.knobCentre(), dial.knob, dial.knob);
     call.painter->translate(-option->rect.topLeft());
     paintFocusWithoutFrame(call);

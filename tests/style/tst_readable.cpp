@@ -1,0 +1,395 @@
+#include "testsupport.h"
+
+#include <nocturne/CheckBox>
+#include <nocturne/DarkFusionStyle>
+#include <nocturne/DarkReadableStyle>
+#include <nocturne/DarkUX>
+#include <nocturne/LivePalette>
+#include <nocturne/RangeSlider>
+
+#include <QtWidgets/QtWidgets>
+
+#include <cmath>
+#include <cstdio>
+#include <memory>
+
+// Measures contrasts from pixels, by the formula of WCAG 2.1. With --table it prints what it
+// measures in both faces as rows for docs/readable.md.
+
+namespace {
+
+/// Something to be seen on a control. Painted with it and without it, the pixels tell how well.
+struct Sample
+{
+    const char *control;
+    const char *part; ///< text, or a mark of another kind
+    QWidget *(*create)(QWidget *parent);
+    const char *properties; ///< set beforehand, as in "value=50 checkable=1"
+    const char *toggled;    ///< shows and hides the part, as in "value=60:0", or a name of toggle()
+
+    bool isText() const { return QByteArray(part).endsWith("text"); }
+};
+
+template <typename W>
+QWidget *make(QWidget *parent)
+{
+    return new W(parent);
+}
+
+template <>
+QWidget *make<QTableWidget>(QWidget *parent)
+{
+    auto *table = new QTableWidget(3, 1, parent);
+    table->setAlternatingRowColors(true);
+    table->verticalHeader()->setDefaultSectionSize(20);
+    for (int row = 0; row < 3; ++row)
+        table->setItem(row, 0, new QTableWidgetItem(QStringLiteral(" ")));
+    table->setCurrentCell(2, 0, QItemSelectionModel::NoUpdate);
+    return table;
+}
+
+template <>
+QWidget *make<QMenu>(QWidget *parent)
+{
+    auto *menu = new QMenu(parent);
+    menu->addAction(QStringLiteral(" "));
+    return menu;
+}
+
+template <>
+QWidget *make<QTabBar>(QWidget *parent)
+{
+    auto *bar = new QTabBar(parent);
+    for (int i = 0; i < 2; ++i)
+        bar->addTab(QStringLiteral("WWWWW"));
+    return bar;
+}
+
+template <>
+QWidget *make<QComboBox>(QWidget *parent)
+{
+    auto *box = new QComboBox(parent);
+    box->addItem(QStringLiteral(" "));
+    return box;
+}
+
+template <>
+QWidget *make<QMdiSubWindow>(QWidget *parent)
+{
+    auto *area = new QMdiArea(parent);
+    area->resize(220, 120);
+    return area->addSubWindow(new QWidget);
+}
+
+const Sample samples[] = {
+    {"label", "text", make<QLabel>, "", "text"},
+    {"push button", "text", make<QPushButton>, "", "text"},
+    {"push button, checked", "text", make<QPushButton>, "checkable=1 checked=1", "text"},
+    {"tool button", "text", make<QToolButton>, "", "text"},
+    {"check box", "text", make<QCheckBox>, "", "text"},
+    {"radio button", "text", make<QRadioButton>, "", "text"},
+    {"line edit", "text", make<QLineEdit>, "", "text"},
+    {"line edit", "hint text", make<QLineEdit>, "", "placeholderText"},
+    {"line edit", "selected text", make<QLineEdit>, "", "all"},
+    {"text edit", "text", make<QTextEdit>, "", "plainText"},
+    {"text edit", "selected text", make<QTextEdit>, "", "all"},
+    {"group box", "text", make<QGroupBox>, "", "title"},
+    {"combo box", "text", make<QComboBox>, "", "words"},
+    {"combo box, editable", "text", make<QComboBox>, "editable=1", "currentText"},
+    {"spin box", "text", make<QSpinBox>, "", "specialValueText"},
+    {"tab bar", "text", make<QTabBar>, "", "words"},
+    {"progress bar", "text", make<QProgressBar>, "value=50", "format"},
+    {"progress bar, inverted", "text", make<QProgressBar>, "value=30 invertedAppearance=1",
+     "format"},
+    {"view", "text", make<QTableWidget>, "", "words"},
+    {"view", "selected text", make<QTableWidget>, "", "chosen words"},
+    {"view", "header text", make<QTableWidget>, "", "header"},
+    {"menu", "text", make<QMenu>, "", "words"},
+    {"menu", "chosen text", make<QMenu>, "", "chosen words"},
+    {"sub-window", "title text", make<QMdiSubWindow>, "", "windowTitle"},
+    {"dock widget", "title text", make<QDockWidget>, "", "windowTitle"},
+
+    {"check box", "box", make<QCheckBox>, "", "visible"},
+    {"check box", "mark", make<QCheckBox>, "", "checked"},
+    {"radio button", "ring", make<QRadioButton>, "", "visible"},
+    {"radio button", "dot", make<QRadioButton>, "autoExclusive=0", "checked"},
+    {"group box", "box", make<QGroupBox>, "", "checkable"},
+    {"push button", "checked line", make<QPushButton>, "checkable=1", "checked"},
+    {"tool button", "checked line", make<QToolButton>, "checkable=1", "checked"},
+    {"menu", "box", make<QMenu>, "", "checkable"},
+    {"menu", "mark", make<QMenu>, "", "checked"},
+    {"menu", "chosen row", make<QMenu>, "", "chosen"},
+    {"view", "box", make<QTableWidget>, "", "check"},
+    {"view", "selected row", make<QTableWidget>, "", "chosen"},
+    {"tab bar", "chosen line", make<QTabBar>, "", "currentIndex=0:1"},
+    {"tab bar", "close symbol", make<QTabBar>, "", "tabsClosable"},
+    {"spin box", "arrows", make<QSpinBox>, "", "buttonSymbols=0:2"},
+    {"tool button", "arrow", make<QToolButton>, "", "arrowType=2:0"},
+    {"slider", "handle", make<QSlider>, "orientation=Horizontal", "value=60:0"},
+    {"slider, vertical", "handle", make<QSlider>, "", "value=60:0"},
+    {"slider", "marks", make<QSlider>, "orientation=Horizontal tickInterval=10",
+     "tickPosition=3:0"},
+    {"dial", "knob", make<QDial>, "", "value=60:0"},
+    {"dial", "marks", make<QDial>, "", "notchesVisible"},
+    {"scroll bar", "handle", make<QScrollBar>, "orientation=Horizontal", "value=60:0"},
+    {"progress bar", "bar", make<QProgressBar>, "textVisible=0", "value=60:0"},
+    {"size grip", "grip", make<QSizeGrip>, "", "visible"},
+    {"dock widget", "symbols", make<QDockWidget>, "", "features=7:0"},
+
+    {"push button", "focus frame", make<QPushButton>, "", "focus"},
+    {"tool button", "focus frame", make<QToolButton>, "focusPolicy=StrongFocus", "focus"},
+    {"check box", "focus frame", make<QCheckBox>, "text=A", "focus"},
+    {"radio button", "focus frame", make<QRadioButton>, "text=A", "focus"},
+    {"group box", "focus frame", make<QGroupBox>, "checkable=1 title=A", "focus"},
+    {"line edit", "focus frame", make<QLineEdit>, "readOnly=1", "focus"},
+    {"text edit", "focus frame", make<QTextEdit>, "readOnly=1", "focus"},
+    {"combo box", "focus frame", make<QComboBox>, "", "focus"},
+    {"combo box, editable", "focus frame", make<QComboBox>, "editable=1", "focus"},
+    {"spin box", "focus frame", make<QSpinBox>, "readOnly=1", "focus"},
+    {"slider", "focus frame", make<QSlider>, "orientation=Horizontal", "focus"},
+    {"dial", "focus frame", make<QDial>, "", "focus"},
+    {"tab bar", "focus frame", make<QTabBar>, "", "focus"},
+    {"view", "focus frame", make<QTableWidget>, "", "focus"},
+    {"RangeSlider", "focus frame", make<RangeSlider>, "focusPolicy=StrongFocus", "focus"},
+    {"CheckBox", "focus frame", make<CheckBox>, "", "focus"},
+};
+
+QString words(bool on)
+{
+    return on ? QStringLiteral("MWHNE") : QString(5, QChar(QChar::Nbsp));
+}
+
+void setWords(QWidget *widget, const QString &text)
+{
+    if (auto *table = qobject_cast<QTableWidget *>(widget)) {
+        table->item(1, 0)->setText(text); // on the alternate ground
+    } else if (auto *bar = qobject_cast<QTabBar *>(widget)) {
+        bar->setTabText(0, text);
+    } else if (auto *box = qobject_cast<QComboBox *>(widget)) {
+        box->setItemText(0, text);
+    } else {
+        widget->actions().first()->setText(text);
+    }
+}
+
+void choose(QWidget *widget, bool on)
+{
+    if (auto *table = qobject_cast<QTableWidget *>(widget))
+        table->item(1, 0)->setSelected(on);
+    else
+        static_cast<QMenu *>(widget)->setActiveAction(on ? widget->actions().first() : nullptr);
+}
+
+/// Shows the part of a sample that \a name stands for, or hides it.
+void toggle(QWidget *widget, const QString &name, bool on)
+{
+    auto *table = qobject_cast<QTableWidget *>(widget);
+    auto *menu = qobject_cast<QMenu *>(widget);
+    if (name.contains(QLatin1String("chosen")))
+        choose(widget, on || name.contains(QLatin1String("words")));
+    if (name.contains(QLatin1String("words"))) {
+        setWords(widget, words(on));
+    } else if (name == QLatin1String("focus")) {
+        on ? widget->setFocus(Qt::TabFocusReason) : widget->clearFocus();
+    } else if (name == QLatin1String("all")) {
+        widget->setProperty(widget->inherits("QLineEdit") ? "text" : "plainText", words(on));
+        QMetaObject::invokeMethod(widget, "selectAll");
+    } else if (name == QLatin1String("header")) {
+        table->setHorizontalHeaderLabels({words(on)});
+    } else if (table && name == QLatin1String("check")) {
+        table->item(0, 0)->setData(Qt::CheckStateRole, on ? QVariant(Qt::Unchecked) : QVariant());
+    } else if (menu) {
+        QAction *action = menu->actions().first();
+        action->setCheckable(on || name == QLatin1String("checked"));
+        action->setChecked(on && name == QLatin1String("checked"));
+    } else {
+        const QStringList parts = name.split(QRegularExpression(QStringLiteral("[=:]")));
+        const QByteArray property = parts.first().toLatin1();
+        const bool isSwitch = widget->property(property).type() == QVariant::Bool;
+        widget->setProperty(property, parts.size() > 1 ? QVariant(parts.at(on ? 1 : 2).toInt())
+                                      : isSwitch       ? QVariant(on)
+                                                       : QVariant(words(on)));
+    }
+}
+
+double luminance(const QColor &color)
+{
+    const auto linear = [](double c) {
+        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+           + 0.0722 * linear(color.blueF());
+}
+
+/// The contrast that the clearest twentieth of the pixels reach in which two pictures differ: the
+/// edges of smoothed shapes are of any shade.
+double contrast(const QImage &with, const QImage &without)
+{
+    std::vector<double> contrasts;
+    for (int y = 0; y < with.height(); ++y) {
+        for (int x = 0; x < with.width(); ++x) {
+            const double a = luminance(with.pixelColor(x, y)) + 0.05;
+            const double b = luminance(without.pixelColor(x, y)) + 0.05;
+            if (with.pixel(x, y) != without.pixel(x, y))
+                contrasts.push_back(std::max(a, b) / std::min(a, b));
+        }
+    }
+    if (contrasts.size() < 10)
+        return 1.0;
+    std::sort(contrasts.rbegin(), contrasts.rend());
+    return contrasts.at(contrasts.size() / 20);
+}
+
+/// The least contrasts of a sample over its states and both directions; 0 where it has none.
+struct Result
+{
+    double enabled = 0.0;
+    double disabled = 0.0;
+};
+
+enum class State { Normal, Hovered, Pressed, Focused, Inactive, Disabled };
+
+/// A window of one control.
+class Stage : public QWidget
+{
+public:
+    explicit Stage(const Sample &sample, State state = State::Normal,
+                   Qt::LayoutDirection direction = Qt::LeftToRight)
+        : m_sample(sample)
+        , m_control(sample.create(this))
+    {
+        setFixedSize(220, 120);
+        setLayoutDirection(direction);
+        for (const QString &setting :
+             QString::fromLatin1(sample.properties).split(QLatin1Char(' '), Qt::SkipEmptyParts))
+        {
+            const QString name = setting.section(QLatin1Char('='), 0, 0);
+            m_control->setProperty(name.toLatin1(), setting.section(QLatin1Char('='), 1));
+        }
+        m_control->setGeometry(12, 12, 190, qBound(14, m_control->sizeHint().height(), 90));
+        m_control->setEnabled(state != State::Disabled);
+        m_control->setAttribute(Qt::WA_UnderMouse, state == State::Hovered);
+        show();
+        m_control->show();
+        if (state == State::Focused)
+            m_control->setFocus(Qt::TabFocusReason);
+        QApplication::setActiveWindow(state == State::Inactive ? nullptr : this);
+        if (state == State::Pressed)
+            m_control->setProperty(m_control->inherits("QAbstractButton") ? "down" : "sliderDown",
+                                   true);
+    }
+
+    QWidget *control() const { return m_control; }
+
+    QImage picture(bool on)
+    {
+        toggle(m_control, QLatin1String(m_sample.toggled), on);
+        QCoreApplication::processEvents();
+        return m_control->isWindow() ? m_control->grab().toImage() : grab().toImage();
+    }
+
+private:
+    const Sample &m_sample;
+    QWidget *m_control;
+};
+
+Result measure(const Sample &sample)
+{
+    Result result;
+    const bool isFocus = qstrcmp(sample.toggled, "focus") == 0;
+    for (State state : {State::Normal, State::Hovered, State::Pressed, State::Focused,
+                        State::Inactive, State::Disabled})
+    {
+        if (isFocus && state != State::Normal && state != State::Hovered)
+            continue;
+        for (Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            Stage stage(sample, state, direction);
+            const QImage without = stage.picture(false);
+            const double found = contrast(stage.picture(true), without);
+            double &least = state == State::Disabled ? result.disabled : result.enabled;
+            least = least > 0.0 ? std::min(least, found) : found;
+        }
+    }
+    return result;
+}
+
+void showFace(bool readable)
+{
+    DarkUX::getInstance().initialize();
+    const QPalette theme = DarkUX::getInstance().palette();
+    if (readable)
+        QApplication::setStyle(new DarkReadableStyle);
+    else
+        QApplication::setStyle(new DarkFusionStyle);
+    LivePalette::apply(readable ? DarkReadableStyle::palette(theme) : theme);
+}
+
+void printTable()
+{
+    const auto cell = [](double contrast) {
+        return contrast > 0.0 ? QByteArray::number(contrast, 'f', 2) : QByteArray("–");
+    };
+    QVector<Result> results[2];
+    for (int face : {0, 1}) {
+        showFace(face == 1);
+        for (const Sample &sample : samples)
+            results[face] << measure(sample);
+    }
+    int row = 0;
+    for (const Sample &sample : samples) {
+        const Result &exact = results[0].at(row);
+        const Result &readable = results[1].at(row++);
+        std::printf("| %s | %s | %s | %s | %s | %s |\n", sample.control, sample.part,
+                    cell(exact.enabled).constData(), cell(exact.disabled).constData(),
+                    cell(readable.enabled).constData(), cell(readable.disabled).constData());
+    }
+}
+
+} // namespace
+
+class tst_Readable : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { showFace(true); }
+
+    void contrasts_data()
+    {
+        QTest::addColumn<int>("index");
+        int index = 0;
+        for (const Sample &sample : samples)
+            QTest::addRow("%s: %s", sample.control, sample.part) << index++;
+    }
+
+    void contrasts()
+    {
+        QFETCH(int, index);
+        const Sample &sample = samples[index];
+        const Result result = measure(sample);
+        const QByteArray message = "enabled " + QByteArray::number(result.enabled) + ", disabled "
+                                   + QByteArray::number(result.disabled);
+        QVERIFY2(result.enabled >= (sample.isText() ? 4.5 : 3.0), message.constData());
+        QVERIFY2(result.disabled == 0.0 || result.disabled >= 3.0, message.constData());
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_FONT_DPI", "96");
+    QApplication app(argc, argv);
+    QApplication::setCursorFlashTime(0);
+    QFont fixed(QStringLiteral("DejaVu Sans Mono")); // in which blanks are as wide as letters
+    fixed.setStyleHint(QFont::TypeWriter);
+    QApplication::setFont(fixed);
+    DarkUX theme;
+    if (app.arguments().contains(QLatin1String("--table"))) {
+        printTable();
+        return 0;
+    }
+    tst_Readable test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_readable.moc"
