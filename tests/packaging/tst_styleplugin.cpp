@@ -2,6 +2,7 @@
 #include "xserver.h"
 
 #include <nocturne/DarkFusionStyle>
+#include <nocturne/DarkReadableStyle>
 #include <nocturne/DarkUX>
 
 #include <QtCore/QLibraryInfo>
@@ -100,6 +101,12 @@ void tst_StylePlugin::keys()
     QVERIFY(QStyleFactory::keys().contains(QStringLiteral("DarkFusion")));
     const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("darkfusion")));
     QVERIFY(qobject_cast<DarkFusionStyle *>(style.get()));
+
+    // Not the static part of this program, so known by its name only.
+    const std::unique_ptr<QStyle> readable(
+        QStyleFactory::create(QStringLiteral("darkfusionreadable")));
+    QVERIFY(readable && readable->inherits("DarkReadableStyle"));
+    QCOMPARE(readable->standardPalette(), DarkReadableStyle::palette(style->standardPalette()));
 }
 
 void tst_StylePlugin::paletteWithoutTheme()

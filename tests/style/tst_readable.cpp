@@ -159,36 +159,27 @@ QString words(bool on)
     return on ? QStringLiteral("MWHNE") : QString(5, QChar(QChar::Nbsp));
 }
 
-void setWords(QWidget *widget, const QString &text)
-{
-    if (auto *table = qobject_cast<QTableWidget *>(widget)) {
-        table->item(1, 0)->setText(text); // on the alternate ground
-    } else if (auto *bar = qobject_cast<QTabBar *>(widget)) {
-        bar->setTabText(0, text);
-    } else if (auto *box = qobject_cast<QComboBox *>(widget)) {
-        box->setItemText(0, text);
-    } else {
-        widget->actions().first()->setText(text);
-    }
-}
-
-void choose(QWidget *widget, bool on)
-{
-    if (auto *table = qobject_cast<QTableWidget *>(widget))
-        table->item(1, 0)->setSelected(on);
-    else
-        static_cast<QMenu *>(widget)->setActiveAction(on ? widget->actions().first() : nullptr);
-}
-
 /// Shows the part of a sample that \a name stands for, or hides it.
 void toggle(QWidget *widget, const QString &name, bool on)
 {
     auto *table = qobject_cast<QTableWidget *>(widget);
     auto *menu = qobject_cast<QMenu *>(widget);
-    if (name.contains(QLatin1String("chosen")))
-        choose(widget, on || name.contains(QLatin1String("words")));
-    if (name.contains(QLatin1String("words"))) {
-        setWords(widget, words(on));
+    auto *bar = qobject_cast<QTabBar *>(widget);
+    const bool hasWords = name.contains(QLatin1String("words"));
+    if (name.contains(QLatin1String("chosen"))) {
+        if (table)
+            table->item(1, 0)->setSelected(on || hasWords);
+        else
+            menu->setActiveAction(on || hasWords ? menu->actions().first() : nullptr);
+    }
+    if (hasWords && table) {
+        table->item(1, 0)->setText(words(on)); // on the alternate ground
+    } else if (hasWords && bar) {
+        bar->setTabText(0, words(on));
+    } else if (hasWords && menu) {
+        menu->actions().first()->setText(words(on));
+    } else if (hasWords) {
+        static_cast<QComboBox *>(widget)->setItemText(0, words(on));
     } else if (name == QLatin1String("focus")) {
         on ? widget->setFocus(Qt::TabFocusReason) : widget->clearFocus();
     } else if (name == QLatin1String("all")) {
@@ -221,6 +212,13 @@ double luminance(const QColor &color)
            + 0.0722 * linear(color.blueF());
 }
 
+double contrast(const QColor &a, const QColor &b)
+{
+    const double first = luminance(a) + 0.05;
+    const double second = luminance(b) + 0.05;
+    return std::max(first, second) / std::min(first, second);
+}
+
 /// The contrast that the clearest twentieth of the pixels reach in which two pictures differ: the
 /// edges of smoothed shapes are of any shade.
 double contrast(const QImage &with, const QImage &without)
@@ -228,10 +226,8 @@ double contrast(const QImage &with, const QImage &without)
     std::vector<double> contrasts;
     for (int y = 0; y < with.height(); ++y) {
         for (int x = 0; x < with.width(); ++x) {
-            const double a = luminance(with.pixelColor(x, y)) + 0.05;
-            const double b = luminance(without.pixelColor(x, y)) + 0.05;
             if (with.pixel(x, y) != without.pixel(x, y))
-                contrasts.push_back(std::max(a, b) / std::min(a, b));
+                contrasts.push_back(contrast(with.pixelColor(x, y), without.pixelColor(x, y)));
         }
     }
     if (contrasts.size() < 10)
@@ -345,6 +341,27 @@ void printTable()
     }
 }
 
+/// A host's own style on top, which counts what reaches it.
+class Counter : public QProxyStyle
+{
+public:
+    using QProxyStyle::QProxyStyle;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override
+    {
+        ++counts[element];
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+    mutable QHash<int, int> counts;
+};
+
+const Sample &sampleNamed(const char *control, const char *part)
+{
+    return *std::find_if(std::begin(samples), std::end(samples), [&](const Sample &sample) {
+        return !qstrcmp(sample.control, control) && !qstrcmp(sample.part, part);
+    });
+}
+
 } // namespace
 
 class tst_Readable : public QObject
@@ -353,26 +370,236 @@ class tst_Readable : public QObject
 
 private Q_SLOTS:
     void initTestCase() { showFace(true); }
-
-    void contrasts_data()
-    {
-        QTest::addColumn<int>("index");
-        int index = 0;
-        for (const Sample &sample : samples)
-            QTest::addRow("%s: %s", sample.control, sample.part) << index++;
-    }
-
-    void contrasts()
-    {
-        QFETCH(int, index);
-        const Sample &sample = samples[index];
-        const Result result = measure(sample);
-        const QByteArray message = "enabled " + QByteArray::number(result.enabled) + ", disabled "
-                                   + QByteArray::number(result.disabled);
-        QVERIFY2(result.enabled >= (sample.isText() ? 4.5 : 3.0), message.constData());
-        QVERIFY2(result.disabled == 0.0 || result.disabled >= 3.0, message.constData());
-    }
+    void contrasts_data();
+    void contrasts();
+    void palettes();
+    void exactFaceBeside();
+    void focusByKeyboardOnly();
+    void scrollBarsBesideContents();
+    void listsOfComboBoxesBelowAHostsProxy();
+    void rightToLeft();
+    void marksGrow();
+    void looksOfStates();
+    void livePalette();
 };
+
+void tst_Readable::contrasts_data()
+{
+    QTest::addColumn<int>("index");
+    int index = 0;
+    for (const Sample &sample : samples)
+        QTest::addRow("%s: %s", sample.control, sample.part) << index++;
+}
+
+void tst_Readable::contrasts()
+{
+    QFETCH(int, index);
+    const Sample &sample = samples[index];
+    const Result result = measure(sample);
+    const QByteArray message = "enabled " + QByteArray::number(result.enabled) + ", disabled "
+                               + QByteArray::number(result.disabled);
+    QVERIFY2(result.enabled >= (sample.isText() ? 4.5 : 3.0), message.constData());
+    QVERIFY2(result.disabled == 0.0 || result.disabled >= 3.0, message.constData());
+}
+
+/// The rule holds for themes it was not made for.
+void tst_Readable::palettes()
+{
+    using P = QPalette;
+    const QPalette dark = DarkUX::getInstance().defaultPalette();
+    for (const QPalette &theme : {dark, LivePalette::dimmed(dark, 0.4), P(Qt::lightGray)}) {
+        const QPalette readable = DarkReadableStyle::palette(theme);
+        for (P::ColorGroup group : {P::Active, P::Inactive, P::Disabled}) {
+            const auto between = [&](P::ColorRole a, P::ColorRole b) {
+                return contrast(readable.color(group, a), readable.color(group, b));
+            };
+            const double least = group == P::Disabled ? 3.0 : 4.5;
+            for (P::ColorRole text : {P::WindowText, P::Text, P::ButtonText, P::PlaceholderText,
+                                      P::Link, P::LinkVisited})
+            {
+                for (P::ColorRole ground : {P::Window, P::Base, P::AlternateBase, P::Button})
+                    QVERIFY(between(text, ground) >= least);
+            }
+            QVERIFY(between(P::HighlightedText, P::Highlight) >= least);
+            QVERIFY(between(P::ToolTipText, P::ToolTipBase) >= least);
+            QVERIFY(between(P::Highlight, P::Base) >= 3.0);
+        }
+    }
+}
+
+/// What one face keeps, the other does not show, though both have the same palette.
+void tst_Readable::exactFaceBeside()
+{
+    DarkFusionStyle exact;
+    const auto picture = [&](QStyle *style) {
+        Stage stage(sampleNamed("combo box, editable", "text"), State::Hovered, Qt::RightToLeft);
+        stage.control()->setStyle(style);
+        return stage.picture(true);
+    };
+    QPixmapCache::clear();
+    const QImage before = picture(&exact);
+    QPixmapCache::clear();
+    QVERIFY(picture(QApplication::style()) != before);
+    QCOMPARE(picture(&exact), before);
+}
+
+void tst_Readable::focusByKeyboardOnly()
+{
+    QWidget window;
+    QPushButton first(QStringLiteral("First"), &window);
+    QLineEdit second(&window);
+    second.move(0, 40);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    const QSize sizes[] = {first.sizeHint(), second.sizeHint()};
+    const auto framed = [&window] {
+        const auto *frame = window.findChild<QFocusFrame *>();
+        return frame ? frame->widget() : nullptr;
+    };
+
+    second.setFocus(Qt::TabFocusReason);
+    QCOMPARE(framed(), &second);
+    QTest::keyClick(&second, Qt::Key_Tab);
+    QCOMPARE(framed(), &first);
+    QCOMPARE(first.sizeHint(), sizes[0]);
+    QCOMPARE(second.sizeHint(), sizes[1]);
+    QApplication::setActiveWindow(nullptr);
+    QVERIFY(!framed());
+    QApplication::setActiveWindow(&window);
+    QCOMPARE(framed(), &first);
+
+    QTest::mouseClick(&second, Qt::LeftButton);
+    QVERIFY(second.hasFocus());
+    QVERIFY(!framed());
+    QVERIFY(!window.testAttribute(Qt::WA_KeyboardFocusChange));
+    first.setFocus(); // by the program, in answer to the pointer
+    QVERIFY(!framed());
+    QTest::keyClick(&first, Qt::Key_A);
+    second.setFocus(); // in answer to the key
+    QCOMPARE(framed(), &second);
+}
+
+void tst_Readable::scrollBarsBesideContents()
+{
+    QTextEdit edit;
+    edit.setPlainText(QString(500, QLatin1Char('\n')));
+    edit.resize(200, 100);
+    edit.show();
+    edit.grab(); // lays it out
+    QVERIFY(edit.verticalScrollBar()->isVisible());
+    const QScrollBar *bar = edit.verticalScrollBar();
+    QVERIFY(
+        !QRect(bar->mapTo(&edit, QPoint()), bar->size()).intersects(edit.viewport()->geometry()));
+}
+
+void tst_Readable::listsOfComboBoxesBelowAHostsProxy()
+{
+    Counter host(new DarkReadableStyle);
+    QComboBox box;
+    box.setStyle(&host);
+    box.addItems({QStringLiteral("A"), QStringLiteral("B")});
+    box.show();
+    box.showPopup();
+    const QImage plain = box.view()->grab().toImage();
+    QCOMPARE(host.counts.value(QStyle::PE_IndicatorCheckBox), 0);
+    box.setItemData(1, Qt::Unchecked, Qt::CheckStateRole);
+    QVERIFY(box.view()->grab().toImage() != plain);
+    QVERIFY(host.counts.value(QStyle::PE_IndicatorCheckBox) > 0);
+    box.hidePopup();
+}
+
+void tst_Readable::rightToLeft()
+{
+    for (const char *control : {"combo box, editable", "combo box"}) {
+        const Sample &sample = sampleNamed(control, "focus frame");
+        const QImage left = Stage(sample).picture(false);
+        const QImage right = Stage(sample, State::Normal, Qt::RightToLeft).picture(false);
+        const QRect frame(12, 12, 190, 24); // within the window, which is wider on the other side
+        QCOMPARE(right.copy(frame), left.copy(frame).mirrored(true, false));
+    }
+
+    // A third is done, at the right end: the text in the middle has the colour for the ground.
+    const Sample &bar = sampleNamed("progress bar, inverted", "text");
+    Stage stage(bar, State::Normal, Qt::LeftToRight);
+    QVERIFY(stage.picture(true) != stage.picture(false));
+    const auto count = [&](QPalette::ColorRole role) {
+        return TestSupport::count(stage.picture(true), QRect(0, 0, 220, 120),
+                                  stage.palette().color(role));
+    };
+    QVERIFY(count(QPalette::Text) > 10);
+    QCOMPARE(count(QPalette::HighlightedText), 0);
+}
+
+/// A mark covers the same share of a box of any size.
+void tst_Readable::marksGrow()
+{
+    const auto share = [](int extent) {
+        QStyleOptionButton option;
+        option.rect = QRect(0, 0, extent, extent);
+        option.state = QStyle::State_Enabled;
+        const auto paint = [&option](QPainter &painter) {
+            QApplication::style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter);
+        };
+        const QImage off = TestSupport::paintOn(option.rect.size(), Qt::black, paint);
+        option.state |= QStyle::State_On;
+        const QImage on = TestSupport::paintOn(option.rect.size(), Qt::black, paint);
+        int marked = 0;
+        for (int i = 0; i < extent * extent; ++i)
+            marked += on.pixel(i % extent, i / extent) != off.pixel(i % extent, i / extent);
+        return 1.0 * marked / (extent * extent);
+    };
+    QVERIFY(share(14) > 0.1);
+    QVERIFY(share(56) > 0.6 * share(14));
+}
+
+/// Disabled is darker, hovered is lighter, over the whole control.
+void tst_Readable::looksOfStates()
+{
+    const auto light = [](const Sample &sample, State state) {
+        const QImage image = Stage(sample, state).picture(true);
+        double sum = 0.0;
+        for (int i = 0; i < image.width() * image.height(); ++i)
+            sum += luminance(image.pixelColor(i % image.width(), i / image.width()));
+        return sum;
+    };
+    const std::pair<const char *, const char *> looks[] = {
+        {"slider", "handle"},  {"dial", "knob"},        {"scroll bar", "handle"},
+        {"check box", "mark"}, {"push button", "text"}, {"combo box", "text"}};
+    for (const auto &look : looks) {
+        const Sample &sample = sampleNamed(look.first, look.second);
+        const double normal = light(sample, State::Normal);
+        QVERIFY2(light(sample, State::Disabled) < 0.98 * normal, look.first);
+        if (sample.isText())
+            QVERIFY2(light(sample, State::Hovered) > 1.05 * normal, look.first);
+    }
+    Stage tabs(sampleNamed("tab bar", "text"));
+    const QImage resting = tabs.picture(true);
+    QHoverEvent enter(QEvent::HoverEnter, QPoint(100, 12), QPoint(-1, -1));
+    QApplication::sendEvent(tabs.control(), &enter);
+    QVERIFY(tabs.picture(true) != resting);
+}
+
+void tst_Readable::livePalette()
+{
+    struct Painted : QWidget
+    {
+        void paintEvent(QPaintEvent *) override { ++count; }
+        int count = 0;
+    } window;
+    Painted child;
+    child.setParent(&window);
+    child.setPalette(Qt::red); // no change for this one
+    window.show();
+    QTest::qWait(1);
+    window.count = child.count = 0;
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::Link, Qt::green);
+    LivePalette::apply(palette);
+    QTRY_VERIFY(window.count > 0 && child.count > 0);
+    QCOMPARE(DarkUX::getInstance().palette(), palette);
+    QCOMPARE(QApplication::palette().color(QPalette::Link), QColor(Qt::green));
+    showFace(true);
+}
 
 int main(int argc, char *argv[])
 {
