@@ -10,6 +10,8 @@
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 
+#include <cmath>
+
 int const RoundProgressBar::PositionLeft = 180;
 int const RoundProgressBar::PositionTop = 90;
 int const RoundProgressBar::PositionRight = 0;
@@ -137,7 +139,7 @@ void RoundProgressBar::setBarStyle(BarStyle style)
 
 void RoundProgressBar::setOutlinePenWidth(double width)
 {
-    if (!(width >= 0.0) || width == m_outlinePenWidth)
+    if (!qIsFinite(width) || width < 0.0 || width == m_outlinePenWidth)
         return;
     m_outlinePenWidth = width;
     update();
@@ -145,7 +147,7 @@ void RoundProgressBar::setOutlinePenWidth(double width)
 
 void RoundProgressBar::setDataPenWidth(double width)
 {
-    if (!(width >= 0.0) || width == m_dataPenWidth)
+    if (!qIsFinite(width) || width < 0.0 || width == m_dataPenWidth)
         return;
     m_dataPenWidth = width;
     update();
@@ -326,14 +328,14 @@ void RoundProgressBar::drawValue(QPainter &painter, const QRectF &baseRect, doub
     if (m_barStyle == LineStyle) {
         painter.setPen(QPen(QColor(Nocturne::ThemePaint::accentBlue), m_dataPenWidth));
         painter.setBrush(Qt::NoBrush);
-        painter.drawArc(shrunk(baseRect, m_outlinePenWidth / 2), int(m_nullPosition * 16),
+        painter.drawArc(shrunk(baseRect, m_outlinePenWidth / 2), int(startAngle() * 16),
                         int(-arcLength * 16));
         return;
     }
 
     QPainterPath sector(baseRect.center());
     sector.setFillRule(Qt::WindingFill);
-    sector.arcTo(baseRect, m_nullPosition, -arcLength);
+    sector.arcTo(baseRect, startAngle(), -arcLength);
     sector.lineTo(baseRect.center());
 
     QColor fill(Nocturne::ThemePaint::accentBlue);
@@ -406,7 +408,7 @@ void RoundProgressBar::rebuildDataBrushIfNeeded()
         return;
     m_rebuildDataBrush = false;
 
-    QConicalGradient gradient(QPointF(0.5, 0.5), m_nullPosition);
+    QConicalGradient gradient(QPointF(0.5, 0.5), startAngle());
     gradient.setCoordinateMode(QGradient::ObjectBoundingMode);
     for (const auto &stop : qAsConst(m_dataColors))
         gradient.setColorAt(1.0 - stop.first, stop.second);
@@ -416,8 +418,14 @@ void RoundProgressBar::rebuildDataBrushIfNeeded()
     setPalette(changed);
 }
 
+double RoundProgressBar::startAngle() const
+{
+    return std::fmod(m_nullPosition, 360.0);
+}
+
 double RoundProgressBar::share(double value) const
 {
-    const double length = m_maximum - m_minimum;
-    return length > 0.0 ? (value - m_minimum) / length : 0.0;
+    // Halves, since the length of a range may be more than a double holds.
+    const double halfLength = m_maximum / 2 - m_minimum / 2;
+    return halfLength > 0.0 ? (value / 2 - m_minimum / 2) / halfLength : 0.0;
 }

@@ -147,6 +147,7 @@ private:
     QString accessibleValue();
     void applyRange(double min, double max);
     void invalidateDataBrush();
+    double startAngle() const;
     double share(double value) const;
 
     double m_minimum = 0.0;
