@@ -1,31 +1,26 @@
 #include "complexcontrols_p.h"
-
-#include "darkfusionstyle.h"
-#include "stylehelpers_p.h"
-
-#include <QtWidgets/QStyleOption>
+#include "styleelements_p.h"
 
 #include <limits>
 
 namespace {
 
-template <typename Option>
-using Paint = void (*)(const QStyle *, const Option *, QPainter *, const QWidget *);
+constexpr auto complexControlFunctions = [] {
+    using namespace Nocturne::StylePaint;
+    ElementTable<QStyle::CC_MdiControls + 1> functions{};
+    functions[QStyle::CC_SpinBox] = paintSpinBox;
+    functions[QStyle::CC_ComboBox] = paintComboBox;
+    functions[QStyle::CC_ScrollBar] = paintScrollBar;
+    functions[QStyle::CC_Slider] = paintSlider;
+    functions[QStyle::CC_TitleBar] = paintTitleBar;
+    functions[QStyle::CC_Dial] = paintDial;
+    functions[QStyle::CC_GroupBox] = paintGroupBox;
+    return functions;
+}();
 
 template <typename Option>
 using Place = QRect (*)(const QStyle *, const Option *, QStyle::SubControl, const QRect &,
                         const QWidget *);
-
-/// Calls \a paint with the option as what it really is. Paints nothing for an option of another
-/// type, or one without an area.
-template <typename Option>
-void paintAs(Paint<Option> paint, const QStyle *style, const QStyleOptionComplex *option,
-             QPainter *painter, const QWidget *widget)
-{
-    const auto *typed = qstyleoption_cast<const Option *>(option);
-    if (typed && !typed->rect.isEmpty())
-        paint(style, typed, painter, widget);
-}
 
 /// \a place's answer, or \a base for an option of another type.
 template <typename Option>
@@ -75,50 +70,14 @@ int Nocturne::ComplexControls::sliderPosition(const QStyleOptionSlider *option, 
                                            value / divisor, span, upsideDown);
 }
 
-QPixmap Nocturne::ComplexControls::arrowPixmap(const QColor &color, int rotation)
-{
-    return Nocturne::StyleHelpers::colorizedImage(Nocturne::StyleHelpers::arrowImageFileName(),
-                                                  color, rotation);
-}
-
-void Nocturne::ComplexControls::drawArrow(QPainter *painter, const QPointF &centre,
-                                          const QColor &color, int rotation)
-{
-    const QPixmap arrow = arrowPixmap(color, rotation);
-    const QSizeF size = QSizeF(arrow.size()) / 2.0;
-    const QRectF target(centre - QPointF(size.width(), size.height()) / 2.0, size);
-    painter->drawPixmap(target, arrow, arrow.rect());
-}
-
-void Nocturne::ComplexControls::paintDial(const QStyle *, const QStyleOptionSlider *option,
-                                          QPainter *painter, const QWidget *)
-{
-    Nocturne::StyleHelpers::drawDial(option, painter);
-}
-
 void DarkFusionStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                                          QPainter *painter, const QWidget *widget) const
 {
     if (!option || !painter)
         return;
-    switch (control) {
-    case CC_SpinBox:
-        return paintAs(Nocturne::ComplexControls::paintSpinBox, this, option, painter, widget);
-    case CC_ComboBox:
-        return paintAs(Nocturne::ComplexControls::paintComboBox, this, option, painter, widget);
-    case CC_ScrollBar:
-        return paintAs(Nocturne::ComplexControls::paintScrollBar, this, option, painter, widget);
-    case CC_Slider:
-        return paintAs(Nocturne::ComplexControls::paintSlider, this, option, painter, widget);
-    case CC_GroupBox:
-        return paintAs(Nocturne::ComplexControls::paintGroupBox, this, option, painter, widget);
-    case CC_TitleBar:
-        return paintAs(Nocturne::ComplexControls::paintTitleBar, this, option, painter, widget);
-    case CC_Dial:
-        return paintAs(Nocturne::ComplexControls::paintDial, this, option, painter, widget);
-    default:
+    const Nocturne::PaintCall call{this, option, painter, widget};
+    if (!Nocturne::StylePaint::paintElement(complexControlFunctions, control, call))
         QCommonStyle::drawComplexControl(control, option, painter, widget);
-    }
 }
 
 QStyle::SubControl DarkFusionStyle::hitTestComplexControl(ComplexControl control,

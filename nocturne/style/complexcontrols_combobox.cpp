@@ -1,11 +1,7 @@
-#include "complexcontrols_p.h"
-
 #include "stylecolors_p.h"
-#include "stylehelpers_p.h"
+#include "styleelements_p.h"
 
-#include <QtWidgets/QStyleOption>
-
-namespace Nocturne::ComplexControls {
+namespace Nocturne::StylePaint {
 namespace {
 
 QString comboBoxKey(const QStyleOptionComboBox *option)
@@ -36,15 +32,15 @@ QStyle::State frameState(const QStyleOptionComboBox &option, QStyle::State shown
     return state;
 }
 
-void paintComboBoxButton(const QStyle *style, const QStyleOptionComboBox &option, QPainter *painter,
-                         const QWidget *widget)
+void paintComboBoxButton(const PaintCall &call, const QStyleOptionComboBox &option,
+                         QPainter *painter)
 {
     QStyleOptionButton button;
     button.QStyleOption::operator=(option);
     button.state =
         frameState(option, QStyle::State_Enabled | QStyle::State_HasFocus | QStyle::State_MouseOver
                                | QStyle::State_KeyboardFocusChange);
-    style->proxy()->drawPrimitive(QStyle::PE_PanelButtonCommand, &button, painter, widget);
+    call.proxy()->drawPrimitive(QStyle::PE_PanelButtonCommand, &button, painter, call.widget);
 }
 
 void paintComboBoxSeparator(const QStyleOptionComboBox &option, QPainter *painter,
@@ -64,22 +60,22 @@ void paintComboBoxSeparator(const QStyleOptionComboBox &option, QPainter *painte
     painter->drawLine(x, arrow.top() + inset, x, arrow.bottom() - inset);
 }
 
-void paintComboBoxField(const QStyle *style, const QStyleOptionComboBox &option, QPainter *painter,
-                        const QRect &arrow, const QWidget *widget)
+void paintComboBoxField(const PaintCall &call, const QStyleOptionComboBox &option,
+                        QPainter *painter, const QRect &arrow)
 {
     QStyleOptionFrame field;
     field.QStyleOption::operator=(option);
     field.state =
         frameState(option, QStyle::State_Enabled | QStyle::State_HasFocus | QStyle::State_MouseOver)
         | QStyle::State_KeyboardFocusChange;
-    style->proxy()->drawPrimitive(QStyle::PE_FrameLineEdit, &field, painter, widget);
+    call.proxy()->drawPrimitive(QStyle::PE_FrameLineEdit, &field, painter, call.widget);
     {
         const PainterSaver saver(painter);
         painter->setClipRect(arrow.adjusted(0, 0, 1, 0), Qt::IntersectClip);
         // Right to left this starts beyond the clip: the arrow then stands on the bare field.
         field.rect.setLeft(option.direction == Qt::LeftToRight ? arrow.left() - 6
                                                                : arrow.right() + 6);
-        style->proxy()->drawPrimitive(QStyle::PE_PanelButtonCommand, &field, painter, widget);
+        call.proxy()->drawPrimitive(QStyle::PE_PanelButtonCommand, &field, painter, call.widget);
     }
     paintComboBoxSeparator(option, painter, arrow);
 }
@@ -99,23 +95,26 @@ void paintComboBoxArrow(const QStyleOptionComboBox &option, QPainter *painter, c
 
 } // namespace
 
-void paintComboBox(const QStyle *style, const QStyleOptionComboBox *option, QPainter *painter,
-                   const QWidget *widget)
+void paintComboBox(const PaintCall &call)
 {
+    const auto *option = call.as<QStyleOptionComboBox>();
+    if (!option)
+        return;
     const QSize size = option->rect.size();
     const QString key = comboBoxKey(option);
-    StyleHelpers::drawCached(painter, option->rect.topLeft(), key, size, [&](QPainter *cached) {
+    const auto paint = [&](QPainter *cached) {
         QStyleOptionComboBox local(*option);
         local.rect = QRect(QPoint(), size);
-        const QRect arrow = style->proxy()->subControlRect(QStyle::CC_ComboBox, &local,
-                                                           QStyle::SC_ComboBoxArrow, widget);
+        const QRect arrow =
+            call.subControlRect(QStyle::CC_ComboBox, local, QStyle::SC_ComboBoxArrow);
         if (local.editable)
-            paintComboBoxField(style, local, cached, arrow, widget);
+            paintComboBoxField(call, local, cached, arrow);
         else
-            paintComboBoxButton(style, local, cached, widget);
+            paintComboBoxButton(call, local, cached);
         if (local.subControls & QStyle::SC_ComboBoxArrow)
             paintComboBoxArrow(local, cached, arrow);
-    });
+    };
+    StyleHelpers::drawCached(call.painter, option->rect.topLeft(), key, size, paint);
 }
 
-} // namespace Nocturne::ComplexControls
+} // namespace Nocturne::StylePaint

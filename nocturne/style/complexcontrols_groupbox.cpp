@@ -1,68 +1,64 @@
-#include "complexcontrols_p.h"
+#include "styleelements_p.h"
 
-#include "stylehelpers_p.h"
-
-#include <QtWidgets/QStyleOption>
-
-namespace Nocturne::ComplexControls {
+namespace Nocturne::StylePaint {
 namespace {
 
-void paintGroupBoxFrame(const QStyle *style, const QStyleOptionGroupBox *option, QPainter *painter,
-                        const QWidget *widget)
+QRect groupBoxPart(const PaintCall &call, const QStyleOptionGroupBox &option,
+                   QStyle::SubControl part)
 {
-    QStyleOptionFrame frame;
-    frame.QStyleOption::operator=(*option);
-    frame.features = option->features;
-    frame.lineWidth = option->lineWidth;
-    frame.midLineWidth = option->midLineWidth;
-    frame.rect = style->proxy()->subControlRect(QStyle::CC_GroupBox, option,
-                                                QStyle::SC_GroupBoxFrame, widget);
-    style->proxy()->drawPrimitive(QStyle::PE_FrameGroupBox, &frame, painter, widget);
+    return call.subControlRect(QStyle::CC_GroupBox, option, part);
 }
 
-void paintGroupBoxLabel(const QStyle *style, const QStyleOptionGroupBox *option, QPainter *painter,
-                        const QWidget *widget)
+void paintGroupBoxFrame(const PaintCall &call, const QStyleOptionGroupBox &option)
 {
-    const QStyle *proxy = style->proxy();
-    const QRect rect =
-        proxy->subControlRect(QStyle::CC_GroupBox, option, QStyle::SC_GroupBoxLabel, widget);
-    int flags = int(option->textAlignment) | Qt::TextShowMnemonic | Qt::AlignLeft;
-    if (!proxy->styleHint(QStyle::SH_UnderlineShortcut, option, widget))
-        flags |= Qt::TextHideMnemonic;
-    painter->setPen(QPen(option->palette.windowText(), 1));
-    proxy->drawItemText(painter, rect, flags, option->palette,
-                        option->state & QStyle::State_Enabled, option->text, QPalette::NoRole);
+    QStyleOptionFrame frame;
+    frame.QStyleOption::operator=(option);
+    frame.features = option.features;
+    frame.lineWidth = option.lineWidth;
+    frame.midLineWidth = option.midLineWidth;
+    frame.rect = groupBoxPart(call, option, QStyle::SC_GroupBoxFrame);
+    call.drawPrimitive(QStyle::PE_FrameGroupBox, frame);
+}
 
-    if (option->state & QStyle::State_HasFocus) {
+void paintGroupBoxLabel(const PaintCall &call, const QStyleOptionGroupBox &option)
+{
+    const QRect rect = groupBoxPart(call, option, QStyle::SC_GroupBoxLabel);
+    int flags = int(option.textAlignment) | Qt::TextShowMnemonic | Qt::AlignLeft;
+    if (!call.proxy()->styleHint(QStyle::SH_UnderlineShortcut, &option, call.widget))
+        flags |= Qt::TextHideMnemonic;
+    call.painter->setPen(QPen(option.palette.windowText(), 1));
+    call.drawText(rect, flags, option.text, QPalette::NoRole);
+
+    if (call.has(QStyle::State_HasFocus)) {
         QStyleOptionFocusRect focus;
-        focus.QStyleOption::operator=(*option);
+        focus.QStyleOption::operator=(option);
         focus.rect = rect.adjusted(-2, -1, 2, 1);
-        proxy->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, widget);
+        call.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
     }
 }
 
-void paintGroupBoxCheckBox(const QStyle *style, const QStyleOptionGroupBox *option,
-                           QPainter *painter, const QWidget *widget)
+void paintGroupBoxCheckBox(const PaintCall &call, const QStyleOptionGroupBox &option)
 {
     QStyleOptionButton box;
-    box.QStyleOption::operator=(*option);
-    box.rect = style->proxy()->subControlRect(QStyle::CC_GroupBox, option,
-                                              QStyle::SC_GroupBoxCheckBox, widget);
-    style->proxy()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, painter, widget);
+    box.QStyleOption::operator=(option);
+    box.rect = groupBoxPart(call, option, QStyle::SC_GroupBoxCheckBox);
+    call.drawPrimitive(QStyle::PE_IndicatorCheckBox, box);
 }
 
 } // namespace
 
-void paintGroupBox(const QStyle *style, const QStyleOptionGroupBox *option, QPainter *painter,
-                   const QWidget *widget)
+void paintGroupBox(const PaintCall &call)
 {
-    const PainterSaver saver(painter);
+    const auto *option = call.as<QStyleOptionGroupBox>();
+    if (!option)
+        return;
+    const PainterSaver saver(call.painter);
     if (option->subControls & QStyle::SC_GroupBoxFrame)
-        paintGroupBoxFrame(style, option, painter, widget);
+        paintGroupBoxFrame(call, *option);
     if (option->subControls & QStyle::SC_GroupBoxLabel && !option->text.isEmpty())
-        paintGroupBoxLabel(style, option, painter, widget);
+        paintGroupBoxLabel(call, *option);
     if (option->subControls & QStyle::SC_GroupBoxCheckBox)
-        paintGroupBoxCheckBox(style, option, painter, widget);
+        paintGroupBoxCheckBox(call, *option);
 }
 
-} // namespace Nocturne::ComplexControls
+} // namespace Nocturne::StylePaint

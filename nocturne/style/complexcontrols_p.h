@@ -1,13 +1,12 @@
 #ifndef NOCTURNE_COMPLEXCONTROLS_P_H
 #define NOCTURNE_COMPLEXCONTROLS_P_H
 
-#include <QtCore/QPointF>
+#include <QtCore/QLineF>
 #include <QtCore/QRect>
+#include <QtCore/QVector>
 #include <QtWidgets/QStyle>
 
-class QColor;
 class QPainter;
-class QPixmap;
 class QStyleOptionComboBox;
 class QStyleOptionGroupBox;
 class QStyleOptionSlider;
@@ -15,36 +14,27 @@ class QStyleOptionSpinBox;
 class QStyleOptionTitleBar;
 class QWidget;
 
-/// The controls that are made of several parts: how they look, and where their parts lie.
+/// Where the parts of the complex controls lie.
 ///
-/// Every function takes the style it works for; what a style on top may want to change is asked of
-/// its proxy(). The option is never null, its rectangle never empty when something is painted.
+/// Every function that takes a style asks its proxy() for what a style on top may want to change.
+/// The option is never null.
 namespace Nocturne::ComplexControls {
-
-void paintSpinBox(const QStyle *style, const QStyleOptionSpinBox *option, QPainter *painter,
-                  const QWidget *widget);
-void paintComboBox(const QStyle *style, const QStyleOptionComboBox *option, QPainter *painter,
-                   const QWidget *widget);
-void paintScrollBar(const QStyle *style, const QStyleOptionSlider *option, QPainter *painter,
-                    const QWidget *widget);
-void paintSlider(const QStyle *style, const QStyleOptionSlider *option, QPainter *painter,
-                 const QWidget *widget);
-void paintGroupBox(const QStyle *style, const QStyleOptionGroupBox *option, QPainter *painter,
-                   const QWidget *widget);
-void paintTitleBar(const QStyle *style, const QStyleOptionTitleBar *option, QPainter *painter,
-                   const QWidget *widget);
-void paintDial(const QStyle *style, const QStyleOptionSlider *option, QPainter *painter,
-               const QWidget *widget);
-
-/// The arrow on the buttons of a control, in \a color, turned clockwise from upward.
-QPixmap arrowPixmap(const QColor &color, int rotation);
-
-/// The same, drawn at half its pixel size around \a centre.
-void drawArrow(QPainter *painter, const QPointF &centre, const QColor &color, int rotation);
 
 /// Where \a value lies along \a span units, as QStyle::sliderPositionFromValue() has it, but for
 /// ranges that are longer than an int, too.
 int sliderPosition(const QStyleOptionSlider *option, int value, int span, bool upsideDown);
+
+/// Draws a dial: tick marks, disc and knob.
+void drawDial(const QStyleOptionSlider *option, QPainter *painter);
+
+/// How long the long tick marks of a dial of \a radius are.
+int dialBigLineSize(int radius);
+
+/// The tick marks of a dial, each from its inner to its outer end.
+QVector<QLineF> dialTickLines(const QStyleOptionSlider *option);
+
+/// A point on the line from the dial's centre to its value, \a offset of the way out.
+QPointF dialRadialPos(const QStyleOptionSlider *option, qreal offset);
 
 // Where a part of the control lies. base is the common style's answer, which stands for the parts
 // that a control does not place itself.

@@ -1,11 +1,7 @@
-#include "complexcontrols_p.h"
-
 #include "stylecolors_p.h"
-#include "stylehelpers_p.h"
+#include "styleelements_p.h"
 
-#include <QtWidgets/QStyleOption>
-
-namespace Nocturne::ComplexControls {
+namespace Nocturne::StylePaint {
 namespace {
 
 // From the Window colour.
@@ -16,15 +12,14 @@ constexpr int hoveredHandleShift = 40;
 /// A scroll bar about to be painted: what its paint functions share.
 struct ScrollBar
 {
-    const QStyle *style;
+    const PaintCall &call;
     const QStyleOptionSlider &option;
-    const QWidget *widget;
     bool horizontal;
     bool rightToLeft;
 
     QRect part(QStyle::SubControl subControl) const
     {
-        return style->proxy()->subControlRect(QStyle::CC_ScrollBar, &option, subControl, widget);
+        return call.subControlRect(QStyle::CC_ScrollBar, option, subControl);
     }
     bool isRequested(QStyle::SubControl subControl) const
     {
@@ -258,15 +253,17 @@ void paintSolidScrollBar(const ScrollBar &bar, QPainter *painter)
 
 } // namespace
 
-void paintScrollBar(const QStyle *style, const QStyleOptionSlider *option, QPainter *painter,
-                    const QWidget *widget)
+void paintScrollBar(const PaintCall &call)
 {
-    const ScrollBar bar{style, *option, widget, option->orientation == Qt::Horizontal,
+    const auto *option = call.as<QStyleOptionSlider>();
+    if (!option)
+        return;
+    const ScrollBar bar{call, *option, option->orientation == Qt::Horizontal,
                         option->direction == Qt::RightToLeft};
-    if (style->proxy()->styleHint(QStyle::SH_ScrollBar_Transient, option, widget))
-        paintTransientScrollBar(bar, painter);
+    if (call.proxy()->styleHint(QStyle::SH_ScrollBar_Transient, option, call.widget))
+        paintTransientScrollBar(bar, call.painter);
     else
-        paintSolidScrollBar(bar, painter);
+        paintSolidScrollBar(bar, call.painter);
 }
 
-} // namespace Nocturne::ComplexControls
+} // namespace Nocturne::StylePaint

@@ -1,15 +1,12 @@
 #include "complexcontrols_p.h"
-
 #include "stylecolors_p.h"
-#include "stylehelpers_p.h"
+#include "styleelements_p.h"
 
 #include <nocturne/painting/themepaint_p.h>
 
-#include <QtWidgets/QStyleOption>
-
 #include <limits>
 
-namespace Nocturne::ComplexControls {
+namespace Nocturne::StylePaint {
 namespace {
 
 constexpr QRgb inkColor = 0xff0b0b0b;    // rgb(11, 11, 11): the rim of the fill, the handle's dot
@@ -71,15 +68,15 @@ void paintSliderFill(const QStyleOptionSlider *option, QPainter *painter, const 
     });
 }
 
-int tickInterval(const QStyle *style, const QStyleOptionSlider *option, const QWidget *widget)
+int tickInterval(const PaintCall &call, const QStyleOptionSlider *option)
 {
     int interval = option->tickInterval;
     if (interval <= 0) {
         interval = option->singleStep;
         const int available =
-            style->proxy()->pixelMetric(QStyle::PM_SliderSpaceAvailable, option, widget);
+            call.proxy()->pixelMetric(QStyle::PM_SliderSpaceAvailable, option, call.widget);
         const auto position = [&](int value) {
-            return sliderPosition(option, value, available, false);
+            return ComplexControls::sliderPosition(option, value, available, false);
         };
         if (position(interval) - position(0) < 3)
             interval = option->pageStep;
@@ -107,14 +104,13 @@ void forEachTick(const QStyleOptionSlider *option, int interval, int span, Mark 
     mark(int(qMin(last, maximum)));
 }
 
-void paintSliderTicks(const QStyle *style, const QStyleOptionSlider *option, QPainter *painter,
-                      const QWidget *widget)
+void paintSliderTicks(const PaintCall &call, const QStyleOptionSlider *option, QPainter *painter)
 {
-    const QStyle *proxy = style->proxy();
+    const QStyle *proxy = call.proxy();
     const QRect &rect = option->rect;
     const bool horizontal = isHorizontal(option);
-    const int tickSize = proxy->pixelMetric(QStyle::PM_SliderTickmarkOffset, option, widget);
-    const int length = proxy->pixelMetric(QStyle::PM_SliderLength, option, widget);
+    const int tickSize = proxy->pixelMetric(QStyle::PM_SliderTickmarkOffset, option, call.widget);
+    const int length = proxy->pixelMetric(QStyle::PM_SliderLength, option, call.widget);
     const int span = (horizontal ? rect.width() : rect.height()) - length;
 
     QVector<QLine> lines;
@@ -124,8 +120,9 @@ void paintSliderTicks(const QStyle *style, const QStyleOptionSlider *option, QPa
     };
     const int nearEdge = horizontal ? rect.top() : rect.left();
     const int farEdge = horizontal ? rect.bottom() : rect.right();
-    forEachTick(option, tickInterval(style, option, widget), span, [&](int value) {
-        const int position = sliderPosition(option, value, span, option->upsideDown) + length / 2;
+    forEachTick(option, tickInterval(call, option), span, [&](int value) {
+        const int position =
+            ComplexControls::sliderPosition(option, value, span, option->upsideDown) + length / 2;
         const int extra = value == option->minimum || value == option->maximum ? 1 : 2;
         if (option->tickPosition & QSlider::TicksAbove)
             addLine(position, nearEdge + extra, nearEdge + tickSize);
@@ -157,15 +154,18 @@ void paintSliderHandle(const QStyleOptionSlider *option, QPainter *painter, cons
 
 } // namespace
 
-void paintSlider(const QStyle *style, const QStyleOptionSlider *option, QPainter *painter,
-                 const QWidget *widget)
+void paintSlider(const PaintCall &call)
 {
-    const QStyle *proxy = style->proxy();
-    const QRect handle =
-        proxy->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderHandle, widget);
+    const auto *option = call.as<QStyleOptionSlider>();
+    if (!option)
+        return;
+    QPainter *painter = call.painter;
+    const auto part = [&](QStyle::SubControl subControl) {
+        return call.subControlRect(QStyle::CC_Slider, *option, subControl);
+    };
+    const QRect handle = part(QStyle::SC_SliderHandle);
     if (option->subControls & QStyle::SC_SliderGroove) {
-        const QRect groove =
-            proxy->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderGroove, widget);
+        const QRect groove = part(QStyle::SC_SliderGroove);
         if (groove.isValid()) {
             const QString key =
                 StyleHelpers::styleCacheKey(QStringLiteral("slider_groove"), option, groove.size());
@@ -176,10 +176,10 @@ void paintSlider(const QStyle *style, const QStyleOptionSlider *option, QPainter
     if (option->subControls & QStyle::SC_SliderTickmarks
         && option->tickPosition != QSlider::NoTicks) {
         const PainterSaver saver(painter);
-        paintSliderTicks(style, option, painter, widget);
+        paintSliderTicks(call, option, painter);
     }
     if (option->subControls & QStyle::SC_SliderHandle)
         paintSliderHandle(option, painter, handle);
 }
 
-} // namespace Nocturne::ComplexControls
+} // namespace Nocturne::StylePaint

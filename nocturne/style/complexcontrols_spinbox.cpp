@@ -1,11 +1,7 @@
-#include "complexcontrols_p.h"
-
 #include "stylecolors_p.h"
-#include "stylehelpers_p.h"
+#include "styleelements_p.h"
 
-#include <QtWidgets/QStyleOption>
-
-namespace Nocturne::ComplexControls {
+namespace Nocturne::StylePaint {
 namespace {
 
 constexpr int wellShift = -11; // from the Window colour
@@ -88,12 +84,14 @@ void paintSpinBoxGlyphs(QPainter *painter, const QStyleOptionSpinBox &option, co
 
 } // namespace
 
-void paintSpinBox(const QStyle *style, const QStyleOptionSpinBox *option, QPainter *painter,
-                  const QWidget *widget)
+void paintSpinBox(const PaintCall &call)
 {
+    const auto *option = call.as<QStyleOptionSpinBox>();
+    if (!option)
+        return;
     const QSize size = option->rect.size();
     const QString key = StyleHelpers::styleCacheKey(QStringLiteral("spinbox"), option, size);
-    StyleHelpers::drawCached(painter, option->rect.topLeft(), key, size, [&](QPainter *cached) {
+    const auto paint = [&](QPainter *cached) {
         QStyleOptionSpinBox local(*option);
         local.rect = QRect(QPoint(), size);
         if (local.frame)
@@ -102,15 +100,13 @@ void paintSpinBox(const QStyle *style, const QStyleOptionSpinBox *option, QPaint
         if (local.buttonSymbols == QAbstractSpinBox::NoButtons)
             return;
 
-        const QStyle *proxy = style->proxy();
-        const QRect up =
-            proxy->subControlRect(QStyle::CC_SpinBox, &local, QStyle::SC_SpinBoxUp, widget);
-        const QRect down =
-            proxy->subControlRect(QStyle::CC_SpinBox, &local, QStyle::SC_SpinBoxDown, widget);
+        const QRect up = call.subControlRect(QStyle::CC_SpinBox, local, QStyle::SC_SpinBoxUp);
+        const QRect down = call.subControlRect(QStyle::CC_SpinBox, local, QStyle::SC_SpinBoxDown);
         paintSpinBoxSeparator(cached, local, up, down);
         paintSpinBoxSunkenEdges(cached, local, up, down);
         paintSpinBoxGlyphs(cached, local, up, down);
-    });
+    };
+    StyleHelpers::drawCached(call.painter, option->rect.topLeft(), key, size, paint);
 }
 
-} // namespace Nocturne::ComplexControls
+} // namespace Nocturne::StylePaint

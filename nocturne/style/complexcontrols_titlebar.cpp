@@ -1,19 +1,14 @@
-#include "complexcontrols_p.h"
-
 #include "stylecolors_p.h"
-#include "stylehelpers_p.h"
+#include "styleelements_p.h"
 
-#include <QtWidgets/QStyleOption>
-
-namespace Nocturne::ComplexControls {
+namespace Nocturne::StylePaint {
 namespace {
 
 /// A title bar about to be painted: what its paint functions share.
 struct TitleBar
 {
-    const QStyle *style;
+    const PaintCall &call;
     const QStyleOptionTitleBar &option;
-    const QWidget *widget;
 
     bool isActive() const { return option.titleBarState & QStyle::State_Active; }
     bool isMinimized() const { return option.titleBarState & Qt::WindowMinimized; }
@@ -21,7 +16,7 @@ struct TitleBar
     bool has(Qt::WindowType hint) const { return option.titleBarFlags & hint; }
     QRect part(QStyle::SubControl subControl) const
     {
-        return style->proxy()->subControlRect(QStyle::CC_TitleBar, &option, subControl, widget);
+        return call.subControlRect(QStyle::CC_TitleBar, option, subControl);
     }
     QColor color(QPalette::ColorRole role) const { return option.palette.color(role); }
     /// Of the symbols on the buttons.
@@ -181,8 +176,9 @@ void paintSystemMenuIcon(const TitleBar &bar, QPainter *painter, const QRect &bu
         bar.option.icon.paint(painter, button, Qt::AlignCenter);
         return;
     }
-    const QStyle *proxy = bar.style->proxy();
-    const QIcon icon = proxy->standardIcon(QStyle::SP_TitleBarMenuButton, &bar.option, bar.widget);
+    const QStyle *proxy = bar.call.proxy();
+    const QIcon icon =
+        proxy->standardIcon(QStyle::SP_TitleBarMenuButton, &bar.option, bar.call.widget);
     proxy->drawItemPixmap(painter, button, Qt::AlignCenter, icon.pixmap(16, 16));
 }
 
@@ -247,15 +243,17 @@ void paintTitleBarButtons(const TitleBar &bar, QPainter *painter)
 
 } // namespace
 
-void paintTitleBar(const QStyle *style, const QStyleOptionTitleBar *option, QPainter *painter,
-                   const QWidget *widget)
+void paintTitleBar(const PaintCall &call)
 {
-    const TitleBar bar{style, *option, widget};
-    const PainterSaver saver(painter);
-    paintTitleBarBackground(bar, painter);
-    paintTitleBarFrame(bar, painter);
-    paintTitleBarText(bar, painter);
-    paintTitleBarButtons(bar, painter);
+    const auto *option = call.as<QStyleOptionTitleBar>();
+    if (!option)
+        return;
+    const TitleBar bar{call, *option};
+    const PainterSaver saver(call.painter);
+    paintTitleBarBackground(bar, call.painter);
+    paintTitleBarFrame(bar, call.painter);
+    paintTitleBarText(bar, call.painter);
+    paintTitleBarButtons(bar, call.painter);
 }
 
-} // namespace Nocturne::ComplexControls
+} // namespace Nocturne::StylePaint

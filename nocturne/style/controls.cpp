@@ -1,15 +1,10 @@
-#include "stylepainting_p.h"
-
-#include <array>
+#include "styleelements_p.h"
 
 namespace {
 
-constexpr int elementCount = QStyle::CE_ShapedFrame + 1;
-
-/// What paints each element; null where the common style does.
 constexpr auto controlFunctions = [] {
     using namespace Nocturne::StylePaint;
-    std::array<Function, elementCount> functions{};
+    ElementTable<QStyle::CE_ShapedFrame + 1> functions{};
     functions[QStyle::CE_PushButton] = paintPushButton;
     functions[QStyle::CE_PushButtonLabel] = paintPushButtonLabel;
     functions[QStyle::CE_ToolButtonLabel] = paintToolButtonLabel;
@@ -40,10 +35,7 @@ void DarkFusionStyle::drawControl(ControlElement element, const QStyleOption *op
 {
     if (!option || !painter)
         return;
-    const uint index = static_cast<uint>(element);
-    const auto function = index < controlFunctions.size() ? controlFunctions[index] : nullptr;
-    if (!function)
+    const Nocturne::PaintCall call{this, option, painter, widget};
+    if (!Nocturne::StylePaint::paintElement(controlFunctions, element, call))
         QCommonStyle::drawControl(element, option, painter, widget);
-    else if (!option->rect.isEmpty())
-        function({this, option, painter, widget});
 }

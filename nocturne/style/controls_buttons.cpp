@@ -1,5 +1,5 @@
+#include "styleelements_p.h"
 #include "stylehelpers_p.h"
-#include "stylepainting_p.h"
 
 #include <QtGui/QWindow>
 #include <QtWidgets/QPushButton>
@@ -34,8 +34,8 @@ QPixmap buttonPixmap(const PaintCall &call, const QStyleOptionButton &button)
 int paintButtonIcon(const PaintCall &call, const QStyleOptionButton &button, int textFlags)
 {
     const QPixmap pixmap = buttonPixmap(call, button);
-    const int width = static_cast<int>(pixmap.width() / pixmap.devicePixelRatio());
-    const int height = static_cast<int>(pixmap.height() / pixmap.devicePixelRatio());
+    const int width = int(pixmap.width() / pixmap.devicePixelRatio());
+    const int height = int(pixmap.height() / pixmap.devicePixelRatio());
     const QRect &r = button.rect;
 
     int labelWidth = width;

@@ -1,6 +1,6 @@
 #include "stylecolors_p.h"
+#include "styleelements_p.h"
 #include "stylehelpers_p.h"
-#include "stylepainting_p.h"
 
 #include <nocturne/painting/themepaint_p.h>
 
@@ -66,8 +66,8 @@ void paintHeaderSection(const PaintCall &call)
         return;
     QString key =
         StyleHelpers::styleCacheKey(QStringLiteral("headersection"), header, header->rect.size());
-    key += QString::number(-static_cast<int>(header->position));
-    key += QString::number(-static_cast<int>(header->orientation));
+    key += QString::number(-int(header->position));
+    key += QString::number(-int(header->orientation));
     StyleHelpers::drawCached(call.painter, header->rect.topLeft(), key, header->rect.size(),
                              [header](QPainter *painter) { paintSection(painter, *header); });
 }

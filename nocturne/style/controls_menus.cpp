@@ -1,11 +1,9 @@
 #include "stylecolors_p.h"
+#include "styleelements_p.h"
 #include "stylehelpers_p.h"
-#include "stylepainting_p.h"
 
 #include <QtGui/QFontInfo>
 #include <QtWidgets/QComboBox>
-
-#include <algorithm>
 
 namespace Nocturne::StylePaint {
 namespace {
@@ -42,7 +40,7 @@ int MenuItem::checkColumn() const
     const QObject *object = option.styleObject;
     const bool isPopupItem = object && object->property("_q_isComboBoxPopupItem").toBool();
     return comboBox() || isPopupItem ? checkColumnWidth
-                                     : std::max(option.maxIconWidth, checkColumnWidth);
+                                     : qMax(option.maxIconWidth, checkColumnWidth);
 }
 
 /// ShowMnemonic, with HideMnemonic where this style hides the underlines.
@@ -147,8 +145,7 @@ void paintIcon(const MenuItem &item)
         item.mirrored(QRect(r.x() + checkColumnMargin, r.y(), item.checkColumn(), r.height()));
     const QPixmap pixmap = itemPixmap(item);
     const qreal ratio = pixmap.devicePixelRatio();
-    QRect rect(0, 0, static_cast<int>(pixmap.width() / ratio),
-               static_cast<int>(pixmap.height() / ratio));
+    QRect rect(0, 0, int(pixmap.width() / ratio), int(pixmap.height() / ratio));
     rect.moveCenter(column.center());
     if (item.isCheckable() && item.option.checked)
         paintCheckedIconPanel(item, column);

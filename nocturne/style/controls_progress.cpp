@@ -1,13 +1,11 @@
 #include "stylecolors_p.h"
+#include "styleelements_p.h"
 #include "stylehelpers_p.h"
-#include "stylepainting_p.h"
 
 #include <nocturne/painting/themepaint_p.h>
 
 #include <QtGui/QTextOption>
 #include <QtWidgets/QWidget>
-
-#include <algorithm>
 
 namespace Nocturne::StylePaint {
 namespace {
@@ -34,9 +32,8 @@ bool isVertical(const QStyleOptionProgressBar &option)
 /// \a progress as a length along the bar, in whole units. The range is taken as one step at least.
 qint64 progressLength(const QStyleOptionProgressBar &option, int progress, int barLength)
 {
-    const double steps = std::max(1.0, static_cast<double>(option.maximum) - option.minimum);
-    return static_cast<qint64>((static_cast<double>(progress) - option.minimum) * barLength
-                               / steps);
+    const qreal steps = qMax(1.0, qreal(option.maximum) - option.minimum);
+    return qint64((qreal(progress) - option.minimum) * barLength / steps);
 }
 
 /// A progress bar as if it lay on its side and started at the left, or at the right when reversed.
@@ -65,8 +62,8 @@ Bar::Bar(const QStyleOptionProgressBar &option, const QRect &rect)
     if (isBusy)
         return;
     const qint64 length =
-        progressLength(option, std::max(option.progress, option.minimum), whole.width());
-    const int width = static_cast<int>(qBound<qint64>(0, length, whole.width()));
+        progressLength(option, qMax(option.progress, option.minimum), whole.width());
+    const int width = int(qBound<qint64>(0, length, whole.width()));
     if (isReversed)
         done.setRect(whole.right() - width - 1, whole.top(), width + 2, whole.height() - 1);
     else
@@ -118,7 +115,7 @@ void paintBusyStripes(QPainter *painter, const Bar &bar, const QColor &highlight
     const QColor color = StyleColors::withAlpha(highlight.lighter(120), stripeAlpha);
     const int height = bar.whole.height();
     // No widget is longer; beyond it, the stripes would only take time.
-    const int end = std::min(bar.whole.right(), bar.done.left() + QWIDGETSIZE_MAX);
+    const int end = qMin(bar.whole.right(), bar.done.left() + QWIDGETSIZE_MAX);
     painter->setPen(QPen(color, stripeWidth));
     painter->setClipRect(bar.done.adjusted(1, 1, -1, -1), Qt::IntersectClip);
     for (int x = bar.done.left() - height; x < end; x += stripeDistance)
@@ -162,7 +159,7 @@ QRect passedRect(const QStyleOptionProgressBar &option, const QRect &rect)
     const qint64 length = progressLength(option, option.progress, rect.width());
     if (length < 0 || length > rect.width())
         return QRect();
-    const int width = static_cast<int>(length);
+    const int width = int(length);
     const QRect passed(rect.left(), rect.top(), width, rect.height());
     return isVertical(option) ? passed.translated(rect.width() - width, 0) : passed;
 }

@@ -1,6 +1,6 @@
 #include "stylecolors_p.h"
+#include "styleelements_p.h"
 #include "stylehelpers_p.h"
-#include "stylepainting_p.h"
 
 #include <nocturne/painting/themepaint_p.h>
 
@@ -127,7 +127,7 @@ void paintTabShape(const PaintCall &call)
     // What is painted may lie a unit beside the tab.
     const QRect area = turn.mapRect(rect.adjusted(-2, -2, 2, 2));
     const QString prefix =
-        QLatin1String(hasFrame ? "framedtab" : "tab") + QChar(static_cast<ushort>(tab->shape));
+        QLatin1String(hasFrame ? "framedtab" : "tab") + QChar(ushort(tab->shape));
     StyleHelpers::drawKept(call.painter, area.topLeft(), prefix, tab, area.size(),
                            [&](QPainter *painter) {
                                painter->translate(-area.topLeft());

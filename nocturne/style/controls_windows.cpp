@@ -1,12 +1,10 @@
 #include "stylecolors_p.h"
+#include "styleelements_p.h"
 #include "stylehelpers_p.h"
-#include "stylepainting_p.h"
 
 #include <nocturne/painting/themepaint_p.h>
 
 #include <QtWidgets/QMainWindow>
-
-#include <algorithm>
 
 namespace Nocturne::StylePaint {
 namespace {
@@ -22,7 +20,7 @@ constexpr QRgb rubberBandContrast = 0x28ffffff; // white, alpha 40
 
 QColor rubberBandFill(const QColor &highlight, bool isOpaque)
 {
-    const auto channel = [](int value) { return std::min(value / 2 + 110, 255); };
+    const auto channel = [](int value) { return qMin(value / 2 + 110, 255); };
     return QColor(channel(highlight.red()), channel(highlight.green()), channel(highlight.blue()),
                   isOpaque ? 255 : rubberBandFillAlpha);
 }

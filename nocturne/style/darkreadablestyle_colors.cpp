@@ -4,34 +4,33 @@
 
 #include <nocturne/painting/themepaint_p.h>
 
-#include <algorithm>
 #include <cmath>
 
 namespace Nocturne::Readable {
 
 namespace {
 
-constexpr double smoothingLoss = 0.4;     // what thin lines lose to the smoothing of their edges
-constexpr double titleBarContrast = 2.0;  // to the window; leaves room for a white title
+constexpr qreal smoothingLoss = 0.4;      // what thin lines lose to the smoothing of their edges
+constexpr qreal titleBarContrast = 2.0;   // to the window; leaves room for a white title
 constexpr QRgb accentOrange = 0xffed6e00; // rgb(237, 110, 0)
 
-double linear(int channel)
+qreal linear(int channel)
 {
-    const double share = channel / 255.0;
+    const qreal share = channel / 255.0;
     return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
 }
 
-double luminance(const QColor &color)
+qreal luminance(const QColor &color)
 {
     return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green())
            + 0.0722 * linear(color.blue());
 }
 
-double leastContrast(const QColor &color, std::initializer_list<QColor> grounds)
+qreal leastContrast(const QColor &color, std::initializer_list<QColor> grounds)
 {
-    double least = 21.0;
+    qreal least = 21.0;
     for (const QColor &ground : grounds)
-        least = std::min(least, contrast(color, ground));
+        least = qMin(least, contrast(color, ground));
     return least;
 }
 
@@ -45,10 +44,10 @@ QColor shadeAt(const QColor &color, int step)
 /// An accent that is no brighter than the text around it, as in the dark of a show, and stands
 /// out from \a grounds.
 QColor accentFor(const QPalette &palette, QRgb rgb, std::initializer_list<QColor> grounds,
-                 double ratio)
+                 qreal ratio)
 {
     QColor accent(rgb);
-    const double brightest = luminance(palette.color(QPalette::WindowText));
+    const qreal brightest = luminance(palette.color(QPalette::WindowText));
     for (int i = 0; i < 100 && luminance(accent) > brightest; ++i)
         accent = mixed(accent, Qt::black, 97);
     return lifted(accent, grounds, ratio);
@@ -56,7 +55,7 @@ QColor accentFor(const QPalette &palette, QRgb rgb, std::initializer_list<QColor
 
 QColor halfSaturated(const QColor &color)
 {
-    return QColor::fromHsv(std::max(0, color.hsvHue()), color.hsvSaturation() / 2, color.value());
+    return QColor::fromHsv(qMax(0, color.hsvHue()), color.hsvSaturation() / 2, color.value());
 }
 
 /// Makes one colour group of a palette readable.
@@ -111,8 +110,8 @@ private:
     QColor onSurfaces(const QColor &text) const
     {
         const QColor window = m_palette.color(QPalette::Active, QPalette::Window);
-        const QColor panel(std::min(255, window.red() + 24), std::min(255, window.green() + 24),
-                           std::min(255, window.blue() + 24));
+        const QColor panel(qMin(255, window.red() + 24), qMin(255, window.green() + 24),
+                           qMin(255, window.blue() + 24));
         return lifted(text,
                       {window, panel, color(QPalette::Window), color(QPalette::Base),
                        color(QPalette::AlternateBase), lightestButton(color(QPalette::Button))},
@@ -134,16 +133,16 @@ private:
 
     QPalette &m_palette;
     const QPalette::ColorGroup m_group;
-    const double m_ratio;
+    const qreal m_ratio;
 };
 
 } // namespace
 
-double contrast(const QColor &a, const QColor &b)
+qreal contrast(const QColor &a, const QColor &b)
 {
-    const double first = luminance(a) + 0.05;
-    const double second = luminance(b) + 0.05;
-    return std::max(first, second) / std::min(first, second);
+    const qreal first = luminance(a) + 0.05;
+    const qreal second = luminance(b) + 0.05;
+    return qMax(first, second) / qMin(first, second);
 }
 
 QColor mixed(const QColor &a, const QColor &b, int share)
@@ -155,7 +154,7 @@ QColor mixed(const QColor &a, const QColor &b, int share)
                   channel(a.blue(), b.blue()));
 }
 
-QColor lifted(const QColor &color, std::initializer_list<QColor> grounds, double ratio)
+QColor lifted(const QColor &color, std::initializer_list<QColor> grounds, qreal ratio)
 {
     for (int step = 255; step <= 510; ++step) {
         if (leastContrast(shadeAt(color, step), grounds) >= ratio)
@@ -169,7 +168,7 @@ QColor lifted(const QColor &color, std::initializer_list<QColor> grounds, double
                                                                                  : Qt::black;
 }
 
-QColor nearestShade(const QColor &color, std::initializer_list<QColor> grounds, double ratio)
+QColor nearestShade(const QColor &color, std::initializer_list<QColor> grounds, qreal ratio)
 {
     const bool isDark = luminance(*grounds.begin()) < 0.18;
     for (int step = 0; step <= 510; ++step) {
@@ -238,10 +237,10 @@ const Shades &Face::shades(const QPalette &palette)
 
 uint qHash(const Kept::Key &key, uint seed)
 {
-    const uint shape = static_cast<uint>(key.what) * 31u + static_cast<uint>(key.state);
-    const uint size = static_cast<uint>(key.size.width() << 16 ^ key.size.height());
+    const uint shape = uint(key.what) * 31u + uint(key.state);
+    const uint size = uint(key.size.width() << 16 ^ key.size.height());
     return ::qHash(key.palette, seed) ^ (shape * 2654435761u) ^ size
-           ^ static_cast<uint>(key.group << 8 ^ key.ratio);
+           ^ uint(key.group << 8 ^ key.ratio);
 }
 
 } // namespace Nocturne::Readable

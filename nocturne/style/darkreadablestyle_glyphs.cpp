@@ -3,8 +3,6 @@
 #include <QtGui/QIconEngine>
 #include <QtWidgets/QApplication>
 
-#include <algorithm>
-
 namespace Nocturne::Readable {
 
 namespace {
@@ -60,7 +58,7 @@ public:
     {
         const QPalette::ColorGroup group =
             mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const int extent = std::min(rect.width(), rect.height());
+        const int extent = qMin(rect.width(), rect.height());
         const PainterSaver saver(painter);
         painter->setRenderHint(QPainter::Antialiasing);
         painter->translate(rect.x() + (rect.width() - extent) / 2.0,

@@ -4,8 +4,6 @@
 #include <QtWidgets/QStyleOptionComplex>
 #include <QtWidgets/QTabBar>
 
-#include <algorithm>
-
 namespace Nocturne::Readable {
 
 namespace {
@@ -19,9 +17,9 @@ constexpr int chosenLine = 2;    // along the edge of chosen tabs and checked bu
 /// The bits that an indicator depends on.
 int indicatorState(const Call &call)
 {
-    return static_cast<int>(call.option->state
-                            & (QStyle::State_Enabled | QStyle::State_On | QStyle::State_NoChange
-                               | QStyle::State_Sunken));
+    return int(call.option->state
+               & (QStyle::State_Enabled | QStyle::State_On | QStyle::State_NoChange
+                  | QStyle::State_Sunken));
 }
 
 /// A disabled box is hollow, so that it is told from an enabled one without comparing greys.
@@ -37,7 +35,7 @@ QBrush boxBrush(const Call &call)
 /// Lines grow with the indicator, which grows with the font.
 qreal lineWidth(const QSizeF &box)
 {
-    return std::max(1.0, std::min(box.width(), box.height()) / 14.0);
+    return qMax(1.0, qMin(box.width(), box.height()) / 14.0);
 }
 
 QRectF insideLine(const QRectF &rect, qreal width)
@@ -124,7 +122,7 @@ void paintRadioButton(const Call &call)
     const QSize size = call.option->rect.size();
     const auto paint = [&call, size](QPainter *painter) {
         const Shades &shades = call.shades();
-        const qreal extent = std::min(size.width(), size.height());
+        const qreal extent = qMin(size.width(), size.height());
         QRectF ring(0, 0, extent, extent);
         ring.moveCenter(QRectF(QPointF(), size).center());
         const qreal width = lineWidth(size) * ringWidth;
@@ -194,8 +192,7 @@ void paintComboBox(const Call &call)
     if (!option)
         return;
     const int state =
-        static_cast<int>(option->state
-                         & (QStyle::State_Enabled | QStyle::State_On | QStyle::State_MouseOver))
+        int(option->state & (QStyle::State_Enabled | QStyle::State_On | QStyle::State_MouseOver))
         | (option->editable ? 1 << 28 : 0)
         | (option->subControls & QStyle::SC_ComboBoxArrow ? 1 << 29 : 0)
         | (call.isRightToLeft() ? 1 << 30 : 0);

@@ -3,8 +3,6 @@
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QComboBox>
 
-#include <algorithm>
-
 namespace Nocturne::Readable {
 
 namespace {
@@ -28,7 +26,7 @@ bool isCheckableInModel(const QComboBox *comboBox, const QRect &item)
 /// Where the base style would have no more room for a box of the size that others have.
 int columnOf(const QStyleOptionMenuItem &option, int indicator)
 {
-    return option.menuHasCheckableItems ? std::max(option.maxIconWidth, indicator + columnMargin)
+    return option.menuHasCheckableItems ? qMax(option.maxIconWidth, indicator + columnMargin)
                                         : option.maxIconWidth;
 }
 
@@ -50,11 +48,11 @@ void paintIconCheck(const Call &call, const QRect &column, bool isChecked)
 void paintCheck(const Call &call, const QStyleOptionMenuItem &item, int column, bool hasBox)
 {
     const int extent =
-        std::min(indicatorSize(call.style, &item, call.widget), std::max(column, columnWidth) - 2);
+        qMin(indicatorSize(call.style, &item, call.widget), qMax(column, columnWidth) - 2);
     QStyleOptionButton box;
     box.QStyleOption::operator=(item);
-    box.rect = QRect(item.rect.left() + columnMargin, item.rect.top(),
-                     std::max(column, columnWidth), item.rect.height());
+    box.rect = QRect(item.rect.left() + columnMargin, item.rect.top(), qMax(column, columnWidth),
+                     item.rect.height());
     if (!item.icon.isNull()) {
         paintIconCheck(call, QStyle::visualRect(item.direction, item.rect, box.rect), item.checked);
         return;

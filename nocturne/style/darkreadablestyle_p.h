@@ -16,19 +16,19 @@
 /// What DarkReadableStyle is made of.
 namespace Nocturne::Readable {
 
-constexpr double textContrast = 4.5;
-constexpr double faintContrast = 3.0; ///< of disabled text, and of everything that is no text
+constexpr qreal textContrast = 4.5;
+constexpr qreal faintContrast = 3.0; ///< of disabled text, and of everything that is no text
 
 /// The contrast of two colours by WCAG 2.1, from 1 to 21. Alpha is ignored.
-double contrast(const QColor &a, const QColor &b);
+qreal contrast(const QColor &a, const QColor &b);
 
 /// \a color, or the shade next to it on the way to white, else to black, that has a contrast of
 /// \a ratio to each of \a grounds; the better of white and black where no shade has.
-QColor lifted(const QColor &color, std::initializer_list<QColor> grounds, double ratio);
+QColor lifted(const QColor &color, std::initializer_list<QColor> grounds, qreal ratio);
 
 /// The shade of \a color that is nearest to \a grounds among those with a contrast of \a ratio to
 /// each of them.
-QColor nearestShade(const QColor &color, std::initializer_list<QColor> grounds, double ratio);
+QColor nearestShade(const QColor &color, std::initializer_list<QColor> grounds, qreal ratio);
 
 /// \a share percent of \a a, the rest of \a b.
 QColor mixed(const QColor &a, const QColor &b, int share);
@@ -212,7 +212,7 @@ void Kept::draw(QPainter *painter, const QPoint &topLeft, Key key, Paint paint)
         return;
     }
     const qreal ratio = painter->device()->devicePixelRatioF();
-    key.ratio = static_cast<int>(ratio * 100);
+    key.ratio = int(ratio * 100);
     QPixmap *pixmap = m_pixmaps.object(key);
     if (!pixmap) {
         const QSize pixels = (QSizeF(key.size) * ratio).toSize();

@@ -4,9 +4,6 @@
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QStyleOptionComplex>
 
-#include <algorithm>
-#include <cmath>
-
 namespace Nocturne::Readable {
 
 namespace {
@@ -26,7 +23,7 @@ constexpr qreal barRadius = 2.0;
 
 int stateBits(const Call &call, QStyle::State states, bool flag = false)
 {
-    return static_cast<int>(call.option->state & states) | (flag ? 1 << 30 : 0);
+    return int(call.option->state & states) | (flag ? 1 << 30 : 0);
 }
 
 QRect part(const Call &call, QStyle::ComplexControl control, QStyle::SubControl subControl)
@@ -59,17 +56,14 @@ bool isUpright(const QStyleOption *option)
 QRect doneRect(const QStyleOptionProgressBar *option)
 {
     const QRect &r = option->rect;
-    const double steps =
-        std::max(1.0, static_cast<double>(option->maximum) - static_cast<double>(option->minimum));
-    const double share = std::clamp(
-        (static_cast<double>(option->progress) - static_cast<double>(option->minimum)) / steps, 0.0,
-        1.0);
+    const qreal steps = qMax(1.0, qreal(option->maximum) - option->minimum);
+    const qreal share = qBound(0.0, (qreal(option->progress) - option->minimum) / steps, 1.0);
     if (isUpright(option)) {
-        const int length = static_cast<int>(share * r.height());
+        const int length = int(share * r.height());
         return QRect(r.left(), option->invertedAppearance ? r.top() : r.bottom() + 1 - length,
                      r.width(), length);
     }
-    const int length = static_cast<int>(share * r.width());
+    const int length = int(share * r.width());
     const bool fromRight = (option->direction == Qt::RightToLeft) != option->invertedAppearance;
     return QRect(fromRight ? r.right() + 1 - length : r.left(), r.top(), length, r.height());
 }
@@ -170,7 +164,7 @@ void paintKnob(const Call &call, const QRect &handle)
     const auto paint = [&call, handle](QPainter *painter) {
         const QRectF rect(QPointF(), handle.size());
         const QPointF centre = rect.center();
-        const qreal radius = std::min(rect.width(), rect.height()) / 2 - 1.5;
+        const qreal radius = qMin(rect.width(), rect.height()) / 2 - 1.5;
         const QColor light = call.has(QStyle::State_MouseOver) ? QColor(Qt::white)
                                                                : call.color(QPalette::WindowText);
         setShape(painter, call, light, call.color(QPalette::Window));
@@ -203,15 +197,15 @@ struct DialParts
     explicit DialParts(const QStyleOptionSlider *dial)
         : option(dial)
         , centre(dial->rect.width() / 2.0, dial->rect.height() / 2.0)
-        , radius(std::min(dial->rect.width(), dial->rect.height()) / 2.0)
+        , radius(qMin(dial->rect.width(), dial->rect.height()) / 2.0)
         , disc(radius * 5 / 6 - 2)
         , knob(radius / 7)
     {}
 
     /// The point of \a value of \a range at \a distance from the centre.
-    QPointF at(double value, double range, qreal distance) const
+    QPointF at(qreal value, qreal range, qreal distance) const
     {
-        double angle = M_PI / 2;
+        qreal angle = M_PI / 2;
         if (range > 0) {
             angle = option->dialWrapping ? M_PI * 1.5 - value * 2 * M_PI / range
                                          : (8 * M_PI - value * 10 * M_PI / range) / 6;
@@ -221,10 +215,9 @@ struct DialParts
 
     QPointF knobCentre() const
     {
-        const double range = static_cast<double>(option->maximum) - option->minimum;
-        const double position = option->upsideDown
-                                    ? static_cast<double>(option->sliderPosition) - option->minimum
-                                    : static_cast<double>(option->maximum) - option->sliderPosition;
+        const qreal range = qreal(option->maximum) - option->minimum;
+        const qreal position = option->upsideDown ? qreal(option->sliderPosition) - option->minimum
+                                                  : qreal(option->maximum) - option->sliderPosition;
         return at(position, range, disc - 2.2 * knob);
     }
 
@@ -238,14 +231,14 @@ struct DialParts
 /// The marks around a dial, no closer than three units.
 void paintDialTicks(const DialParts &dial, QPainter *painter, const QColor &color)
 {
-    const double range = static_cast<double>(dial.option->maximum) - dial.option->minimum;
+    const qreal range = qreal(dial.option->maximum) - dial.option->minimum;
     if (dial.option->tickInterval <= 0 || range <= 0)
         return;
-    const double most = std::max(1.0, 2 * M_PI * dial.radius / 3);
-    const double interval = std::max<double>(dial.option->tickInterval, range / most);
+    const qreal most = qMax(1.0, 2 * M_PI * dial.radius / 3);
+    const qreal interval = qMax<qreal>(dial.option->tickInterval, range / most);
     painter->setPen(QPen(color, ringWidth));
-    for (double value = 0; value < range + interval; value += interval) {
-        const double at = std::min(value, range);
+    for (qreal value = 0; value < range + interval; value += interval) {
+        const qreal at = qMin(value, range);
         painter->drawLine(dial.at(at, range, dial.disc + 2), dial.at(at, range, dial.radius - 0.5));
     }
 }

@@ -1,16 +1,10 @@
-#include "darkfusionstyle_p.h"
-#include "stylepainting_p.h"
-
-#include <array>
+#include "styleelements_p.h"
 
 namespace {
 
-constexpr int elementCount = QStyle::PE_PanelMenu + 1;
-
-/// What paints each element; null where the common style does.
 constexpr auto primitiveFunctions = [] {
     using namespace Nocturne::StylePaint;
-    std::array<Function, elementCount> functions{};
+    ElementTable<QStyle::PE_PanelMenu + 1> functions{};
     functions[QStyle::PE_FrameDefaultButton] = paintNothing;
     functions[QStyle::PE_FrameStatusBarItem] = paintNothing;
     functions[QStyle::PE_Frame] = paintFrame;
@@ -47,21 +41,12 @@ constexpr auto primitiveFunctions = [] {
 
 } // namespace
 
-QIcon &Nocturne::StylePaint::tabCloseIcon(const DarkFusionStyle *style)
-{
-    return static_cast<const DarkFusionStylePrivate *>(QObjectPrivate::get(style))
-        ->tabBarcloseButtonIcon;
-}
-
 void DarkFusionStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                     QPainter *painter, const QWidget *widget) const
 {
     if (!option || !painter)
         return;
-    const uint index = static_cast<uint>(element);
-    const auto function = index < primitiveFunctions.size() ? primitiveFunctions[index] : nullptr;
-    if (!function)
+    const Nocturne::PaintCall call{this, option, painter, widget};
+    if (!Nocturne::StylePaint::paintElement(primitiveFunctions, element, call))
         QCommonStyle::drawPrimitive(element, option, painter, widget);
-    else if (!option->rect.isEmpty())
-        function({this, option, painter, widget});
 }

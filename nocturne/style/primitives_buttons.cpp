@@ -1,6 +1,6 @@
 #include "stylecolors_p.h"
+#include "styleelements_p.h"
 #include "stylehelpers_p.h"
-#include "stylepainting_p.h"
 
 #include <nocturne/painting/themepaint_p.h>
 

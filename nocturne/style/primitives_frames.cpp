@@ -1,14 +1,12 @@
 #include "stylecolors_p.h"
+#include "styleelements_p.h"
 #include "stylehelpers_p.h"
-#include "stylepainting_p.h"
 
 #include <nocturne/painting/themepaint_p.h>
 
 #include <QtCore/QMargins>
 #include <QtWidgets/QTabBar>
 #include <qdrawutil.h>
-
-#include <algorithm>
 
 namespace Nocturne::StylePaint {
 namespace {
@@ -77,16 +75,6 @@ void paintNorthTabBase(const PaintCall &call, const QColor &outline, const QRect
 
 } // namespace
 
-void fillOutline(QPainter *painter, const QRect &rect, const QColor &color)
-{
-    fillRow(painter, rect.left(), rect.right(), rect.top(), color);
-    if (rect.height() > 1)
-        fillRow(painter, rect.left(), rect.right(), rect.bottom(), color);
-    fillColumn(painter, rect.left(), rect.top() + 1, rect.bottom() - 1, color);
-    if (rect.width() > 1)
-        fillColumn(painter, rect.right(), rect.top() + 1, rect.bottom() - 1, color);
-}
-
 void paintFrame(const PaintCall &call)
 {
     if (call.widget && call.widget->inherits("QComboBoxPrivateContainer")) {
@@ -143,7 +131,7 @@ void paintFrameGroupBox(const PaintCall &call)
         return;
     const int indicator =
         call.style->pixelMetric(QStyle::PM_ExclusiveIndicatorHeight, call.option, call.widget);
-    const int title = std::max(indicator, call.option->fontMetrics.height());
+    const int title = qMax(indicator, call.option->fontMetrics.height());
     const QRect frame = call.rect().adjusted(0, title + groupBoxTitleMargin, 0, 0);
     const int margin = groupBoxImageMargin;
     qDrawBorderPixmap(call.painter, frame, QMargins(margin, margin, margin, margin), image);

@@ -1,12 +1,11 @@
 #include "stylecolors_p.h"
+#include "styleelements_p.h"
 #include "stylehelpers_p.h"
-#include "stylepainting_p.h"
 
 #include <nocturne/painting/themepaint_p.h>
 
+#include <QtCore/QtMath>
 #include <QtGui/QPainterPath>
-
-#include <cmath>
 
 namespace Nocturne::StylePaint {
 
@@ -81,7 +80,7 @@ void paintCheckMark(QPainter *painter, const QColor &check, const QRect &r, int 
 void paintCheckBox(QPainter *painter, const PaintCall &call)
 {
     const QRect r(0, 0, call.rect().width() - 1, call.rect().height() - 1);
-    const int margin = static_cast<int>(StyleHelpers::dpiScaled(checkMarkMargin));
+    const int margin = int(StyleHelpers::dpiScaled(checkMarkMargin));
     beginSharpAntialiasing(painter);
     paintCheckBoxField(painter, call, r);
     if (call.has(QStyle::State_NoChange))
@@ -117,12 +116,6 @@ void paintDots(const PaintCall &call, const int (&columns)[Columns], const int (
 }
 
 } // namespace
-
-void paintGripDot(QPainter *painter, int x, int y)
-{
-    painter->fillRect(x, y, 2, 2, QColor::fromRgba(StyleColors::lightShade));
-    painter->fillRect(x, y, 1, 1, QColor::fromRgba(StyleColors::darkShade));
-}
 
 void paintIndicatorArrowDown(const PaintCall &call)
 {
@@ -203,7 +196,7 @@ void paintIndicatorRadioButton(const PaintCall &call)
     // An even width has no middle unit: the circle is that of the next odd one.
     const qreal radius = (width + (width + 1) % 2) * 0.5 - 1.0;
     // The square around the circle and its line, which may reach out of the rectangle.
-    const int reach = static_cast<int>(std::ceil(radius + 0.5));
+    const int reach = qCeil(radius + 0.5);
     const QSize size(2 * reach, 2 * reach);
     StyleHelpers::drawKept(
         call.painter, centre - QPoint(reach, reach), QStringLiteral("radiobutton"), call.option,

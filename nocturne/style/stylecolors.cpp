@@ -5,8 +5,6 @@
 #include <QtWidgets/QAbstractScrollArea>
 #include <QtWidgets/QScrollBar>
 
-#include <algorithm>
-
 namespace Nocturne::StyleColors {
 
 namespace {
@@ -49,8 +47,8 @@ QColor buttonColor(const QPalette &palette)
 {
     QColor color = palette.color(QPalette::Button);
     const int gray = qGray(color.rgb());
-    color = color.lighter(100 + std::max(1, (180 - gray) / 6));
-    color.setHsv(color.hue(), static_cast<int>(color.saturation() * 0.75), color.value());
+    color = color.lighter(100 + qMax(1, (180 - gray) / 6));
+    color.setHsv(color.hue(), int(color.saturation() * 0.75), color.value());
     return color;
 }
 

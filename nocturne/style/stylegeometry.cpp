@@ -3,8 +3,6 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QStyleOption>
 
-#include <algorithm>
-
 // Where the parts of simple controls lie, and how large a control is around its contents.
 
 namespace {
@@ -12,7 +10,7 @@ namespace {
 QSize pushButtonSize(const QStyleOptionButton *button, QSize size)
 {
     if (!button->text.isEmpty())
-        size.setWidth(std::max(size.width(), 60));
+        size.setWidth(qMax(size.width(), 60));
     if (!button->icon.isNull() && button->iconSize.height() > 16)
         size.rheight() -= 2;
     size.rheight() += 3;
@@ -37,15 +35,15 @@ int menuItemExtraWidth(const QStyleOptionMenuItem *item)
 
 QSize menuItemSize(const QStyleOptionMenuItem *item, const QWidget *widget, QSize size)
 {
-    size.rwidth() += menuItemExtraWidth(item) + std::max(item->maxIconWidth, 12) + 25;
+    size.rwidth() += menuItemExtraWidth(item) + qMax(item->maxIconWidth, 12) + 25;
 
     if (item->menuItemType == QStyleOptionMenuItem::Separator && !item->text.isEmpty()) {
         size.setHeight(item->fontMetrics.height());
     } else if (!item->icon.isNull()) {
         if (const auto *comboBox = qobject_cast<const QComboBox *>(widget))
-            size.setHeight(std::max(comboBox->iconSize().height() + 2, size.height()));
+            size.setHeight(qMax(comboBox->iconSize().height() + 2, size.height()));
     }
-    size.setWidth(std::max(size.width() + 12, 120));
+    size.setWidth(qMax(size.width() + 12, 120));
     return size;
 }
 
@@ -113,7 +111,7 @@ QSize DarkFusionStyle::sizeFromContents(ContentsType type, const QStyleOption *o
         return size + QSize(4, 4);
     case CT_GroupBox: {
         const int font = option ? option->fontMetrics.height() : 0;
-        return size + QSize(10, std::max(pixelMetric(PM_ExclusiveIndicatorHeight), font) + 3);
+        return size + QSize(10, qMax(pixelMetric(PM_ExclusiveIndicatorHeight), font) + 3);
     }
     case CT_MdiControls:
         return mdiControlsSize(qstyleoption_cast<const QStyleOptionComplex *>(option));

@@ -23,7 +23,7 @@ public:
         : m_position(position)
     {}
 
-    void put16(uint value) { *m_position++ = QChar(static_cast<ushort>(value)); }
+    void put16(uint value) { *m_position++ = QChar(ushort(value)); }
     void put32(uint value)
     {
         put16(value);
@@ -31,8 +31,8 @@ public:
     }
     void put64(quint64 value)
     {
-        put32(static_cast<uint>(value));
-        put32(static_cast<uint>(value >> 32));
+        put32(uint(value));
+        put32(uint(value >> 32));
     }
 
 private:
@@ -47,18 +47,17 @@ constexpr int spinBoxUnits = 3;
 void writeOption(KeyWriter &writer, const QStyleOption *option)
 {
     const auto *complex = qstyleoption_cast<const QStyleOptionComplex *>(option);
-    writer.put32(static_cast<uint>(option->state));
+    writer.put32(uint(option->state));
     // The palette's key does not tell its current group.
-    writer.put16(static_cast<uint>(option->direction)
-                 | static_cast<uint>(option->palette.currentColorGroup()) << 8);
-    writer.put32(complex ? static_cast<uint>(complex->activeSubControls) : 0);
-    writer.put64(static_cast<quint64>(option->palette.cacheKey()));
+    writer.put16(uint(option->direction) | uint(option->palette.currentColorGroup()) << 8);
+    writer.put32(complex ? uint(complex->activeSubControls) : 0);
+    writer.put64(quint64(option->palette.cacheKey()));
 }
 
 void writeSpinBox(KeyWriter &writer, const QStyleOptionSpinBox *spinBox)
 {
-    writer.put16(static_cast<uint>(spinBox->buttonSymbols));
-    writer.put16(static_cast<uint>(spinBox->stepEnabled));
+    writer.put16(uint(spinBox->buttonSymbols));
+    writer.put16(uint(spinBox->stepEnabled));
     writer.put16(spinBox->frame ? 1 : 0);
 }
 
@@ -99,15 +98,14 @@ uint div255(uint value)
 /// A source pixel in the colour given, neither of them undone from its alpha.
 QRgb colorizedPixel(QRgb pixel, QRgb color)
 {
-    const uint share = static_cast<uint>(qBlue(pixel) - qRed(pixel));
-    const uint gray = static_cast<uint>(qGreen(pixel));
-    const uint alpha = div255(static_cast<uint>(qAlpha(pixel)) * static_cast<uint>(qAlpha(color)));
+    const uint share = uint(qBlue(pixel) - qRed(pixel));
+    const uint gray = uint(qGreen(pixel));
+    const uint alpha = div255(uint(qAlpha(pixel)) * uint(qAlpha(color)));
     const auto channel = [&](int value) {
-        const uint sum = (gray + div255(static_cast<uint>(value) * share)) & 0xff;
-        return static_cast<int>(std::min(alpha, sum));
+        const uint sum = (gray + div255(uint(value) * share)) & 0xff;
+        return int(qMin(alpha, sum));
     };
-    return qRgba(channel(qRed(color)), channel(qGreen(color)), channel(qBlue(color)),
-                 static_cast<int>(alpha));
+    return qRgba(channel(qRed(color)), channel(qGreen(color)), channel(qBlue(color)), int(alpha));
 }
 
 void colorize(QImage *image, QRgb color)
@@ -172,7 +170,7 @@ QString scaledArrowPrefix(QStyle::PrimitiveElement element, const QColor &color)
     const QString name = QStringLiteral("arrow");
     QString prefix(name.size() + 3, Qt::Uninitialized);
     KeyWriter writer(std::copy(name.cbegin(), name.cend(), prefix.data()));
-    writer.put16(static_cast<uint>(element));
+    writer.put16(uint(element));
     writer.put32(color.rgba());
     return prefix;
 }
@@ -181,7 +179,7 @@ QString scaledArrowPrefix(QStyle::PrimitiveElement element, const QColor &color)
 /// of both, centred in \a rect.
 QRect arrowRect(const QRect &rect, const QSize &pixmap)
 {
-    const int side = std::min({pixmap.width(), pixmap.height(), rect.width(), rect.height()});
+    const int side = qMin(qMin(pixmap.width(), pixmap.height()), qMin(rect.width(), rect.height()));
     QRect arrow(0, 0, side, side);
     if (pixmap.width() > pixmap.height())
         arrow.setHeight(pixmap.height() * side / pixmap.width());
@@ -203,7 +201,7 @@ QColor titleButtonBorder(const QStyleOptionTitleBar *option, const QColor &highl
         return highlight.darker(180);
     const QColor button = option->palette.color(QPalette::Button);
     QColor dark;
-    dark.setHsv(button.hue(), button.saturation(), static_cast<int>(button.value() * 0.7));
+    dark.setHsv(button.hue(), button.saturation(), int(button.value() * 0.7));
     return dark.darker(110);
 }
 
@@ -260,9 +258,9 @@ QString styleCacheKey(const QString &prefix, const QStyleOption *option, const Q
 
     QString key(prefix.size() + units, Qt::Uninitialized);
     KeyWriter writer(std::copy(prefix.cbegin(), prefix.cend(), key.data()));
-    writer.put32(static_cast<uint>(size.width()));
-    writer.put32(static_cast<uint>(size.height()));
-    writer.put32(static_cast<uint>(qRound(qApp->devicePixelRatio() * 0x10000)));
+    writer.put32(uint(size.width()));
+    writer.put32(uint(size.height()));
+    writer.put32(uint(qRound(qApp->devicePixelRatio() * 0x10000)));
     if (option)
         writeOption(writer, option);
     if (spinBox)

@@ -3,14 +3,11 @@
 
 #include <nocturne/painting/painterguards_p.h>
 
-#include <QtCore/QLineF>
-#include <QtCore/QVector>
 #include <QtGui/QPixmap>
 #include <QtGui/QPixmapCache>
 #include <QtWidgets/QStyle>
 
 class QStyleOption;
-class QStyleOptionSlider;
 class QStyleOptionTitleBar;
 class QStyleOptionToolButton;
 
@@ -73,18 +70,6 @@ void drawToolButtonArrow(const QStyle *style, const QStyleOptionToolButton *opti
 /// Draws the frame of a title-bar button, without its symbol.
 void drawTitleBarButton(QPainter *painter, const QStyleOptionTitleBar *option, const QRect &rect,
                         bool hover, bool sunken);
-
-/// Draws a dial: tick marks, disc and knob.
-void drawDial(const QStyleOptionSlider *option, QPainter *painter);
-
-/// How long the long tick marks of a dial of \a radius are.
-int dialBigLineSize(int radius);
-
-/// The tick marks of a dial, each from its inner to its outer end.
-QVector<QLineF> dialTickLines(const QStyleOptionSlider *option);
-
-/// A point on the line from the dial's centre to its value, \a offset of the way out.
-QPointF dialRadialPos(const QStyleOptionSlider *option, qreal offset);
 
 /// Whether the pixmap cache can hold a drawing of \a size units.
 bool fitsCache(const QSize &size);

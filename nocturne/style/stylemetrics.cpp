@@ -4,7 +4,6 @@
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QWizard>
 
-#include <algorithm>
 #include <array>
 
 // What the style answers to questions for a number. Both tables are spread over an array at
@@ -26,12 +25,12 @@ struct Answer
 
 constexpr Answer exact(int value)
 {
-    return {static_cast<qint16>(value), Unit::Exact};
+    return {qint16(value), Unit::Exact};
 }
 
 constexpr Answer scaled(int value)
 {
-    return {static_cast<qint16>(value), Unit::Scaled};
+    return {qint16(value), Unit::Scaled};
 }
 
 template <typename Question>
@@ -46,7 +45,7 @@ constexpr int lastQuestion(const Entry<Question> (&entries)[Count])
 {
     int last = 0;
     for (const Entry<Question> &entry : entries)
-        last = std::max(last, static_cast<int>(entry.question));
+        last = qMax(last, int(entry.question));
     return last;
 }
 
@@ -190,7 +189,7 @@ int DarkFusionStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     const Answer answer = lookUp(metricAnswers, metric);
     switch (answer.unit) {
     case Unit::Scaled:
-        return static_cast<int>(Nocturne::StyleHelpers::dpiScaled(answer.value));
+        return int(Nocturne::StyleHelpers::dpiScaled(answer.value));
     case Unit::Exact:
         return answer.value;
     case Unit::Inherited:
@@ -208,8 +207,7 @@ int DarkFusionStyle::styleHint(StyleHint hint, const QStyleOption *option, const
         return comboBox && !comboBox->editable ? 1 : 0;
     }
     case SH_Table_GridLineColor:
-        return option ? static_cast<int>(option->palette.color(QPalette::Window).darker(120).rgb())
-                      : 0;
+        return option ? int(option->palette.color(QPalette::Window).darker(120).rgb()) : 0;
     case SH_WindowFrame_Mask:
         if (auto *mask = qstyleoption_cast<QStyleHintReturnMask *>(returnData); mask && option) {
             mask->region = windowFrameMask(option->rect);

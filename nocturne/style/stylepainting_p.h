@@ -9,7 +9,8 @@
 
 namespace Nocturne {
 
-/// What one call of the style's drawPrimitive() or drawControl() hands to a paint function.
+/// What one call of the style's drawPrimitive(), drawControl() or drawComplexControl() hands to a
+/// paint function.
 ///
 /// The option and the painter are there, and the option's rectangle is not empty; the option may
 /// be of any type, and there may be no widget.
@@ -52,6 +53,11 @@ struct PaintCall
     {
         proxy()->drawControl(element, &piece, painter, widget);
     }
+    QRect subControlRect(QStyle::ComplexControl control, const QStyleOptionComplex &of,
+                         QStyle::SubControl part) const
+    {
+        return proxy()->subControlRect(control, &of, part, widget);
+    }
     void drawText(const QRect &rect, int flags, const QString &text, QPalette::ColorRole role) const
     {
         proxy()->drawItemText(painter, rect, flags, option->palette, isEnabled(), text, role);
@@ -60,21 +66,12 @@ struct PaintCall
 
 } // namespace Nocturne
 
-/// One function an element, named after it. Each leaves the painter as it found it, unless its
-/// comment says otherwise, and paints nothing when the option is not of the type it needs.
+/// What the paint functions share; the elements themselves are in styleelements_p.h.
 namespace Nocturne::StylePaint {
-
-using Function = void (*)(const PaintCall &call);
-
-inline void paintNothing(const PaintCall &) {}
 
 /// Turns antialiasing on and moves the painter half a unit down and right, where lines of one
 /// unit cover whole pixels again.
-inline void beginSharpAntialiasing(QPainter *painter)
-{
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->translate(0.5, 0.5);
-}
+void beginSharpAntialiasing(QPainter *painter);
 
 /// Lines of one unit along whole rows and columns of units, both ends included. They are filled,
 /// not drawn: that is many times faster, and stays within the units at every device pixel ratio.
@@ -98,71 +95,14 @@ void fillOutline(QPainter *painter, const QRect &rect, const QColor &color);
 /// One dot of a grip or handle: two units wide and light, its upper left unit dark.
 void paintGripDot(QPainter *painter, int x, int y);
 
+/// The arrow on the buttons of a complex control, in \a color, turned clockwise from upward.
+QPixmap arrowPixmap(const QColor &color, int rotation);
+
+/// The same, drawn at half its pixel size around \a centre.
+void drawArrow(QPainter *painter, const QPointF &centre, const QColor &color, int rotation);
+
 /// Where the style keeps the icon of its tab close buttons; null until it is first asked for.
 QIcon &tabCloseIcon(const DarkFusionStyle *style);
-
-// Frames and panels
-void paintFrame(const PaintCall &call);
-void paintFrameMenu(const PaintCall &call);
-void paintFrameDockWidget(const PaintCall &call);
-void paintFrameWindow(const PaintCall &call);
-void paintFrameFocusRect(const PaintCall &call);
-void paintFrameGroupBox(const PaintCall &call);
-void paintFrameLineEdit(const PaintCall &call);
-void paintFrameTabWidget(const PaintCall &call);
-void paintFrameTabBarBase(const PaintCall &call);
-void paintPanelLineEdit(const PaintCall &call);
-void paintPanelMenu(const PaintCall &call);
-void paintPanelScrollAreaCorner(const PaintCall &call);
-void paintPanelTipLabel(const PaintCall &call);
-
-// Button panels
-void paintPanelButtonCommand(const PaintCall &call);
-void paintPanelButtonTool(const PaintCall &call);
-void paintIndicatorButtonDropDown(const PaintCall &call);
-void paintIndicatorTabClose(const PaintCall &call);
-
-// Indicators
-void paintIndicatorArrowDown(const PaintCall &call);
-void paintIndicatorArrowLeft(const PaintCall &call);
-void paintIndicatorArrowRight(const PaintCall &call);
-void paintIndicatorArrowUp(const PaintCall &call);
-void paintIndicatorBranch(const PaintCall &call);
-void paintIndicatorCheckBox(const PaintCall &call);
-void paintIndicatorDockWidgetResizeHandle(const PaintCall &call);
-void paintIndicatorHeaderArrow(const PaintCall &call);
-void paintIndicatorItemViewItemCheck(const PaintCall &call);
-void paintIndicatorRadioButton(const PaintCall &call);
-void paintIndicatorToolBarHandle(const PaintCall &call);
-/// Leaves the pen of its second line set.
-void paintIndicatorToolBarSeparator(const PaintCall &call);
-
-// Push buttons, and the labels of tool buttons and combo boxes
-void paintPushButton(const PaintCall &call);
-void paintPushButtonLabel(const PaintCall &call);
-void paintToolButtonLabel(const PaintCall &call);
-void paintComboBoxLabel(const PaintCall &call);
-
-// Tabs and header sections
-void paintTabShape(const PaintCall &call);
-void paintHeaderSection(const PaintCall &call);
-
-// Progress bars
-void paintProgressGroove(const PaintCall &call);
-void paintProgressContents(const PaintCall &call);
-void paintProgressLabel(const PaintCall &call);
-
-// Menus and menu bars
-void paintMenuItem(const PaintCall &call);
-void paintMenuBarItem(const PaintCall &call);
-void paintMenuBarEmptyArea(const PaintCall &call);
-
-// The parts of a window
-void paintDockWidgetTitle(const PaintCall &call);
-void paintRubberBand(const PaintCall &call);
-void paintSizeGrip(const PaintCall &call);
-void paintSplitter(const PaintCall &call);
-void paintToolBar(const PaintCall &call);
 
 } // namespace Nocturne::StylePaint
 

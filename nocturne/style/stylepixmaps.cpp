@@ -8,7 +8,6 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleOption>
 
-#include <algorithm>
 #include <array>
 
 // The symbols on the buttons of title bars and dock widgets.
@@ -85,7 +84,7 @@ public:
         const QSize size = m_symbol.size().boundedTo(rect.size());
         const qreal ratio = painter->device()->devicePixelRatioF();
         painter->drawPixmap(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, rect),
-                            enlarged(std::max(1, static_cast<int>(ratio)), mode));
+                            enlarged(qMax(1, int(ratio)), mode));
     }
 
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State) override
@@ -103,8 +102,8 @@ public:
         }
         auto *wanted = static_cast<ScaledPixmapArgument *>(data);
         const int factor =
-            std::min({static_cast<int>(wanted->scale), wanted->size.width() / m_symbol.width(),
-                      wanted->size.height() / m_symbol.height()});
+            qMin(int(wanted->scale), qMin(wanted->size.width() / m_symbol.width(),
+                                          wanted->size.height() / m_symbol.height()));
         wanted->pixmap = factor > 1 ? centred(enlarged(factor, wanted->mode), factor, wanted->size)
                                     : pixmap(wanted->size, wanted->mode, wanted->state);
     }

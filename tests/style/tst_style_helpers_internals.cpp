@@ -1,5 +1,6 @@
 #include "stylepainting.h"
 
+#include <nocturne/style/complexcontrols_p.h>
 #include <nocturne/style/stylecolors_p.h>
 #include <nocturne/style/stylehelpers_p.h>
 
@@ -429,13 +430,13 @@ void tst_StyleHelpers::titleBarButton()
 void tst_StyleHelpers::dialTicks()
 {
     const QStyleOptionSlider option = dialOption();
-    const QVector<QLineF> lines = Nocturne::StyleHelpers::dialTickLines(&option);
+    const QVector<QLineF> lines = Nocturne::ComplexControls::dialTickLines(&option);
     QCOMPARE(lines.size(), 11);
     const QPointF center(32.5, 32.5);
     const auto distance = [&](const QPointF &point) { return QLineF(center, point).length(); };
 
     // At 240 degrees, a long mark; the next one is short, and one unit further in.
-    QCOMPARE(Nocturne::StyleHelpers::dialBigLineSize(32), 5);
+    QCOMPARE(Nocturne::ComplexControls::dialBigLineSize(32), 5);
     QCOMPARE(QLineF(center, lines.first().p2()).angle(), 240.0);
     QCOMPARE(distance(lines.first().p1()), 27.0);
     QCOMPARE(distance(lines.first().p2()), 32.0);
@@ -470,7 +471,7 @@ void tst_StyleHelpers::dialTickCounts()
     option.maximum = maximum;
     option.tickInterval = interval;
     option.pageStep = 0;
-    QTEST(Nocturne::StyleHelpers::dialTickLines(&option).size(), "count");
+    QTEST(Nocturne::ComplexControls::dialTickLines(&option).size(), "count");
 }
 
 void tst_StyleHelpers::dialPositions()
@@ -479,12 +480,12 @@ void tst_StyleHelpers::dialPositions()
     const QPointF center(32, 32);
     const auto angle = [&](int value) {
         option.sliderPosition = value;
-        return qRound(QLineF(center, Nocturne::StyleHelpers::dialRadialPos(&option, 1.0)).angle());
+        return qRound(QLineF(center, Nocturne::ComplexControls::dialRadialPos(&option, 1.0)).angle());
     };
     QCOMPARE(angle(0), 240);
     QCOMPARE(angle(50), 90);
     QCOMPARE(angle(100), 300);
-    QCOMPARE(QLineF(center, Nocturne::StyleHelpers::dialRadialPos(&option, 0.5)).length(), 12.0);
+    QCOMPARE(QLineF(center, Nocturne::ComplexControls::dialRadialPos(&option, 0.5)).length(), 12.0);
 
     option.upsideDown = false;
     QCOMPARE(angle(0), 300);
@@ -498,7 +499,7 @@ void tst_StyleHelpers::dialFollowsItsRectangle()
 {
     QStyleOptionSlider option = dialOption();
     const auto draw = [&](QPainter &painter) {
-        Nocturne::StyleHelpers::drawDial(&option, &painter);
+        Nocturne::ComplexControls::drawDial(&option, &painter);
     };
     const QImage dial = TestSupport::paintOn(QSize(64, 64), Qt::transparent, draw);
     option.rect.moveTo(20, 10);

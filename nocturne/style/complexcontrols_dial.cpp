@@ -1,14 +1,13 @@
+#include "complexcontrols_p.h"
 #include "stylecolors_p.h"
-#include "stylehelpers_p.h"
+#include "styleelements_p.h"
 
 #include <QtCore/QtMath>
-#include <QtWidgets/QStyleOption>
 
-#include <algorithm>
-
-namespace Nocturne::StyleHelpers {
-
+namespace Nocturne {
 namespace {
+
+using ComplexControls::dialRadialPos;
 
 constexpr QRgb dialShadow = 0x28000000;
 constexpr QRgb pointerColor = 0x19000000;
@@ -34,14 +33,14 @@ qreal dialAngle(const QStyleOptionSlider *option, qreal part, qreal whole)
 struct DialMetrics
 {
     explicit DialMetrics(const QSize &size)
-        : radius(std::min(size.width(), size.height()) / 2)
+        : radius(qMin(size.width(), size.height()) / 2)
     {
         radius -= radius / 50;
         penSize = radius / 20;
         const qreal margin = radius / 6;
         const qreal x = margin + (size.width() - 2 * radius) / 2 + 1;
         const qreal y = margin + (size.height() - 2 * radius) / 2 + 1;
-        const int diameter = static_cast<int>(2 * radius - 2 * margin - 2);
+        const int diameter = int(2 * radius - 2 * margin - 2);
         top = y;
         disc = QRectF(x + 0.5, y + 0.5, diameter, diameter);
     }
@@ -55,13 +54,12 @@ struct DialMetrics
 QColor dialColor(const QPalette &palette)
 {
     const QColor button = palette.color(QPalette::Button);
-    return QColor::fromHsv(button.hue(), std::min(140, button.saturation()),
-                           std::max(180, button.value()));
+    return QColor::fromHsv(button.hue(), qMin(140, button.saturation()), qMax(180, button.value()));
 }
 
 void paintDialShadow(QPainter *painter, const DialMetrics &metrics)
 {
-    const qreal size = std::max(1.0, metrics.penSize / 2);
+    const qreal size = qMax(1.0, metrics.penSize / 2);
     const QRectF rect = metrics.disc.adjusted(-2 * size, -2 * size, 2 * size, 2 * size);
     QRadialGradient gradient(rect.center(), rect.width() / 2);
     gradient.setColorAt(0.91, QColor::fromRgba(dialShadow));
@@ -88,8 +86,8 @@ QBrush discBrush(const DialMetrics &metrics, const QColor &button)
 QColor dialFocusColor(const QPalette &palette)
 {
     const QColor highlight = palette.color(QPalette::Highlight);
-    return QColor::fromHsv(highlight.hue(), std::min(160, highlight.saturation()),
-                           std::max(230, highlight.value()), 127);
+    return QColor::fromHsv(highlight.hue(), qMin(160, highlight.saturation()),
+                           qMax(230, highlight.value()), 127);
 }
 
 void paintDialDisc(QPainter *painter, const QStyleOptionSlider *option, const DialMetrics &metrics)
@@ -155,12 +153,12 @@ qint64 dialNotches(const QStyleOptionSlider *option)
 
 } // namespace
 
-int dialBigLineSize(int radius)
+int ComplexControls::dialBigLineSize(int radius)
 {
-    return std::min(radius / 2, std::max(radius / 6, 4));
+    return qMin(radius / 2, qMax(radius / 6, 4));
 }
 
-QVector<QLineF> dialTickLines(const QStyleOptionSlider *option)
+QVector<QLineF> ComplexControls::dialTickLines(const QStyleOptionSlider *option)
 {
     QVector<QLineF> lines;
     if (option->tickInterval <= 0)
@@ -170,13 +168,13 @@ QVector<QLineF> dialTickLines(const QStyleOptionSlider *option)
         return lines;
 
     const QSize size = option->rect.size();
-    const int radius = std::min(size.width(), size.height()) / 2;
+    const int radius = qMin(size.width(), size.height()) / 2;
     const int longMark = dialBigLineSize(radius);
     const int shortMark = longMark / 2;
     const QPointF center(size.width() / 2 + 0.5, size.height() / 2 + 0.5);
     const int pageStep = option->pageStep ? option->pageStep : 1;
 
-    lines.reserve(static_cast<int>(notches) + 1);
+    lines.reserve(int(notches) + 1);
     for (qint64 i = 0; i <= notches; ++i) {
         const qreal angle = dialAngle(option, i, notches);
         const QPointF direction(qCos(angle), -qSin(angle));
@@ -188,10 +186,10 @@ QVector<QLineF> dialTickLines(const QStyleOptionSlider *option)
     return lines;
 }
 
-QPointF dialRadialPos(const QStyleOptionSlider *option, qreal offset)
+QPointF ComplexControls::dialRadialPos(const QStyleOptionSlider *option, qreal offset)
 {
     const QSize size = option->rect.size();
-    const int radius = std::min(size.width(), size.height()) / 2;
+    const int radius = qMin(size.width(), size.height()) / 2;
     const qreal range = qreal(option->maximum) - option->minimum;
     const qreal position = option->upsideDown ? qreal(option->sliderPosition)
                                               : qreal(option->maximum) - option->sliderPosition;
@@ -203,7 +201,7 @@ QPointF dialRadialPos(const QStyleOptionSlider *option, qreal offset)
                    size.height() / 2.0 - length * qSin(angle));
 }
 
-void drawDial(const QStyleOptionSlider *option, QPainter *painter)
+void ComplexControls::drawDial(const QStyleOptionSlider *option, QPainter *painter)
 {
     const QSize size = option->rect.size();
     if (size.isEmpty())
@@ -218,10 +216,16 @@ void drawDial(const QStyleOptionSlider *option, QPainter *painter)
         painter->setPen(option->palette.color(QPalette::Dark).darker(120));
         painter->drawLines(dialTickLines(option));
     }
-    drawCachedUnlessTransformed(painter, QPoint(),
-                                styleCacheKey(QStringLiteral("qdial"), option, size), size,
-                                [&](QPainter *p) { paintDialDisc(p, option, metrics); });
+    const QString key = StyleHelpers::styleCacheKey(QStringLiteral("qdial"), option, size);
+    StyleHelpers::drawCachedUnlessTransformed(
+        painter, QPoint(), key, size, [&](QPainter *p) { paintDialDisc(p, option, metrics); });
     paintDialKnob(painter, option, metrics);
 }
 
-} // namespace Nocturne::StyleHelpers
+void StylePaint::paintDial(const PaintCall &call)
+{
+    if (const auto *option = call.as<QStyleOptionSlider>())
+        ComplexControls::drawDial(option, call.painter);
+}
+
+} // namespace Nocturne
