@@ -2,6 +2,7 @@
 #define NOCTURNE_DARKUX_H
 
 #include <nocturne/nocturneglobal.h>
+#include <nocturne/style/darkfusionstyle.h>
 #include <nocturne/theme/singleton.h>
 
 #include <QtCore/QMap>
@@ -9,7 +10,6 @@
 #include <QtGui/QColor>
 #include <QtGui/QPalette>
 
-class DarkFusionStyle;
 
 extern template class NOCTURNE_EXPORT Singleton<DarkUX>;
 

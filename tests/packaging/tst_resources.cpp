@@ -194,13 +194,13 @@ private Q_SLOTS:
         }
     }
 
-    /// Every text that the code of the library and of the examples asks for is in every language.
+    /// Every text that the code of the library and of the gallery asks for is in every language.
     void textsOfTheCode()
     {
         const QTemporaryDir scratch;
         const QString collected = scratch.filePath("code.ts");
         QProcess::execute("lupdate", {"-silent", NOCTURNE_SOURCE_DIR "/nocturne",
-                                      NOCTURNE_SOURCE_DIR "/examples", "-ts", collected});
+                                      NOCTURNE_SOURCE_DIR "/examples/gallery", "-ts", collected});
         const QVector<Message> texts = messagesOf(collected);
         QVERIFY(texts.size() > 4);
         for (const QString &catalogue : baseNames()) {
