@@ -10,7 +10,6 @@
 #include <QtGui/QColor>
 #include <QtGui/QPalette>
 
-
 extern template class NOCTURNE_EXPORT Singleton<DarkUX>;
 
 /// The theme: the dark palette, a few extra background colours and the style that paints with them.

@@ -53,7 +53,7 @@ const char *const expectedWarnings[] = {
     "SpanSlider::triggerAction: Unknown action",
     "QDrag: No mimedata set",
     "QSplitter",
-    // A line edit's own, when its text shrinks while input-method text is taken in.
+    // A line edit's own: nothing of the library selects by position.
     "QWidgetLineControl::setSelection: Invalid start position",
 };
 
