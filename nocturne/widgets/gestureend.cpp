@@ -7,7 +7,13 @@
 
 #include <utility>
 
-bool Nocturne::endsGesture(const QEvent *event, const QWidget *widget)
+namespace {
+
+/// Whether \a event, on its way to \a widget, takes the pointer away in the middle of a drag or
+/// shows that its button is up already: the widget is hidden, disabled or shut out by a modal
+/// window, or the pointer comes without a button. A window that merely loses the focus still gets
+/// the rest of the drag.
+bool endsGesture(const QEvent *event, const QWidget *widget)
 {
     switch (event->type()) {
     case QEvent::Hide:
@@ -24,6 +30,8 @@ bool Nocturne::endsGesture(const QEvent *event, const QWidget *widget)
         return false;
     }
 }
+
+} // namespace
 
 Nocturne::Gesture::Gesture(QWidget *widget, std::function<void()> interrupted)
     : m_widget(widget)

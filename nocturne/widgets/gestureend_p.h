@@ -9,17 +9,12 @@ class QWidget;
 
 namespace Nocturne {
 
-/// Whether \a event, on its way to \a widget, takes the pointer away in the middle of a drag or
-/// shows that its button is up already: the widget is hidden, disabled or shut out by a modal
-/// window, or the pointer comes without a button. A window that merely loses the focus still gets
-/// the rest of the drag. No event tells a widget of a popup; Gesture knows of those as well.
-bool endsGesture(const QEvent *event, const QWidget *widget);
-
 /// What one hand does to a widget, from the first button that goes down to the last that comes up.
 ///
 /// The widget tells of its buttons. While one is held, whatever keeps its release from arriving
-/// ends the gesture and calls the function given, once: what endsGesture() knows, a popup that
-/// opens, or a second press of the same button.
+/// ends the gesture and calls the function given, once: the widget is hidden, disabled or shut out
+/// by a modal window, a popup opens, the pointer comes without a button, or the same button is
+/// pressed a second time. A window that merely loses the focus still gets the rest of a drag.
 class Gesture : public QObject
 {
 public:

@@ -51,6 +51,7 @@ double mixed(double from, double to, float offset, double length)
 GradientTool::GradientTool(QWidget *parent)
     : QWidget(parent)
     , m_colorDialog(new QColorDialog)
+    , m_gesture(new Nocturne::Gesture(this, [this] { abandonDrag(); }))
 {
     Nocturne::StopAccessibility::install();
     setMinimumSize(30, 44);
@@ -198,6 +199,11 @@ void GradientTool::setSlideUpdate(bool update)
     m_slideUpdate = update;
 }
 
+bool GradientTool::isMousePressed() const
+{
+    return m_gesture->isRunning();
+}
+
 void GradientTool::setSliderColor(int index, QColor col)
 {
     if (index < 0 || index >= m_stops.size())
@@ -338,7 +344,7 @@ void GradientTool::discard(GradientToolSlider *marker)
 
 bool GradientTool::isDragging() const
 {
-    return m_pressed && m_dragIndex != -1;
+    return isMousePressed() && m_dragIndex != -1;
 }
 
 /// Repaints the bar, but none of the markers below it.
@@ -375,10 +381,7 @@ void GradientTool::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    beginGesture();
-    const QPointer<GradientTool> self(this);
-    Q_EMIT mousePressed();
-    if (!self || !m_pressed)
+    if (!beginGesture())
         return;
     if (bar().contains(event->pos(), true))
         pressBar(event->pos());
@@ -386,12 +389,16 @@ void GradientTool::mousePressEvent(QMouseEvent *event)
         pressMarker(event->pos());
 }
 
-void GradientTool::beginGesture()
+/// Returns whether the gesture has survived the receivers of mousePressed().
+bool GradientTool::beginGesture()
 {
-    abandonDrag(); // A popup may have taken the last release.
+    abandonDrag(); // The last release may have gone elsewhere.
     m_movedByKey = false;
     m_firstChange = true;
-    m_pressed = true;
+    m_gesture->press(Qt::LeftButton);
+    const QPointer<GradientTool> self(this);
+    Q_EMIT mousePressed();
+    return self && isMousePressed();
 }
 
 void GradientTool::pressMarker(const QPoint &point)
@@ -451,7 +458,7 @@ void GradientTool::mouseMoveEvent(QMouseEvent *event)
 
 void GradientTool::notifyDragStep()
 {
-    if (!m_pressed)
+    if (!isMousePressed())
         return; // A receiver has ended the drag.
     const bool first = m_firstChange;
     m_firstChange = false;
@@ -469,7 +476,7 @@ void GradientTool::mouseReleaseEvent(QMouseEvent *event)
         return;
     m_verticalFraction = 0.0;
     m_firstChange = false;
-    m_pressed = false;
+    m_gesture->end();
     update();
 }
 
@@ -538,7 +545,7 @@ void GradientTool::moveByKey(double step, bool repeated)
 void GradientTool::keyPressEvent(QKeyEvent *event)
 {
     const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
-    if (!plain || m_pressed || !activeMarker()) {
+    if (!plain || isMousePressed() || !activeMarker()) {
         QWidget::keyPressEvent(event);
         return;
     }
@@ -599,7 +606,8 @@ void GradientTool::mouseDoubleClickEvent(QMouseEvent *event)
     // Without a dialog, the second press of a double-click may go over into a drag of what the
     // first one has grabbed.
     const int grabbed = m_dragIndex;
-    beginGesture();
+    if (!beginGesture())
+        return;
     m_dragIndex = grabbed;
     for (int i = 0; i < m_stops.size(); ++i) {
         const QPointer<GradientToolSlider> marker(m_stops.at(i).second);
@@ -641,19 +649,10 @@ void GradientTool::chooseColor(GradientToolSlider *target)
     Q_EMIT rampChanged(0.0, true);
 }
 
-bool GradientTool::event(QEvent *event)
-{
-    if (Nocturne::endsGesture(event, this))
-        abandonDrag();
-    return QWidget::event(event);
-}
-
 /// A drag that no release will end keeps its stop.
 void GradientTool::abandonDrag()
 {
-    if (!m_pressed)
-        return;
-    m_pressed = false;
+    m_gesture->end();
     m_firstChange = false;
     m_dragIndex = -1;
     m_verticalFraction = 0.0;

@@ -6,6 +6,7 @@
 #include <QtCore/QList>
 #include <QtCore/QPair>
 #include <QtCore/QPointer>
+#include <QtCore/QScopedPointer>
 #include <QtCore/QVector>
 #include <QtGui/QColor>
 #include <QtGui/QPixmap>
@@ -15,6 +16,7 @@ class QColorDialog;
 class GradientToolSlider;
 
 namespace Nocturne {
+class Gesture;
 class StopGroupInterface;
 class StopInterface;
 } // namespace Nocturne
@@ -94,7 +96,7 @@ public:
 
     /// Whether the left button went down on the editor and its gesture has not ended since: by the
     /// release, or by whatever takes the pointer away.
-    bool isMousePressed() const { return m_pressed; }
+    bool isMousePressed() const;
 
 public Q_SLOTS:
     /// Changes the colour of a stop and emits rampChanged(0.0, true). Numbers beyond the stops are
@@ -142,7 +144,6 @@ protected:
     static bool colorRampSort(const QPair<double, GradientToolSlider *> &a,
                               const QPair<double, GradientToolSlider *> &b);
 
-    bool event(QEvent *event) override;
     bool focusNextPrevChild(bool next) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
@@ -172,7 +173,7 @@ private:
     void addStop(double position, const QColor &color, GradientToolSlider *marker);
     static void discard(GradientToolSlider *marker);
     bool isDragging() const;
-    void beginGesture();
+    bool beginGesture();
     void pressMarker(const QPoint &point);
     void pressBar(const QPoint &point);
     void notifyDragStep();
@@ -191,12 +192,12 @@ private:
     QList<Stop> m_stops;
     int m_activeIndex = 0;
     QPointer<QColorDialog> m_colorDialog;
+    QScopedPointer<Nocturne::Gesture> m_gesture;
     bool m_ownDialog = true;
     QColor m_initColor = Qt::white;
     bool m_slideUpdate = false;
     QPixmap m_checkerboard;
     bool m_firstChange = true;
-    bool m_pressed = false;
     bool m_movedByKey = false; ///< since the focus came or a button was pressed
     double m_verticalFraction = 0.0;
     int m_dragIndex = -1;
