@@ -161,7 +161,9 @@ void HandleInterface::setCurrentValue(const QVariant &value)
                                              m_group->handleMaximum(m_handle)));
 }
 
-class RangeHandles : public HandleGroup
+} // namespace
+
+class Nocturne::RangeHandles : public HandleGroup
 {
 public:
     explicit RangeHandles(RangeSlider *slider)
@@ -173,7 +175,7 @@ public:
 
     QString handleName(int handle) const override
     {
-        switch (handleCode(handle)) {
+        switch (handle) {
         case RangeSliderPrivate::MinimumHandle:
             return RangeSlider::tr("Minimum");
         case RangeSliderPrivate::MaximumHandle:
@@ -183,11 +185,11 @@ public:
         }
     }
 
-    int handleValue(int handle) const override { return data()->value(handleCode(handle)); }
+    int handleValue(int handle) const override { return data()->values[handle]; }
 
     void setHandleValue(int handle, int value) override
     {
-        switch (handleCode(handle)) {
+        switch (handle) {
         case RangeSliderPrivate::MinimumHandle:
             m_range->setMinimumValue(value);
             break;
@@ -200,23 +202,26 @@ public:
         }
     }
 
-    bool isHandleShown(int handle) const override
-    {
-        return data()->isHandleEnabled(handleCode(handle));
-    }
+    bool isHandleShown(int handle) const override { return data()->isHandleEnabled(which(handle)); }
 
-    QRect handleRect(int handle) const override { return data()->handleRect(handleCode(handle)); }
+    QRect handleRect(int handle) const override
+    {
+        QStyleOptionSlider option;
+        m_range->initStyleOption(&option);
+        return data()->handleRect(which(handle), &option);
+    }
 
 private:
-    const RangeSliderPrivate *data() const { return RangeSliderPrivate::get(m_range); }
-
-    static RangeSliderPrivate::Handle handleCode(int handle)
+    static RangeSliderPrivate::Handle which(int handle)
     {
-        return static_cast<RangeSliderPrivate::Handle>(1 << handle);
+        return static_cast<RangeSliderPrivate::Handle>(handle);
     }
+    const RangeSliderPrivate *data() const { return m_range->d_func(); }
 
     RangeSlider *m_range;
 };
+
+namespace {
 
 class SpanHandles : public HandleGroup
 {
@@ -281,7 +286,7 @@ QAccessibleInterface *createHandleGroup(const QString &className, QObject *objec
 {
     if (className == QLatin1String("RangeSlider")) {
         if (auto *slider = qobject_cast<RangeSlider *>(object))
-            return new RangeHandles(slider);
+            return new Nocturne::RangeHandles(slider);
     }
     if (className == QLatin1String("SpanSlider")) {
         if (auto *slider = qobject_cast<SpanSlider *>(object))

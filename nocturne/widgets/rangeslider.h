@@ -8,6 +8,10 @@
 
 class RangeSliderPrivate;
 
+namespace Nocturne {
+class RangeHandles;
+} // namespace Nocturne
+
 /// A slider with three handles on one groove: a minimum and a maximum handle that bound a range,
 /// and a main handle that moves over the whole slider. For trimming a stretch of a timeline and
 /// showing the current position in it.
@@ -174,15 +178,11 @@ protected:
     virtual void initMainSliderStyleOption(QStyleOptionSlider *option) const;
 
 private:
-    friend class RangeSliderPrivate;
+    friend class Nocturne::RangeHandles;
 
     void initialize();
-    void endGesture();
 
     QScopedPointer<RangeSliderPrivate> m_private;
-    bool m_keyPressed = false;
-    bool m_rangeEnabled = false;
-    double m_frameRate = 25.0;
 };
 
 #endif

@@ -7,38 +7,34 @@
 
 #include <nocturne/widgets/rangeslider.h>
 
+#include <QtCore/QPair>
 #include <QtCore/QRect>
 #include <QtCore/QString>
+
+#include <array>
 
 class QHelpEvent;
 class QMouseEvent;
 class QStyleOptionSlider;
 class QStylePainter;
 
-/// The state of a range slider's handles, and what dragging and painting do with it.
+/// The state of a range slider, and what dragging and painting do with it.
+///
+/// Only the slider itself can fill a style option, so whatever asks the style is given one. Its
+/// value and position are used as room to work in.
 class RangeSliderPrivate
 {
 public:
+    /// Also the number of a handle in all that holds something for each of them.
     enum Handle {
-        NoHandle = 0,
-        MinimumHandle = 1,
-        MaximumHandle = 2,
-        MainHandle = 4,
+        NoHandle = -1,
+        MinimumHandle,
+        MaximumHandle,
+        MainHandle,
     };
 
     /// One number for each handle: their values or their positions.
-    struct Triple
-    {
-        int minimum;
-        int maximum;
-        int main;
-
-        bool operator==(const Triple &other) const
-        {
-            return minimum == other.minimum && maximum == other.maximum && main == other.main;
-        }
-        bool operator!=(const Triple &other) const { return !(*this == other); }
-    };
+    using Triple = std::array<int, 3>;
 
     struct Hit
     {
@@ -46,52 +42,43 @@ public:
         QRect rect; ///< of the handle; around both range handles when none is hit
     };
 
-    explicit RangeSliderPrivate(RangeSlider *slider)
-        : q_ptr(slider)
-        , gesture(slider, [slider] { slider->endGesture(); })
-    {}
+    explicit RangeSliderPrivate(RangeSlider *slider);
     virtual ~RangeSliderPrivate() = default;
 
-    static RangeSliderPrivate *get(RangeSlider *slider) { return slider->d_func(); }
+    /// What a signal calls \a handle.
+    static int code(Handle handle) { return handle == NoHandle ? 0 : 1 << handle; }
 
-    Triple values() const { return {minimumValue, maximumValue, mainValue}; }
-    Triple positions() const { return {minimumPosition, maximumPosition, mainPosition}; }
-    int value(Handle handle) const;
-    int position(Handle handle) const;
-
-    /// Both inside the slider's range, the lower first.
-    QPair<int, int> clampedRange(int a, int b) const;
+    /// The first two inside the slider's range, the lower first.
+    Triple bounded(int minimum, int maximum, int main) const;
 
     /// Whether the handle is drawn and can be dragged.
-    bool isHandleEnabled(Handle handle) const;
+    bool isHandleEnabled(Handle handle) const { return rangeEnabled || handle == MainHandle; }
 
-    /// The option of the slider with \a handle in the place of its own.
-    QStyleOptionSlider handleOption(Handle handle) const;
-    QRect handleRect(Handle handle) const;
+    /// Also puts the handle in the place of the option's own.
+    QRect handleRect(Handle handle, QStyleOptionSlider *option) const;
 
-    Hit hitTest(const QPoint &point) const;
-    void grab(Handle handle, const QRect &handleRect, const QPoint &point);
-    void jumpTo(const QPoint &point);
-    void dragTo(const QPoint &point);
-    void reportHover(const QPoint &point);
-    bool showHandleToolTip(const QHelpEvent *event) const;
+    Hit hitTest(const QPoint &point, QStyleOptionSlider *option) const;
+    void grab(const Hit &hit, const QPoint &point);
+    void jumpTo(const QPoint &point, QStyleOptionSlider *option);
+    void dragTo(const QPoint &point, const QStyleOptionSlider &option);
+    void endGesture();
+    void reportHover(const QPoint &point, const QStyleOptionSlider &option);
+    bool showHandleToolTip(const QHelpEvent *event, QStyleOptionSlider *option) const;
 
-    QRect barRect(QStyleOptionSlider *option) const;
-    void drawBar(QStylePainter *painter, QStyleOptionSlider *option) const;
-    void drawHandle(QStylePainter *painter, Handle handle) const;
+    void drawGroove(QStylePainter *painter, QStyleOptionSlider *option) const;
+    void drawHandle(Handle handle, QStylePainter *painter, QStyleOptionSlider *option) const;
 
     RangeSlider *q_ptr;
     Nocturne::Gesture gesture;
-    int maximumValue = 0;
-    int minimumValue = 0;
-    int mainValue = 50;
-    int maximumPosition = 0;
-    int minimumPosition = 0;
-    int mainPosition = 50;
+    Triple values{0, 0, 50};
+    Triple positions{0, 0, 50};
     int clickOffset = 0;   ///< from the leading edge of the grabbed handle to the press
     int pressPosition = 0; ///< of the grabbed handle; it snaps back there
-    int selectedHandles = NoHandle;
+    Handle grabbed = NoHandle;
     bool symmetricMoves = false;
+    bool rangeEnabled = false;
+    bool keyPressed = false;
+    double frameRate = 25.0;
     QString handleToolTip;
     int lastHoverValue = 0;
     mutable Nocturne::PaintSample bar;
@@ -103,8 +90,9 @@ private:
 
     bool isHorizontal() const { return q_ptr->orientation() == Qt::Horizontal; }
     int along(const QPoint &point) const { return isHorizontal() ? point.x() : point.y(); }
-    int valueUnderDrag(const QPoint &point) const;
-    QStyleOptionSlider sliderOption() const;
+    bool isOn(Handle handle, const QPoint &point, QStyleOptionSlider *option) const;
+    int valueUnderDrag(const QPoint &point, const QStyleOptionSlider &option) const;
+    QRect barRect(QStyleOptionSlider *option) const;
 };
 
 #endif
