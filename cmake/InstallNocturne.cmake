@@ -47,3 +47,10 @@ configure_file("${PROJECT_SOURCE_DIR}/cmake/nocturne-hostkit.pc.in"
   "${PROJECT_BINARY_DIR}/${hostkit_package}.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/${package}.pc" "${PROJECT_BINARY_DIR}/${hostkit_package}.pc"
   DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
+
+if(NOCTURNE_TOP_LEVEL)
+  add_custom_target(uninstall
+    COMMAND "${CMAKE_COMMAND}" "-DBUILD_DIR=${PROJECT_BINARY_DIR}"
+      -P "${PROJECT_SOURCE_DIR}/cmake/Uninstall.cmake"
+    VERBATIM)
+endif()

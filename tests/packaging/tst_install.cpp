@@ -233,6 +233,34 @@ private Q_SLOTS:
                         + QString::fromLocal8Bit(flags.output.simplified()).split(' ')
                         + sanitizerFlags());
         VERIFY_RUNS(program, {}, environment);
+        QVERIFY(QFile::remove(program));
+    }
+
+    /// A host that takes the sources along gets what it links, and nothing else.
+    void partOfAHostsBuild()
+    {
+        const QTemporaryDir build;
+        VERIFY_RUNS("cmake", {"-G", "Ninja", "-S", consumerSources, "-B", build.path(),
+                              "-DNOCTURNE_SOURCES=" NOCTURNE_SOURCE_DIR});
+        const Outcome targets = run("ninja", {"-C", build.path(), "-t", "targets", "all"});
+        QStringList linked;
+        for (const QStringList &target : findAll("([^/\\n]+): CXX_\\w+_LINKER", targets.output))
+            linked << target.at(1).section(".so.", 0, 0);
+        linked.sort();
+        QCOMPARE(linked, QStringList({"delegate", "hostkit", "libnocturne", "libnocturne-hostkit.a",
+                                      "main", "nocturne-bake"}));
+        QVERIFY(
+            contentsOf(build.filePath("CMakeCache.txt")).contains("CMAKE_BUILD_TYPE:STRING=\n"));
+    }
+
+    void uninstallLeavesNothing()
+    {
+        VERIFY_RUNS("cmake", {"--build", buildDirectory, "--target", "uninstall"});
+        QDir prefix(m_prefix.path());
+        for (const QString &kept : QStringList{"bin", "include", QFileInfo(m_library).path()})
+            prefix.rmdir(kept);
+        prefix.rmdir("lib");
+        QCOMPARE(prefix.entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
     }
 
 private:
