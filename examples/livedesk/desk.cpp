@@ -5,8 +5,6 @@
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QUndoCommand>
 
-#include <algorithm>
-
 class EditCommand : public QUndoCommand
 {
 public:
@@ -95,7 +93,7 @@ void Desk::removeClip(int row)
             return;
         state.clips.removeAt(row);
         if (state.current >= row)
-            state.current = std::max(state.current - 1, state.clips.isEmpty() ? -1 : 0);
+            state.current = qMax(state.current - 1, state.clips.isEmpty() ? -1 : 0);
     });
 }
 

@@ -5,7 +5,6 @@
 #include <QtCore/QJsonArray>
 #include <QtGui/QKeySequence>
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -18,7 +17,7 @@ int boundedInt(const QJsonValue &value, int low, int high, int fallback)
 {
     if (!value.isDouble() || !std::isfinite(value.toDouble()))
         return fallback;
-    return static_cast<int>(std::clamp(value.toDouble(), double(low), double(high)));
+    return int(qBound(double(low), value.toDouble(), double(high)));
 }
 
 QJsonObject clipToJson(const Clip &clip)
@@ -56,7 +55,7 @@ Ramp rampFromJson(const QJsonArray &stops)
         const QJsonArray stop = value.toArray();
         const QColor color(stop.at(1).toString());
         if (stop.at(0).isDouble() && color.isValid() && ramp.size() < mostStops)
-            ramp << qMakePair(std::clamp(stop.at(0).toDouble(), 0.0, 1.0), color);
+            ramp << qMakePair(qBound(0.0, stop.at(0).toDouble(), 1.0), color);
     }
     return ramp.size() >= 2 ? ramp : Look().ramp;
 }

@@ -69,12 +69,12 @@ LookPanel::LookPanel(Desk *desk, QWidget *parent)
                      [this](DeskState &state) { state.look.ramp = m_ramp->getRamp(); });
     });
     connect(m_amount, &Slider::valueChanged, this,
-            [this](double value, bool first) { setAmount(static_cast<int>(value), first); });
+            [this](double value, bool first) { setAmount(int(value), first); });
     connect(m_transition, QOverload<double, bool>::of(&SpinBox::valueChanged), this,
             [this](double value, bool first) {
                 m_desk->edit(Desk::Transition, first ? Desk::NewStep : Desk::SameGesture,
                              tr("Transition"),
-                             [=](DeskState &state) { state.transition = static_cast<int>(value); });
+                             [=](DeskState &state) { state.transition = int(value); });
             });
     connect(desk, &Desk::changed, this, &LookPanel::refresh);
     retranslate();
@@ -129,9 +129,9 @@ SpinBox *LookPanel::positionBox(const QString &name, int range, bool horizontal)
                 m_desk->edit(Desk::Position, first ? Desk::NewStep : Desk::SameGesture,
                              tr("Position"), [=](DeskState &state) {
                                  if (horizontal)
-                                     state.look.position.setX(static_cast<int>(value));
+                                     state.look.position.setX(int(value));
                                  else
-                                     state.look.position.setY(static_cast<int>(value));
+                                     state.look.position.setY(int(value));
                              });
             });
     return box;

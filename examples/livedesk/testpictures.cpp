@@ -4,7 +4,6 @@
 
 #include <QtGui/QPainter>
 
-#include <algorithm>
 #include <array>
 
 namespace {
@@ -15,9 +14,9 @@ void paintBars(QPainter &painter, int frame)
 {
     const std::array<QColor, 8> bars{Qt::white,   Qt::yellow, Qt::cyan, Qt::green,
                                      Qt::magenta, Qt::red,    Qt::blue, Qt::black};
-    const int width = pictureSize.width() / static_cast<int>(bars.size());
+    const int width = pictureSize.width() / int(bars.size());
     for (std::size_t i = 0; i < bars.size(); ++i)
-        painter.fillRect(static_cast<int>(i) * width, 0, width, pictureSize.height(), bars[i]);
+        painter.fillRect(int(i) * width, 0, width, pictureSize.height(), bars[i]);
     const int x = frame * 4 % pictureSize.width();
     painter.fillRect(x, pictureSize.height() - 40, 40, 40, QColor(40, 40, 40));
 }
@@ -57,8 +56,8 @@ void paintClock(QPainter &painter, int frame)
 unsigned int mixedColor(unsigned int under, unsigned int over, int share256)
 {
     const auto channel = [=](int shift) {
-        const int a = static_cast<int>(under >> shift & 0xff);
-        const int b = static_cast<int>(over >> shift & 0xff);
+        const int a = int(under >> shift & 0xff);
+        const int b = int(over >> shift & 0xff);
         return static_cast<unsigned int>(a + (b - a) * share256 / 256) << shift;
     };
     return 0xff000000u | channel(16) | channel(8) | channel(0);
@@ -91,8 +90,7 @@ QImage graded(const QImage &picture, const Look &look, const QVector<unsigned in
 {
     std::array<int, 256> levels;
     for (int i = 0; i < 256; ++i)
-        levels[i] =
-            std::clamp((i - look.black) * 255 / std::max(1, look.white - look.black), 0, 255);
+        levels[i] = qBound(0, (i - look.black) * 255 / qMax(1, look.white - look.black), 255);
     const int share = look.amount * 256 / 100;
 
     QImage result(picture.size(), QImage::Format_RGB32);

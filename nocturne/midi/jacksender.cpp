@@ -2,8 +2,6 @@
 
 #include <rtmidi/RtMidi.h>
 
-#include <algorithm>
-
 namespace Nocturne {
 
 JackSender::JackSender(RtMidiOut *device)
@@ -66,9 +64,9 @@ unsigned long JackSender::millisecondsUntilRoom(double bytes)
 {
     const double elapsed = m_backlogTime.isValid() ? m_backlogTime.nsecsElapsed() / 1.0e6 : 0.0;
     m_backlogTime.start();
-    m_backlog = std::max(0.0, m_backlog - elapsed * bytesPerMillisecond);
+    m_backlog = qMax(0.0, m_backlog - elapsed * bytesPerMillisecond);
     // A message longer than a burst goes alone.
-    const double excess = std::min(m_backlog, m_backlog + bytes - burstBytes);
+    const double excess = qMin(m_backlog, m_backlog + bytes - burstBytes);
     return excess > 0.0 ? static_cast<unsigned long>(excess / bytesPerMillisecond) + 1 : 0;
 }
 

@@ -4,7 +4,6 @@
 
 #include <QtCore/QtMath>
 
-#include <algorithm>
 #include <iterator>
 
 template <typename T>
@@ -56,12 +55,12 @@ constexpr RoleColors themeColors[] = {
 
 int atMost255(double value)
 {
-    return static_cast<int>(std::min(value, 255.0));
+    return int(qMin(value, 255.0));
 }
 
 int scaledChannel(int channel, int factor)
 {
-    return qBound(0, static_cast<int>(channel * factor / 255.0), 255);
+    return qBound(0, int(channel * factor / 255.0), 255);
 }
 
 void tint(QPalette &palette, QPalette::ColorRole role)
@@ -123,7 +122,7 @@ QColor DarkUX::colorCalc(const QColor &color, int temperature)
 void DarkUX::getRGBfromTemperature(int &red, int &green, int &blue, unsigned int temperature)
 {
     // Curves fitted to black-body light, in hundreds of kelvin.
-    const int x = static_cast<int>(std::min(temperature, maximumTemperature) / 100);
+    const int x = int(qMin(temperature, maximumTemperature) / 100);
 
     red = 255;
     if (x > 66)

@@ -497,7 +497,7 @@ int GradientTool::numberOf(const GradientToolSlider *marker) const
 {
     const auto stop = std::find_if(m_stops.begin(), m_stops.end(),
                                    [marker](const Stop &s) { return s.second == marker; });
-    return stop == m_stops.end() ? -1 : static_cast<int>(stop - m_stops.begin());
+    return stop == m_stops.end() ? -1 : int(stop - m_stops.begin());
 }
 
 /// The stop to the right of \a index, or to its left; -1 beyond the last one. From no stop, -1, it

@@ -115,7 +115,7 @@ void KeySequenceEdit::processKeyPress(QKeyEvent *event)
     if (event->modifiers() & Qt::ShiftModifier)
         key = unshiftedKey(key, event->text());
 
-    const QKeySequence pressed(key | static_cast<int>(event->modifiers()));
+    const QKeySequence pressed(key | int(event->modifiers()));
     if (pressed == m_sequence)
         return;
     m_oldSequence = m_sequence;

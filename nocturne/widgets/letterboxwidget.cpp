@@ -47,7 +47,7 @@ void LetterBoxWidget::setMargin(int margin)
 void LetterBoxWidget::setResizeDelay(unsigned int ms)
 {
     constexpr unsigned int longest = std::numeric_limits<int>::max();
-    m_timer.setInterval(static_cast<int>(qMin(ms, longest)));
+    m_timer.setInterval(int(qMin(ms, longest)));
 }
 
 void LetterBoxWidget::resizeWidget()

@@ -42,6 +42,6 @@ void SlideCheckBox::paintEvent(QPaintEvent *)
     painter.drawRoundedRect(0, 0, w - 2, h - 2, radius, radius);
     painter.setBrush(Qt::white);
     painter.drawEllipse(on ? w - h : 0, 0, h, h);
-    painter.drawText(on ? w / 4 : w / 2, static_cast<int>(h / 1.5),
+    painter.drawText(on ? w / 4 : w / 2, int(h / 1.5),
                      on ? QStringLiteral("On") : QStringLiteral("Off"));
 }

@@ -105,7 +105,7 @@ private:
 
 } // namespace
 
-class tst_LiveDesk : public QObject
+class TestLiveDesk : public QObject
 {
     Q_OBJECT
 
@@ -136,7 +136,7 @@ private:
     int m_steps = 0;
 };
 
-void tst_LiveDesk::init()
+void TestLiveDesk::init()
 {
     m_window = std::make_unique<DeskWindow>(m_folder.filePath(QStringLiteral("desk.json")));
     m_window->show();
@@ -145,13 +145,13 @@ void tst_LiveDesk::init()
     m_steps = 0;
 }
 
-void tst_LiveDesk::cleanup()
+void TestLiveDesk::cleanup()
 {
     m_window.reset();
     QFile::remove(m_folder.filePath(QStringLiteral("desk.json")));
 }
 
-void tst_LiveDesk::drop(const QList<QUrl> &urls)
+void TestLiveDesk::drop(const QList<QUrl> &urls)
 {
     QMimeData data;
     data.setUrls(urls);
@@ -163,7 +163,7 @@ void tst_LiveDesk::drop(const QList<QUrl> &urls)
 }
 
 /// With the left button; like a real one, the pointer's events go to whoever grabs it.
-void tst_LiveDesk::drag(QWidget *widget, const QPoint &from, const QPoint &to, int moves)
+void TestLiveDesk::drag(QWidget *widget, const QPoint &from, const QPoint &to, int moves)
 {
     QCursor::setPos(widget->mapToGlobal(from));
     QCoreApplication::processEvents();
@@ -181,7 +181,7 @@ void tst_LiveDesk::drag(QWidget *widget, const QPoint &from, const QPoint &to, i
     QCoreApplication::processEvents();
 }
 
-void tst_LiveDesk::expectSteps(int steps, const char *what)
+void TestLiveDesk::expectSteps(int steps, const char *what)
 {
     m_steps += steps;
     QVERIFY2(m_window->desk()->history()->count() == m_steps,
@@ -192,7 +192,7 @@ void tst_LiveDesk::expectSteps(int steps, const char *what)
 }
 
 /// One stretch of work with every kind of gesture.
-void tst_LiveDesk::workRound()
+void TestLiveDesk::workRound()
 {
     Desk *desk = m_window->desk();
     const auto state = [desk] { return desk->state(); };
@@ -249,7 +249,7 @@ void tst_LiveDesk::workRound()
     expectSteps(0, "playing, rendering and another language");
 }
 
-void tst_LiveDesk::work()
+void TestLiveDesk::work()
 {
     const DeskState start = m_window->desk()->state();
     for (int i = 0; i < 3 && !QTest::currentTestFailed(); ++i)
@@ -263,7 +263,7 @@ void tst_LiveDesk::work()
     QVERIFY(m_window->desk()->state() == end);
 }
 
-void tst_LiveDesk::picture()
+void TestLiveDesk::picture()
 {
     drop({QUrl::fromLocalFile(QStringLiteral("/clips/bars.mov"))});
     const auto pixel = [this](int x) {
@@ -291,7 +291,7 @@ void tst_LiveDesk::picture()
     QCOMPARE(find<Monitor>("preview")->picture().pixelColor(30, 350), QColor(Qt::black));
 }
 
-void tst_LiveDesk::midiControl()
+void TestLiveDesk::midiControl()
 {
     ControlPanel *controls = m_window->controls();
     controls->takeMidi(controlChange(7, 127));
@@ -311,7 +311,7 @@ void tst_LiveDesk::midiControl()
     expectSteps(1, "a fader that had rested");
 }
 
-void tst_LiveDesk::settings()
+void TestLiveDesk::settings()
 {
     workRound();
     m_window->controls()->setBinding(controlChange(21, 0));
@@ -324,7 +324,7 @@ void tst_LiveDesk::settings()
     QCOMPARE(m_window->desk()->history()->count(), 0);
 }
 
-void tst_LiveDesk::damagedSettings()
+void TestLiveDesk::damagedSettings()
 {
     const QString path = m_folder.filePath(QStringLiteral("desk.json"));
     QFile file(path);
@@ -351,7 +351,7 @@ void tst_LiveDesk::damagedSettings()
     QVERIFY(QFile::exists(path + QStringLiteral(".unreadable")));
 }
 
-void tst_LiveDesk::soak()
+void TestLiveDesk::soak()
 {
     const double minutes = qEnvironmentVariable("NOCTURNE_SOAK").toDouble();
     if (minutes <= 0)
@@ -397,7 +397,7 @@ int main(int argc, char *argv[])
     DarkUX theme;
     app.setStyle(theme.style());
     app.setPalette(theme.palette());
-    tst_LiveDesk test;
+    TestLiveDesk test;
     return QTest::qExec(&test, argc, argv);
 }
 

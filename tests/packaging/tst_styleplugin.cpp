@@ -64,7 +64,7 @@ class QWebView : public QWidget
     Q_OBJECT
 };
 
-class tst_StylePlugin : public QObject
+class TestStylePlugin : public QObject
 {
     Q_OBJECT
 
@@ -84,19 +84,19 @@ private:
     QString grabDesigner(const XServer &server, const QString &directory);
 };
 
-void tst_StylePlugin::initTestCase()
+void TestStylePlugin::initTestCase()
 {
     if (!QFileInfo::exists(pluginPath()))
         QSKIP("The plugins are not part of this build");
     QCoreApplication::addLibraryPath(pluginPath());
 }
 
-void tst_StylePlugin::cleanup()
+void TestStylePlugin::cleanup()
 {
     QVERIFY(!DarkUX::getInstancePtr());
 }
 
-void tst_StylePlugin::keys()
+void TestStylePlugin::keys()
 {
     QVERIFY(QStyleFactory::keys().contains(QStringLiteral("DarkFusion")));
     const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("darkfusion")));
@@ -109,7 +109,7 @@ void tst_StylePlugin::keys()
     QCOMPARE(readable->standardPalette(), DarkReadableStyle::palette(style->standardPalette()));
 }
 
-void tst_StylePlugin::paletteWithoutTheme()
+void TestStylePlugin::paletteWithoutTheme()
 {
     const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("DarkFusion")));
     const QPalette palette = style->standardPalette();
@@ -121,7 +121,7 @@ void tst_StylePlugin::paletteWithoutTheme()
     QVERIFY(themeStyle->standardPalette() != palette);
 }
 
-void tst_StylePlugin::paletteOfTheProgramsTheme()
+void TestStylePlugin::paletteOfTheProgramsTheme()
 {
     const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("DarkFusion")));
     DarkUX theme;
@@ -133,7 +133,7 @@ void tst_StylePlugin::paletteOfTheProgramsTheme()
     QCOMPARE(DarkUX::getInstancePtr(), &theme);
 }
 
-void tst_StylePlugin::applicationPalette()
+void TestStylePlugin::applicationPalette()
 {
     QApplication::setStyle(QStringLiteral("DarkFusion"));
     const QPalette dark = QApplication::style()->standardPalette();
@@ -153,7 +153,7 @@ void tst_StylePlugin::applicationPalette()
     QVERIFY(QApplication::palette().color(QPalette::Window).lightness() > 200);
 }
 
-void tst_StylePlugin::paperOfWebPages()
+void TestStylePlugin::paperOfWebPages()
 {
     const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("DarkFusion")));
     const QPalette dark = style->standardPalette();
@@ -169,7 +169,7 @@ void tst_StylePlugin::paperOfWebPages()
     QCOMPARE(other.palette(), dark);
 }
 
-QString tst_StylePlugin::grabDesigner(const XServer &server, const QString &directory)
+QString TestStylePlugin::grabDesigner(const XServer &server, const QString &directory)
 {
     QString window;
     const auto findWindow = [&] {
@@ -195,7 +195,7 @@ QString tst_StylePlugin::grabDesigner(const XServer &server, const QString &dire
     return QTest::qWaitFor(isPainted, 60000) ? fileName : QString();
 }
 
-void tst_StylePlugin::realProgram_data()
+void TestStylePlugin::realProgram_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<bool>("dark");
@@ -203,7 +203,7 @@ void tst_StylePlugin::realProgram_data()
     QTest::newRow("without it") << QString() << false;
 }
 
-void tst_StylePlugin::realProgram()
+void TestStylePlugin::realProgram()
 {
 #if defined(__SANITIZE_ADDRESS__)
     QSKIP("A sanitized plugin cannot be loaded into an ordinary program");
@@ -256,7 +256,7 @@ int main(int argc, char *argv[])
     QApplication app(argc, argv);
     if (grabs)
         return grab(QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]));
-    tst_StylePlugin test;
+    TestStylePlugin test;
     return QTest::qExec(&test, argc, argv);
 }
 

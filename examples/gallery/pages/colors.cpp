@@ -52,7 +52,7 @@ private:
         const double sun = std::hypot((x - 0.7) * 1.8, y - 0.3);
         const double ridge = 0.62 + 0.10 * std::sin(x * 9) + 0.04 * std::sin(x * 31);
         const double light = y > ridge ? 0.45 - 0.4 * (y - ridge) / (1 - ridge)
-                                       : std::max(0.25 + 0.5 * y, 1.15 - 2.2 * sun);
+                                       : qMax(0.25 + 0.5 * y, 1.15 - 2.2 * sun);
         return qBound(0, int(light * 255), 255);
     }
 
