@@ -5,6 +5,8 @@
 #include <QtCore/QJsonArray>
 #include <QtGui/QKeySequence>
 
+#include <algorithm>
+
 #include <cmath>
 
 namespace {
