@@ -254,12 +254,13 @@ private Q_SLOTS:
         press(Qt::Key_Left);
         QCOMPARE(editor.takeLog(), QString());
         press(Qt::Key_Right);
+        press(Qt::Key_Left);
         press(Qt::Key_Right);
         hold(Qt::Key_Right);
         editor.setSlideUpdate(true);
         hold(Qt::Key_Right);
-        QCOMPARE(editor.takeLog(), QString("ramp 1, ramp 1, ramp 0, ramp 1"));
-        QCOMPARE(editor.getRamp().at(1).first, 0.04);
+        QCOMPARE(editor.takeLog(), QString("ramp 1, ramp 1, ramp 1, ramp 0, ramp 1"));
+        QCOMPARE(editor.getRamp().at(1).first, 0.03);
         editor.setSlideUpdate(false);
         editor.run("press 5, release 5");
         hold(Qt::Key_Right);
