@@ -6,7 +6,6 @@
 #include <QtGui/QKeySequence>
 
 #include <algorithm>
-
 #include <cmath>
 
 namespace {

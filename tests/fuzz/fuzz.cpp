@@ -1,0 +1,174 @@
+// What comes from outside, fuzzed: a broken promise aborts. NOCTURNE_FUZZ_TARGET names the part
+// that this program feeds; there is one program for each.
+//
+//   cmake --preset fuzz && cmake --build --preset fuzz
+//   build/fuzz/bin/fuzz_drops -max_total_time=600
+
+#include <deskstate.h>
+#include <testpictures.h>
+
+#include <nocturne/ColorButton>
+#include <nocturne/CroppingLabel>
+#include <nocturne/DarkUX>
+#include <nocturne/GradientTool>
+#include <nocturne/KeySequenceEdit>
+#include <nocturne/ListWidget>
+#include <nocturne/SpinBox>
+#include <nocturne/midi/midiport_p.h>
+
+#include <QtCore/QDataStream>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QMimeData>
+#include <QtCore/QUrl>
+#include <QtGui/QClipboard>
+#include <QtGui/QDropEvent>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
+
+#include <cstdlib>
+#include <memory>
+
+namespace {
+
+void promise(bool kept)
+{
+    if (!kept)
+        std::abort();
+}
+
+[[maybe_unused]] void feedMidi(const QByteArray &data)
+{
+    const std::vector<unsigned char> bytes(data.begin(), data.end());
+    QMidiMessage message = Nocturne::decodeMidiMessage(0.001, bytes);
+    promise(message.channel() >= 0 && message.channel() <= 16);
+    promise(message.type() >= 0 && message.type() <= 255);
+    QMidiMessage::typeName(message.type());
+    const QMidiMessage::Bytes raw = message.rawMessage();
+    if (message.type() == QMidiMessage::SystemExclusive) {
+        promise(raw.size() >= bytes.size() && raw.back() == 0xF7);
+        promise(std::equal(bytes.begin(), bytes.end(), raw.begin()));
+    } else if (!raw.empty() && bytes.size() >= 3 && message.type() != QMidiMessage::ProgramChange) {
+        promise(std::equal(raw.begin(), raw.end(), bytes.begin()));
+    }
+}
+
+/// Drops the data in several formats on \a target.
+void dropOn(QWidget *target, const QByteArray &data)
+{
+    QMimeData mime;
+    if (!data.isEmpty()) {
+        const QByteArray content = data.mid(1);
+        if (data[0] & 1)
+            mime.setData("application/x-color", content);
+        if (data[0] & 2)
+            mime.setData("text/uri-list", content);
+        if (data[0] & 4)
+            mime.setText(QString::fromUtf8(content));
+        if (data[0] & 8)
+            mime.setData("application/x-qabstractitemmodeldatalist", content);
+        if (data[0] & 16)
+            mime.setColorData(QVariant(QString::fromUtf8(content)));
+    }
+    const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter({5, 5}, actions, &mime, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &enter);
+    QDragMoveEvent move({6, 6}, actions, &mime, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &move);
+    QDropEvent drop({6, 6}, actions, &mime, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &drop);
+}
+
+[[maybe_unused]] void feedDrops(const QByteArray &data)
+{
+    static ListWidget list;
+    static ColorButton button;
+    list.setDragDropMode(QAbstractItemView::DragDrop);
+    dropOn(list.viewport(), data);
+    dropOn(&button, data);
+    list.clear();
+    button.grab();
+}
+
+/// A ramp of any doubles, dragged about.
+[[maybe_unused]] void feedRamps(const QByteArray &data)
+{
+    QDataStream stream(data);
+    Ramp ramp;
+    while (!stream.atEnd() && ramp.size() < 32) {
+        double position = 0.0;
+        quint32 color = 0;
+        stream >> position >> color;
+        ramp << qMakePair(position, QColor::fromRgba(color));
+    }
+    static GradientTool editor;
+    editor.resize(210, 60);
+    editor.setRamp(ramp);
+    promise(editor.getSliderNum() >= 2 && editor.getColorTable().size() == 256);
+    for (const auto &stop : editor.getRamp())
+        promise(stop.first >= 0.0 && stop.first <= 1.0);
+    for (char byte : data.left(16)) {
+        const int x = static_cast<unsigned char>(byte);
+        const auto send = [x](QEvent::Type type, int y, Qt::MouseButtons buttons) {
+            QMouseEvent event(type, QPointF(x, y), QPointF(x, y), Qt::LeftButton, buttons, {});
+            QCoreApplication::sendEvent(&editor, &event);
+        };
+        send(QEvent::MouseButtonPress, x % 60, Qt::LeftButton);
+        send(QEvent::MouseMove, x * 2, Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, x, Qt::NoButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        promise(editor.getSliderNum() >= 2);
+    }
+    editor.grab();
+}
+
+/// Settings of the desk: what was read is written and read again as the same.
+[[maybe_unused]] void feedDesk(const QByteArray &data)
+{
+    const DeskState state = DeskState::fromJson(QJsonDocument::fromJson(data).object());
+    promise(state.look.black < state.look.white && state.look.ramp.size() >= 2);
+    promise(state.current >= -1 && state.current < state.clips.size());
+    for (const Clip &clip : state.clips)
+        promise(0 <= clip.in && clip.in <= clip.out && clip.out < clip.length);
+    promise(DeskState::fromJson(state.toJson()) == state);
+}
+
+/// What is pasted and typed into fields.
+[[maybe_unused]] void feedTexts(const QByteArray &data)
+{
+    static SpinBox box;
+    static CroppingLabel label;
+    static KeySequenceEdit keys;
+    const QString text = QString::fromUtf8(data);
+    QGuiApplication::clipboard()->setText(text);
+    auto *editor = box.findChild<QLineEdit *>();
+    editor->selectAll();
+    editor->paste();
+    box.interpretText();
+    promise(box.value() >= box.minimum() && box.value() <= box.maximum());
+    label.resize(1 + data.size() % 300, 20);
+    label.setText(text);
+    label.grab();
+    keys.setKeySequence(QKeySequence(text));
+    keys.grab();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int *, char ***)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static int argc = 1;
+    static char name[] = "fuzz";
+    static char *argv[] = {name, nullptr};
+    static QApplication application(argc, argv);
+    static DarkUX theme;
+    QApplication::setStyle(theme.style());
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
+{
+    NOCTURNE_FUZZ_TARGET(
+        QByteArray::fromRawData(reinterpret_cast<const char *>(data), static_cast<int>(size)));
+    return 0;
+}
