@@ -1,9 +1,17 @@
-#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
+#include <QtCore/QPluginLoader>
 #include <QtCore/QTranslator>
+#include <QtGui/QPixmapCache>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QSlider>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleFactory>
+#include <QtWidgets/QStylePlugin>
 
 #include <cstdio>
 #include <dlfcn.h>
+#include <malloc.h>
 
 namespace {
 
@@ -38,14 +46,50 @@ void checkPresent(int round)
           "an image is where only the host may put one", round);
 }
 
+/// Loads the plug-in, and the library with it, a thousand times; every fiftieth time a dialog is
+/// shown in its style before both go.
+void loadThousandTimes(const char *pluginFile)
+{
+    std::size_t settled = 0;
+    for (int round = 1; round <= 1000; ++round) {
+        QPluginLoader loader(QString::fromLocal8Bit(pluginFile));
+        auto *plugin = qobject_cast<QStylePlugin *>(loader.instance());
+        check(plugin, "the plug-in cannot be loaded", round);
+        if (plugin && round % 50 == 0) {
+            QApplication::setStyle(plugin->create(QStringLiteral("DarkFusion")));
+            {
+                QMessageBox box(QMessageBox::Question, QStringLiteral("Go live"),
+                                QStringLiteral("Go live now?"), QMessageBox::Yes | QMessageBox::No);
+                QSlider slider(&box);
+                box.show();
+                QCoreApplication::processEvents();
+            }
+            QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+        check(loader.unload(), "the plug-in stays loaded", round);
+        if (round % 500 != 0)
+            continue;
+        // Each palette of a theme gives keys of its own. The toolkit lets go of the pictures, but
+        // not of the keys: about two kilobytes for each dialog.
+        QPixmapCache::clear();
+        const std::size_t used = mallinfo2().uordblks;
+        if (round == 500)
+            settled = used;
+        else
+            check(used < settled + 24 * 1024, "five hundred rounds have left memory behind", round);
+    }
+}
+
 } // namespace
 
-/// Loads and unloads the library at the path given, and checks that its files come and go.
+/// Loads and unloads the library at the path given, and checks that its files come and go. With the
+/// style plug-in as well, does so a thousand times.
 int main(int argc, char *argv[])
 {
-    const QCoreApplication app(argc, argv);
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: nocturne-loadprobe library\n");
+    const QApplication app(argc, argv);
+    if (argc < 2 || argc > 3) {
+        std::fprintf(stderr, "usage: nocturne-loadprobe library [plugin]\n");
         return 2;
     }
 
@@ -61,5 +105,7 @@ int main(int argc, char *argv[])
         check(!dlopen(argv[1], RTLD_NOW | RTLD_NOLOAD), "the library stays loaded", round);
         checkAbsent(round);
     }
+    if (argc == 3)
+        loadThousandTimes(argv[2]);
     return failures == 0 ? 0 : 1;
 }
