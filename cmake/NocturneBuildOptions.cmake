@@ -17,7 +17,7 @@ add_compile_definitions(
   QT_NO_CAST_TO_ASCII
   QT_NO_FOREACH
   QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
-  QT_DISABLE_DEPRECATED_BEFORE=0x050f00)
+  QT_DISABLE_DEPRECATED_BEFORE=${NOCTURNE_QT_DEPRECATED_BEFORE})
 
 # A unique symbol would keep the library in the process after it is unloaded.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")

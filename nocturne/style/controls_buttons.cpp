@@ -1,6 +1,8 @@
 #include "styleelements_p.h"
 #include "stylehelpers_p.h"
 
+#include <nocturne/theme/qtversion_p.h>
+
 #include <QtGui/QWindow>
 #include <QtWidgets/QPushButton>
 
@@ -83,8 +85,8 @@ QPixmap toolButtonPixmap(const PaintCall &call, const QStyleOptionToolButton &bu
     else if (call.has(QStyle::State_MouseOver | QStyle::State_AutoRaise))
         mode = QIcon::Active;
     QWindow *window = call.widget ? call.widget->window()->windowHandle() : nullptr;
-    return button.icon.pixmap(window, button.rect.size().boundedTo(button.iconSize), mode,
-                              iconState(call));
+    return QtVersion::iconPixmap(button.icon, window, button.rect.size().boundedTo(button.iconSize),
+                                 mode, iconState(call));
 }
 
 void paintToolButtonText(const PaintCall &call, const QStyleOptionToolButton &button,

@@ -2,6 +2,8 @@
 #include "styleelements_p.h"
 #include "stylehelpers_p.h"
 
+#include <nocturne/theme/qtversion_p.h>
+
 #include <QtGui/QFontInfo>
 #include <QtWidgets/QComboBox>
 
@@ -184,7 +186,7 @@ void paintText(const MenuItem &item)
     const QRect &r = item.option.rect;
     const int offset = item.checkColumn() + textMarginBefore;
     const QRect rect(r.x() + offset, r.y() + textMarginAbove,
-                     r.width() - offset - item.option.tabWidth - textMarginAfter,
+                     r.width() - offset - QtVersion::shortcutWidth(item.option) - textMarginAfter,
                      r.height() - 2 * textMarginAbove);
     const int flags = Qt::AlignVCenter | Qt::TextDontClip | Qt::TextSingleLine | Qt::AlignLeft
                       | mnemonicFlags(call);

@@ -3,6 +3,7 @@
 #include "stylehelpers_p.h"
 
 #include <nocturne/painting/themepaint_p.h>
+#include <nocturne/theme/qtversion_p.h>
 
 #include <QtGui/QTextOption>
 #include <QtWidgets/QWidget>
@@ -22,11 +23,6 @@ constexpr int stripeDistance = 22;
 QRect lyingDown(const QRect &rect)
 {
     return QRect(rect.left(), rect.top(), rect.height(), rect.width());
-}
-
-bool isVertical(const QStyleOptionProgressBar &option)
-{
-    return option.orientation == Qt::Vertical;
 }
 
 /// \a progress as a length along the bar, in whole units. The range is taken as one step at least.
@@ -54,16 +50,16 @@ struct Bar
 Bar::Bar(const QStyleOptionProgressBar &option, const QRect &rect)
     : isBusy(option.minimum == 0 && option.maximum == 0)
     , isComplete(option.progress == option.maximum)
-    , isReversed((isVertical(option) || option.direction == Qt::RightToLeft)
+    , isReversed((QtVersion::isVertical(option) || option.direction == Qt::RightToLeft)
                  != option.invertedAppearance)
-    , whole(isVertical(option) ? lyingDown(rect) : rect)
+    , whole(QtVersion::isVertical(option) ? lyingDown(rect) : rect)
     , done(whole.adjusted(0, 0, -1, -1))
 {
     if (isBusy)
         return;
     const qint64 length =
         progressLength(option, qMax(option.progress, option.minimum), whole.width());
-    const int width = int(qBound<qint64>(0, length, whole.width()));
+    const int width = int(qBound(qint64(0), length, qint64(whole.width())));
     if (isReversed)
         done.setRect(whole.right() - width - 1, whole.top(), width + 2, whole.height() - 1);
     else
@@ -127,7 +123,7 @@ void paintBar(QPainter *painter, const QPalette &palette, const QStyleOptionProg
 {
     const QColor highlight = palette.color(QPalette::Highlight);
     beginSharpAntialiasing(painter);
-    if (isVertical(option)) {
+    if (QtVersion::isVertical(option)) {
         QTransform turn = QTransform::fromTranslate(bar.whole.height() - 1, -1.0);
         turn.rotate(90);
         painter->setTransform(turn, true);
@@ -161,7 +157,7 @@ QRect passedRect(const QStyleOptionProgressBar &option, const QRect &rect)
         return QRect();
     const int width = int(length);
     const QRect passed(rect.left(), rect.top(), width, rect.height());
-    return isVertical(option) ? passed.translated(rect.width() - width, 0) : passed;
+    return QtVersion::isVertical(option) ? passed.translated(rect.width() - width, 0) : passed;
 }
 
 void paintClippedLabel(QPainter *painter, const QStyleOptionProgressBar &option, const QRect &rect,
@@ -202,7 +198,7 @@ void paintProgressContents(const PaintCall &call)
         return;
     const QRect &r = call.rect();
     const Bar bar(*option, r);
-    if (bar.isBusy && !isVertical(*option)) {
+    if (bar.isBusy && !QtVersion::isVertical(*option)) {
         // The stripes do not move.
         StyleHelpers::drawKept(call.painter, r.topLeft(), QStringLiteral("progressbusy"), option,
                                r.size(), [&](QPainter *painter) {
@@ -220,7 +216,7 @@ void paintProgressLabel(const PaintCall &call)
     const auto *option = call.as<QStyleOptionProgressBar>();
     if (!option)
         return;
-    const bool vertical = isVertical(*option);
+    const bool vertical = QtVersion::isVertical(*option);
     const QRect rect = vertical ? lyingDown(option->rect) : option->rect;
     const QRect passed = passedRect(*option, rect);
     const bool flipped = !vertical && call.isRightToLeft() != option->invertedAppearance;

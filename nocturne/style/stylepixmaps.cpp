@@ -1,5 +1,7 @@
 #include "darkfusionstyle.h"
 
+#include <nocturne/theme/qtversion_p.h>
+
 #include <QtCore/QHash>
 #include <QtGui/QIcon>
 #include <QtGui/QIconEngine>
@@ -74,7 +76,7 @@ public:
     {
         return m_symbol.size().boundedTo(size);
     }
-    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) const override
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) NOCTURNE_QT5_CONST override
     {
         return {m_symbol.size()};
     }

@@ -439,12 +439,12 @@ void GradientTool::mouseMoveEvent(QMouseEvent *event)
     if (!marker || bar().width() <= 0 || area.height() <= 0)
         return;
 
-    m_verticalFraction = double(event->y() - area.top()) / area.height();
+    m_verticalFraction = double(event->pos().y() - area.top()) / area.height();
     if (m_stops.size() > fewestStops)
         marker->setPainted(m_verticalFraction <= removalFraction);
 
     const QPointer<GradientTool> self(this);
-    const double position = positionAt(event->x());
+    const double position = positionAt(event->pos().x());
     if (position >= 0.0 && position <= 1.0) {
         placeStop(m_activeIndex, position);
         if (m_slideUpdate)

@@ -1,6 +1,7 @@
 #include "groupbox.h"
 
 #include <nocturne/painting/themepaint_p.h>
+#include <nocturne/theme/qtversion_p.h>
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
@@ -76,8 +77,7 @@ bool GroupBox::mouseEvent(QMouseEvent *event)
 
     const QRect check =
         style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxCheckBox, this);
-    QMouseEvent moved(event->type(), check.center(), event->windowPos(), event->screenPos(),
-                      event->button(), event->buttons(), event->modifiers(), event->source());
+    QMouseEvent moved = Nocturne::QtVersion::movedEvent(event, check.center());
     moved.setTimestamp(event->timestamp());
     const bool handled = QGroupBox::event(&moved);
     event->setAccepted(moved.isAccepted());

@@ -4,6 +4,7 @@
 #include <nocturne/painting/edgeshadow_p.h>
 
 #include <nocturne/painting/themepaint_p.h>
+#include <nocturne/theme/qtversion_p.h>
 
 #include <QtCore/QMimeData>
 #include <QtCore/QUrl>
@@ -95,10 +96,10 @@ Qt::DropActions ListWidget::supportedDropActions() const
 
 void ListWidget::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (event->keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) {
+    if (Nocturne::QtVersion::modifiers(event) & (Qt::ControlModifier | Qt::ShiftModifier)) {
         event->ignore();
     } else if (event->source() == this) {
-        m_draggedIndex = indexAt(event->pos());
+        m_draggedIndex = indexAt(Nocturne::QtVersion::position(event));
         event->accept();
     } else if (event->mimeData()->hasUrls()) {
         event->acceptProposedAction();
@@ -138,7 +139,7 @@ void ListWidget::dropFromWithin(QDropEvent *event)
     event->accept();
 
     QListWidgetItem *dragged = itemFromIndex(m_draggedIndex);
-    QListWidgetItem *target = itemAt(event->pos());
+    QListWidgetItem *target = itemAt(Nocturne::QtVersion::position(event));
     m_draggedIndex = QModelIndex();
     if (dragged && dragged != target)
         Q_EMIT itemMoved(dragged, target);

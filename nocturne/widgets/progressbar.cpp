@@ -1,6 +1,7 @@
 #include "progressbar.h"
 
 #include <nocturne/painting/glowbar_p.h>
+#include <nocturne/theme/qtversion_p.h>
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
@@ -43,7 +44,7 @@ void ProgressBar::render()
     const QRectF groove = option.rect.adjusted(0, 8, 0, -9);
 
     QPainter painter(this);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::Qt4CompatiblePainting);
+    painter.setRenderHints(QPainter::Antialiasing | Nocturne::QtVersion::offsetLines);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor::fromRgba(grooveColor));
     painter.drawRoundedRect(groove, grooveRadius, grooveRadius);

@@ -173,7 +173,7 @@ int Slider::valueForClick(int x) const
 /// release is the only thing that makes it forget.
 void Slider::letGo()
 {
-    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), Qt::LeftButton, Qt::NoButton,
-                        Qt::NoModifier);
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton,
+                        Qt::NoButton, Qt::NoModifier);
     QSlider::mouseReleaseEvent(&release);
 }

@@ -146,7 +146,7 @@ void SpanSlider::triggerAction(SliderAction action, bool main)
     bool moveUpper = main == (m_mainControl == UpperHandle);
     const int current = moveUpper ? m_upper : m_lower;
     const auto stepped = [this, current](qint64 step) {
-        return int(qBound<qint64>(minimum(), current + step, maximum()));
+        return int(qBound(qint64(minimum()), current + step, qint64(maximum())));
     };
 
     bool moves = true;

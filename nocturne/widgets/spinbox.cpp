@@ -2,6 +2,8 @@
 
 #include "gestureend_p.h"
 
+#include <nocturne/theme/qtversion_p.h>
+
 #include <QtCore/QPointer>
 #include <QtGui/QCursor>
 #include <QtGui/QMouseEvent>
@@ -176,8 +178,7 @@ void SpinBox::pressed(QMouseEvent *event, const QPoint &position)
 {
     if (m_dragging || event->button() != Qt::LeftButton || !lineEdit()->isReadOnly())
         return;
-    QMouseEvent press(event->type(), position, event->windowPos(), event->screenPos(),
-                      event->button(), event->buttons(), event->modifiers());
+    QMouseEvent press = Nocturne::QtVersion::movedEvent(event, position);
     dragStart(&press);
 }
 
