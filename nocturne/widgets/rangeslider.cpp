@@ -132,7 +132,7 @@ void RangeSlider::setValues(int min, int max, int main)
     }
 
     if (now != oldPositions || now != oldValues)
-        update();
+        updateHandles();
 }
 
 void RangeSlider::setMinimumPosition(int position)
@@ -160,7 +160,7 @@ void RangeSlider::setPositions(int min, int max, int main)
     d->positions = now;
 
     if (!hasTracking())
-        update();
+        updateHandles();
 
     if (isSliderDown()) {
         for (int handle = 0; handle < handleCount; ++handle) {
@@ -174,6 +174,13 @@ void RangeSlider::setPositions(int min, int max, int main)
         triggerAction(SliderMove);
         setValues(d->positions[0], d->positions[1], d->positions[2]);
     }
+}
+
+void RangeSlider::updateHandles()
+{
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    m_private->updateHandles(&option);
 }
 
 void RangeSlider::positionChange(int value)

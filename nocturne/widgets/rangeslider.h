@@ -181,6 +181,7 @@ private:
     friend class Nocturne::RangeHandles;
 
     void initialize();
+    void updateHandles();
 
     QScopedPointer<RangeSliderPrivate> m_private;
 };

@@ -65,6 +65,9 @@ public:
     void reportHover(const QPoint &point, const QStyleOptionSlider &option);
     bool showHandleToolTip(const QHelpEvent *event, QStyleOptionSlider *option) const;
 
+    /// Asks for a repaint where handles have moved that are not \a shown where they are now.
+    void updateHandles(QStyleOptionSlider *option);
+
     void drawGroove(QStylePainter *painter, QStyleOptionSlider *option) const;
     void drawHandle(Handle handle, QStylePainter *painter, QStyleOptionSlider *option) const;
 
@@ -75,6 +78,8 @@ public:
     int clickOffset = 0;   ///< from the leading edge of the grabbed handle to the press
     int pressPosition = 0; ///< of the grabbed handle; it snaps back there
     Handle grabbed = NoHandle;
+    mutable Triple shown{};                  ///< positions that were painted last
+    mutable std::array<QRect, 3> shownRects; ///< and where that was
     bool symmetricMoves = false;
     bool rangeEnabled = false;
     bool keyPressed = false;

@@ -1,6 +1,7 @@
 #include "rangeslider_p.h"
 
 #include "groovemapping_p.h"
+#include "handlemove_p.h"
 
 #include <nocturne/painting/themepaint_p.h>
 
@@ -175,6 +176,14 @@ int RangeSliderPrivate::valueUnderDrag(const QPoint &point, const QStyleOptionSl
         .valueAtLeadingEdge(along(point) - clickOffset);
 }
 
+void RangeSliderPrivate::updateHandles(QStyleOptionSlider *option)
+{
+    for (Handle handle : {MinimumHandle, MaximumHandle, MainHandle}) {
+        if (positions[handle] != shown[handle])
+            Nocturne::repaintMove(q_ptr, shownRects[handle], handleRect(handle, option));
+    }
+}
+
 void RangeSliderPrivate::endGesture()
 {
     gesture.end();
@@ -223,16 +232,10 @@ bool RangeSliderPrivate::showHandleToolTip(const QHelpEvent *event,
 /// ends.
 QRect RangeSliderPrivate::barRect(QStyleOptionSlider *option) const
 {
-    const QStyle *style = q_ptr->style();
-    const auto centreAt = [&](int position) {
-        option->sliderPosition = position;
-        return style->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderHandle, q_ptr)
-            .center();
-    };
-    const QPoint a = centreAt(positions[MinimumHandle]);
-    const QPoint b = centreAt(positions[MaximumHandle]);
+    const QPoint a = shownRects[MinimumHandle].center();
+    const QPoint b = shownRects[MaximumHandle].center();
     const QRect groove =
-        style->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderGroove, q_ptr);
+        q_ptr->style()->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderGroove, q_ptr);
     const QPoint middle = groove.center();
 
     QRect box;
@@ -257,6 +260,9 @@ void RangeSliderPrivate::drawGroove(QStylePainter *painter, QStyleOptionSlider *
     painter->drawComplexControl(QStyle::CC_Slider, *option);
     option->upsideDown = upsideDown;
 
+    for (Handle handle : {MinimumHandle, MaximumHandle, MainHandle})
+        shownRects[handle] = handleRect(handle, option);
+    shown = positions;
     QColor fill(Nocturne::ThemePaint::accentBlue);
     fill.setAlpha(option->state & QStyle::State_MouseOver ? hoveredBarAlpha : barAlpha);
     bar.drawStretched(painter, barRect(option), q_ptr->orientation(), {fill.rgba()},

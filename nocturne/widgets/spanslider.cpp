@@ -3,6 +3,7 @@
 #include "gestureend_p.h"
 #include "groovemapping_p.h"
 #include "handleaccessible_p.h"
+#include "handlemove_p.h"
 #include <nocturne/painting/paintsample_p.h>
 
 #include <QtCore/QDebug>
@@ -84,6 +85,7 @@ void SpanSlider::setSpan(int lower, int upper)
     const int upp = qBound(minimum(), qMax(lower, upper), maximum());
     if (low == m_lower && upp == m_upper)
         return;
+    const QPair<int, int> before(m_lower, m_upper);
 
     if (low != m_lower) {
         m_lower = low;
@@ -98,7 +100,10 @@ void SpanSlider::setSpan(int lower, int upper)
         Q_EMIT upperValueChanged(upp);
     }
     Q_EMIT spanChanged(m_lower, m_upper);
-    update();
+    if (low != before.first)
+        updateHandle(LowerHandle);
+    if (upp != before.second)
+        updateHandle(UpperHandle);
 }
 
 void SpanSlider::setLowerPosition(int lower)
@@ -107,7 +112,7 @@ void SpanSlider::setLowerPosition(int lower)
         return;
     m_lowerPosition = lower;
     if (!hasTracking())
-        update();
+        updateHandle(LowerHandle);
     if (isSliderDown())
         Q_EMIT lowerPositionChanged(lower);
     if (hasTracking() && !m_blockTracking)
@@ -120,7 +125,7 @@ void SpanSlider::setUpperPosition(int upper)
         return;
     m_upperPosition = upper;
     if (!hasTracking())
-        update();
+        updateHandle(UpperHandle);
     if (isSliderDown())
         Q_EMIT upperPositionChanged(upper);
     if (hasTracking() && !m_blockTracking)
@@ -225,6 +230,7 @@ void SpanSlider::swapControls()
     std::swap(m_lowerPressed, m_upperPressed);
     m_lastPressed = other(m_lastPressed);
     m_mainControl = other(m_mainControl);
+    update();
 }
 
 int SpanSlider::pick(const QPoint &point) const
@@ -422,17 +428,26 @@ void SpanSlider::paintEvent(QPaintEvent *)
     paintHandle(&painter, &option, lowerOnTop ? LowerHandle : UpperHandle);
 }
 
-/// From one handle's centre to the other's, four units thick.
-QRect SpanSlider::spanRect(QStyleOptionSlider *option) const
+void SpanSlider::updateHandle(SpanHandle handle)
 {
-    const auto centreAt = [&](int position) {
+    QStyleOptionSlider option;
+    initStyleOption(&option, handle);
+    const QRect now =
+        style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
+    Nocturne::repaintMove(this, handle == LowerHandle ? m_shownLower : m_shownUpper, now);
+}
+
+/// From one handle's centre to the other's, four units thick. Also notes where the handles are.
+QRect SpanSlider::spanRect(QStyleOptionSlider *option)
+{
+    const auto rectAt = [&](int position) {
         option->sliderPosition = position;
-        return style()
-            ->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderHandle, this)
-            .center();
+        return style()->subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderHandle, this);
     };
-    const QPoint lower = centreAt(m_lowerPosition);
-    const QPoint upper = centreAt(m_upperPosition);
+    m_shownLower = rectAt(m_lowerPosition);
+    m_shownUpper = rectAt(m_upperPosition);
+    const QPoint lower = m_shownLower.center();
+    const QPoint upper = m_shownUpper.center();
     const QPoint middle = QRect(lower, upper).center();
     const int from = qMin(pick(lower), pick(upper));
     const int to = qMax(pick(lower), pick(upper));

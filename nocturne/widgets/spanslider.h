@@ -12,7 +12,7 @@ class QStylePainter;
 namespace Nocturne {
 class Gesture;
 class PaintSample;
-}
+} // namespace Nocturne
 
 /// A slider with two handles, lower and upper, that select a span inside the slider's range. Both
 /// can be dragged and moved by keys, and the groove between them is filled.
@@ -150,7 +150,8 @@ private:
     void moveUpperHandle(int target, int lowerBound);
     int valueUnderDrag(const QPoint &point) const;
     void placeHandle(QStyleOptionSlider *option, SpanHandle handle) const;
-    QRect spanRect(QStyleOptionSlider *option) const;
+    void updateHandle(SpanHandle handle);
+    QRect spanRect(QStyleOptionSlider *option);
     void paintSpan(QStylePainter *painter, const QStyleOptionSlider &option,
                    const QRect &rect) const;
     void paintHandle(QStylePainter *painter, QStyleOptionSlider *option, SpanHandle handle) const;
@@ -167,6 +168,8 @@ private:
     QStyle::SubControl m_lowerPressed = QStyle::SC_None;
     QStyle::SubControl m_upperPressed = QStyle::SC_None;
     HandleMovementMode m_movement = FreeMovement;
+    QRect m_shownLower; ///< where the handles were painted last
+    QRect m_shownUpper;
     bool m_firstMovement = false;
     bool m_blockTracking = false;
     QScopedPointer<Nocturne::Gesture> m_gesture;

@@ -3,6 +3,8 @@
 
 #include "testsupport.h"
 
+#include <nocturne/DarkFusionStyle>
+
 #include <QtGui/QMouseEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QWheelEvent>
@@ -252,6 +254,30 @@ public:
     QRect handleAt(int position) const { return rectOf(QStyle::SC_SliderHandle, position); }
     /// The middle of a handle at that position.
     QPoint place(int position) const override { return handleAt(position).center(); }
+
+    /// Whether the screen shows after each script what a fresh painting would. In several styles,
+    /// with and without tracking.
+    bool leavesNoTraces(std::initializer_list<const char *> scripts)
+    {
+        const std::unique_ptr<QStyle> dark(new DarkFusionStyle);
+        const std::unique_ptr<QStyle> fusion(QStyleFactory::create("fusion"));
+        const std::unique_ptr<QStyle> windows(QStyleFactory::create("windows"));
+        for (QStyle *style : {dark.get(), fusion.get(), windows.get()}) {
+            this->setStyle(style);
+            for (bool tracking : {true, false}) {
+                this->setTracking(tracking);
+                showExposed(this);
+                for (const char *script : scripts) {
+                    onScreen(*this);
+                    this->run(script);
+                    if (onScreen(*this) != freshlyPainted(*this))
+                        return false;
+                }
+            }
+        }
+        this->setStyle(nullptr);
+        return true;
+    }
 
     /// Whether the slider paints what \a paint does, pixel by pixel.
     template <typename Paint>

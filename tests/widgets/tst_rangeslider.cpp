@@ -81,6 +81,18 @@ private Q_SLOTS:
     void initTestCase() { QApplication::setStyle(QStyleFactory::create("fusion")); }
     void cleanup() { QVERIFY(TestSupport::nothingIsHeld()); }
 
+    void movesLeaveNoTraces()
+    {
+        for (Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+            QVERIFY(TestRange(orientation)
+                        .leavesNoTraces({"press 20, move 21", "move 60",
+                                         "release 60, press 80, move 90, move 70",
+                                         "release 70, press 50, move 95", "move 5, release 5",
+                                         "all 30", "all 31"}));
+            QVERIFY(TestRange(orientation, false).leavesNoTraces({"press 50, move 52", "move 0"}));
+        }
+    }
+
     void setters()
     {
         const RangeSlider fresh(nullptr);

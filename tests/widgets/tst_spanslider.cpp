@@ -46,6 +46,18 @@ private Q_SLOTS:
     void initTestCase() { QApplication::setStyle(QStyleFactory::create("fusion")); }
     void cleanup() { QVERIFY(TestSupport::nothingIsHeld()); }
 
+    void movesLeaveNoTraces()
+    {
+        for (Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+            for (auto mode : {SpanSlider::FreeMovement, SpanSlider::NoCrossing}) {
+                QVERIFY(TestSpan(orientation, mode)
+                            .leavesNoTraces({"press 20, move 21", "move 50", "move 90",
+                                             "move 10, release 10", "press 99, move 80",
+                                             "release 80"}));
+            }
+        }
+    }
+
     void setters()
     {
         TestSpan slider;
