@@ -4,6 +4,7 @@
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSet>
+#include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryDir>
 
 namespace {
@@ -191,6 +192,30 @@ private Q_SLOTS:
             QVERIFY2(!header.endsWith("_p.h"), qPrintable(header));
         QVERIFY(headers.contains(m_prefix.path() + "/include/nocturne/DarkUX"));
         QVERIFY(headers.contains(m_prefix.path() + "/include/nocturne/theme/darkux.h"));
+    }
+
+    /// Each by itself, and for one compiler and one standard, they are compiled in the build.
+    void headersSuitEveryCompiler()
+    {
+        QFile host(m_prefix.filePath("headers.cpp"));
+        QVERIFY(host.open(QIODevice::WriteOnly));
+        for (const QString &header : filesBelow(m_prefix.path() + "/include", {"*"}))
+            host.write("#include \"" + header.toLocal8Bit() + "\"\n");
+        host.close();
+        const Outcome qt =
+            run("pkg-config", {"--cflags", QString("Qt%1Widgets").arg(QT_VERSION_MAJOR)});
+        const QStringList flags =
+            QString(qt.output.simplified()).replace("-I", "-isystem").split(' ')
+            + QString("-fPIC -fsyntax-only -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror "
+                      "-DQT_NO_KEYWORDS -std=c++20")
+                  .split(' ')
+            + QStringList{"-I" + m_prefix.path() + "/include", host.fileName()};
+        VERIFY_RUNS(configured("CMAKE_CXX_COMPILER"), flags);
+        if (!QStandardPaths::findExecutable("clang++").isEmpty()) {
+            VERIFY_RUNS("clang++", flags);
+            VERIFY_RUNS("clang++", flags + QStringList("-std=c++17"));
+        }
+        QVERIFY(host.remove());
     }
 
     void cmakeFindsIt()
