@@ -121,14 +121,14 @@ void RangeSlider::setValues(int min, int max, int main)
         Q_EMIT positionsChanged(now[0], now[1], now[2]);
         for (int handle = 0; handle < handleCount; ++handle) {
             if (now[handle] != oldPositions[handle])
-                Q_EMIT(this->*positionSignals[handle])(now[handle]);
+                emitChange(positionSignals[handle], now[handle]);
         }
     }
     for (int handle = 0; handle < handleCount; ++handle) {
         if (now[handle] == oldValues[handle])
             continue;
         Nocturne::HandleAccessibility::valueChanged(this, handle, now[handle]);
-        Q_EMIT(this->*valueSignals[handle])(now[handle]);
+        emitChange(valueSignals[handle], now[handle]);
     }
 
     if (now != oldPositions || now != oldValues)
@@ -165,7 +165,7 @@ void RangeSlider::setPositions(int min, int max, int main)
     if (isSliderDown()) {
         for (int handle = 0; handle < handleCount; ++handle) {
             if (now[handle] != old[handle])
-                Q_EMIT(this->*positionSignals[handle])(now[handle]);
+                emitChange(positionSignals[handle], now[handle]);
         }
         Q_EMIT positionsChanged(now[0], now[1], now[2]);
     }
@@ -174,6 +174,11 @@ void RangeSlider::setPositions(int min, int max, int main)
         triggerAction(SliderMove);
         setValues(d->positions[0], d->positions[1], d->positions[2]);
     }
+}
+
+void RangeSlider::emitChange(void (RangeSlider::*signal)(int), int number)
+{
+    Q_EMIT(this->*signal)(number);
 }
 
 void RangeSlider::updateHandles()
@@ -371,7 +376,8 @@ void RangeSlider::paintEvent(QPaintEvent *)
         if (!d->isHandleEnabled(handle))
             return;
         QStyleOptionSlider option;
-        (this->*inits[handle])(&option);
+        const Init init = inits[handle];
+        (this->*init)(&option);
         d->drawHandle(handle, &painter, &option);
     };
     // The handle that is dragged lies on top.

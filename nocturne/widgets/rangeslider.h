@@ -181,6 +181,7 @@ private:
     friend class Nocturne::RangeHandles;
 
     void initialize();
+    void emitChange(void (RangeSlider::*signal)(int), int number);
     void updateHandles();
 
     QScopedPointer<RangeSliderPrivate> m_private;
