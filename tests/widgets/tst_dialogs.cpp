@@ -1,0 +1,387 @@
+#include "modaldialog.h"
+#include "probes.h"
+
+#include <nocturne/ComboBox>
+#include <nocturne/ComboFileChooser>
+#include <nocturne/FileChooser>
+#include <nocturne/QBalloonTip>
+#include <nocturne/QMessageBoxEx>
+
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QBitmap>
+#include <QtGui/QScreen>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QToolButton>
+
+// What opens a window of its own: message boxes, file choosers and balloons.
+
+namespace {
+
+QString textOf(QMessageBox *box, QMessageBox::StandardButton button)
+{
+    return box->button(button)->text();
+}
+
+class OwnBox : public QMessageBoxEx
+{
+public:
+    using QMessageBoxEx::setCustomTextForButtons;
+};
+
+/// Types \a path into the dialog and confirms it as a user does, or presses Escape.
+void answer(QFileDialog *dialog, const QString &path = {})
+{
+    if (path.isEmpty()) {
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        return;
+    }
+    auto *edit = dialog->findChild<QLineEdit *>("fileNameEdit");
+    edit->setText(path);
+    QTest::keyClick(edit, Qt::Key_Return);
+}
+
+void click(QWidget &chooser)
+{
+    QTest::mouseClick(chooser.findChild<QAbstractButton *>(), Qt::LeftButton);
+}
+
+void openAndAnswer(QWidget &chooser, const QString &path = {})
+{
+    whenOpen<QFileDialog>([path](QFileDialog *dialog) { answer(dialog, path); });
+    click(chooser);
+}
+
+/// All balloons, and the one that is seen.
+QVector<QBalloonTip *> balloons()
+{
+    QVector<QBalloonTip *> found;
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (auto *balloon = qobject_cast<QBalloonTip *>(window))
+            found << balloon;
+    }
+    return found;
+}
+
+QBalloonTip *currentBalloon()
+{
+    for (QBalloonTip *balloon : balloons()) {
+        if (balloon->isVisible())
+            return balloon;
+    }
+    return nullptr;
+}
+
+QBalloonTip *show(const QPoint &position, int timeout = 0, bool arrow = true,
+                  QSystemTrayIcon *trayIcon = nullptr)
+{
+    QBalloonTip::showBalloon(QSystemTrayIcon::Warning, "Title", "A message", trayIcon, position,
+                             timeout, arrow);
+    return currentBalloon();
+}
+
+} // namespace
+
+class TestDialogs : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        for (const QString &path : {m_clip, m_still})
+            QVERIFY(QFile(path).open(QIODevice::WriteOnly));
+    }
+
+    void cleanup()
+    {
+        QBalloonTip::hideBalloon();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(balloons().isEmpty());
+    }
+
+    // The recorded texts cannot be removed, so they come last.
+    void messageBoxes()
+    {
+        using Box = QMessageBoxEx;
+        const auto onOpen = [](QMessageBox::Icon icon) {
+            whenOpen<QMessageBox>([icon](QMessageBox *box) {
+                QCOMPARE(box->icon(), icon);
+                QCOMPARE(box->windowTitle() + box->text(), QString("title?"));
+                QCOMPARE(box->standardButtons(), Box::Retry | Box::Cancel);
+                QTest::keyClick(box, Qt::Key_Return);
+            });
+        };
+        using Open = Box::StandardButton (*)(QWidget *, const QString &, const QString &,
+                                             Box::StandardButtons, Box::StandardButton);
+        const QVector<QPair<Box::Icon, Open>> functions = {{Box::Information, &Box::information},
+                                                           {Box::Question, &Box::question},
+                                                           {Box::Warning, &Box::warning},
+                                                           {Box::Critical, &Box::critical}};
+        for (const auto &function : functions) {
+            for (auto button : {Box::Retry, Box::Cancel}) {
+                onOpen(function.first);
+                QCOMPARE(function.second(nullptr, "title", "?", Box::Retry | Box::Cancel, button),
+                         button);
+            }
+        }
+        whenOpen<QMessageBox>([](QMessageBox *box) { QTest::keyClick(box, Qt::Key_Escape); });
+        QCOMPARE(Box::question(nullptr, {}, {}, Box::Yes | Box::Cancel), Box::Cancel);
+        whenOpen<QMessageBox>([](QMessageBox *box) { box->close(); });
+        QCOMPARE(Box::warning(nullptr, {}, {}), Box::Ok);
+        auto *parent = new QWidget;
+        whenOpen<QMessageBox>([parent](QMessageBox *) { delete parent; });
+        QCOMPARE(Box::critical(parent, {}, {}), Box::NoButton);
+
+        Box::setCustomTextForButton(Box::Yes, "Go");
+        Box::setCustomTextForButton(Box::Cancel, "Stay");
+        QMessageBox plain(Box::Question, {}, {}, Box::Yes | Box::No);
+        whenOpen<QMessageBox>([&plain](QMessageBox *box) {
+            QCOMPARE(textOf(box, Box::Yes), QString("Go"));
+            QCOMPARE(textOf(box, Box::No), textOf(&plain, Box::No));
+            QVERIFY(!box->button(Box::Cancel));
+            QTest::mouseClick(box->button(Box::Yes), Qt::LeftButton);
+        });
+        QCOMPARE(Box::question(nullptr, {}, {}), Box::Yes);
+        Box::setCustomTextForButton(Box::Yes, "Go on");
+        Box::setCustomTextForButton(Box::Ok, {});
+        OwnBox own;
+        own.setStandardButtons(Box::Yes | Box::Ok);
+        QCOMPARE(textOf(&own, Box::Yes), textOf(&plain, Box::Yes));
+        OwnBox::setCustomTextForButtons(own);
+        QCOMPARE(textOf(&own, Box::Yes) + textOf(&own, Box::Ok), QString("Go on"));
+    }
+
+    void fileChooserReports()
+    {
+        FileChooser chooser;
+        QStringList heard;
+        connect(&chooser, &FileChooser::fileNameChanged, this,
+                [&heard](const QString &name) { heard << name; });
+        auto *edit = chooser.findChild<QLineEdit *>();
+        QCOMPARE(chooser.focusProxy(), edit);
+        QTest::keyClicks(edit, "ab");
+        chooser.setFileName("ab");
+        chooser.setFileName(m_still);
+        QCOMPARE(std::exchange(heard, {}), QStringList({"a", "ab", m_still}));
+
+        whenOpen<QFileDialog>([this](QFileDialog *dialog) {
+            QCOMPARE(dialog->windowTitle(), m_still);
+            QCOMPARE(dialog->directory().absolutePath(), m_dir.path());
+            QCOMPARE(dialog->fileMode(), QFileDialog::ExistingFile);
+            answer(dialog);
+        });
+        click(chooser);
+        QCOMPARE(heard, QStringList());
+        openAndAnswer(chooser, m_clip); // reported by the field and by the choice
+        openAndAnswer(chooser, m_clip);
+        openAndAnswer(chooser);
+        QCOMPARE(heard, QStringList({m_clip, m_clip, m_clip}));
+        QCOMPARE(chooser.fileName(), m_clip);
+    }
+
+    void directoriesOnly()
+    {
+        FileChooser chooser;
+        chooser.setMode(FileChooser::OpenDirectory);
+        ComboFileChooser combo;
+        combo.setMode(ComboFileChooser::OpenDirectory);
+        for (QWidget *widget : QVector<QWidget *>{&chooser, &combo}) {
+            whenOpen<QFileDialog>([this](QFileDialog *dialog) {
+                QVERIFY(dialog->testOption(QFileDialog::ShowDirsOnly));
+                answer(dialog, m_dir.path());
+            });
+            click(*widget);
+        }
+        QCOMPARE(chooser.fileName(), m_dir.path());
+        QCOMPARE(combo.fileName(), m_dir.path());
+    }
+
+    void filters()
+    {
+        const auto extensionsOf = [this](QWidget &chooser) {
+            QString filter;
+            whenOpen<QFileDialog>([&](QFileDialog *dialog) {
+                filter = dialog->nameFilters().first().section('(', 1).section(')', 0, 0);
+                QCOMPARE(dialog->directory().absolutePath(), m_dir.path());
+            });
+            click(chooser);
+            return filter;
+        };
+        ComboFileChooser combo;
+        combo.setLastSelectedDir(m_dir.path());
+        QStringList filters;
+        for (int types : {2, 4, 1, 0}) {
+            combo.setOpenFileType(QFlags<OpenFileType>(types));
+            filters << extensionsOf(combo);
+        }
+        QVERIFY(filters.at(0).startsWith("*.avi *.wmv ") && filters.at(0).endsWith(" *.amv"));
+        QCOMPARE(filters.at(0).count("*."), 53);
+        QVERIFY(filters.at(1).startsWith("*.wav ") && filters.at(1).endsWith(" *.tak"));
+        QCOMPARE(filters.at(1).count("*."), 19);
+        QCOMPARE(filters.at(2), QString("*.bmp *.jpg *.png *.tga *.svg *.tiff"));
+        QCOMPARE(filters.at(3), QString("*."));
+        FileChooser chooser;
+        chooser.setFileName(m_still);
+        QCOMPARE(extensionsOf(chooser), QStringList(filters.mid(0, 3)).join(' '));
+    }
+
+    void comboKeepsOnlyTheChosenPath()
+    {
+        ComboFileChooser chooser;
+        auto *combo = chooser.findChild<ComboBox *>();
+        QCOMPARE(chooser.focusProxy(), combo);
+        chooser.addItem("a");
+        chooser.addItems({"b", "c"});
+        chooser.setFileName("b");
+        QCOMPARE(chooser.fileName(), QString("b"));
+        QStringList heard;
+        connect(&chooser, &ComboFileChooser::beforFileOpen, this, [&heard] {
+            QVERIFY(!QApplication::activeModalWidget());
+            heard << "before";
+        });
+        connect(&chooser, &ComboFileChooser::fileNameChanged, this,
+                [&heard](const QString &name) { heard << name; });
+        openAndAnswer(chooser);
+        QCOMPARE(combo->count(), 3);
+        openAndAnswer(chooser, m_clip);
+        QCOMPARE(heard, QStringList({"before", "before", m_clip}));
+        QCOMPARE(combo->count(), 1);
+        chooser.clear();
+        QCOMPARE(chooser.fileName(), QString());
+
+        auto *doomed = new FileChooser;
+        whenOpen<QFileDialog>([doomed](QFileDialog *) { delete doomed; });
+        QMetaObject::invokeMethod(doomed, "chooseFile");
+    }
+
+    void balloonPlacement_data()
+    {
+        QTest::addColumn<bool>("top");
+        QTest::addColumn<bool>("left");
+        QTest::addColumn<bool>("arrow");
+        for (int i = 0; i < 8; ++i)
+            QTest::addRow("%d", i) << bool(i & 1) << bool(i & 2) << bool(i & 4);
+    }
+
+    void balloonPlacement()
+    {
+        QFETCH(bool, top);
+        QFETCH(bool, left);
+        QFETCH(bool, arrow);
+        const QRect screen = QGuiApplication::primaryScreen()->geometry();
+        const QPoint position(left ? 60 : screen.right() - 60, top ? 60 : screen.bottom() - 60);
+        QBalloonTip *balloon = show(position, 0, arrow);
+        QVERIFY(balloon);
+        const QSize size = balloon->sizeHint();
+        QCOMPARE(balloon->size(), size);
+        QCOMPARE(balloon->contentsMargins(), top ? QMargins(4, 21, 4, 3) : QMargins(4, 3, 4, 21));
+        QCOMPARE(balloon->pos(),
+                 position - QPoint(left ? 18 : size.width() - 18, top ? 0 : size.height()));
+
+        // What is painted is what the mask keeps: paper inside, a darker line around it.
+        QImage image(size, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        balloon->render(&image, balloon->mask().boundingRect().topLeft(), QRegion(),
+                        QWidget::DrawChildren);
+        for (int y = 0; y < size.height(); ++y) {
+            for (int x = 0; x < size.width(); ++x)
+                QCOMPARE(image.pixelColor(x, y).alpha(),
+                         balloon->mask().contains(QPoint(x, y)) ? 255 : 0);
+        }
+        const int right = size.width() - 1;
+        const int bodyTop = top ? 18 : 0;
+        const int bodyBottom = bodyTop + size.height() - 19;
+        const int middle = (bodyTop + bodyBottom) / 2;
+        const QColor line = QColor(255, 255, 225).darker(160);
+        TestSupport::comparePixels(
+            image, Qt::transparent,
+            {{0, bodyTop}, {right, bodyBottom}, {right / 2, top ? 10 : size.height() - 10}});
+        TestSupport::comparePixels(image, line,
+                                   {{right / 2, bodyTop}, {right / 2, bodyBottom}, {0, middle}});
+        COMPARE_PIXEL(image, 2, middle, QColor(255, 255, 225));
+        const QPoint inArrow(left ? 20 : right - 20, top ? 10 : size.height() - 10);
+        QCOMPARE(balloon->mask().contains(inArrow), arrow);
+    }
+
+    void balloonsStayOnTheScreen()
+    {
+        const QRect screen = QGuiApplication::primaryScreen()->geometry();
+        QCOMPARE(show(QPoint(screen.left() + 1, 100))->x(), screen.left() + 2);
+        const QBalloonTip *atTheEnd = show(QPoint(screen.right() - 1, 100));
+        QCOMPARE(atTheEnd->x(), screen.right() - atTheEnd->width() - 2);
+    }
+
+    void balloonContents()
+    {
+        QBalloonTip::showBalloon(QSystemTrayIcon::NoIcon, "<b>t</b>",
+                                 QString(400, 'm').replace(100, 1, ' '), nullptr, QPoint(100, 100),
+                                 0, true);
+        auto labels = currentBalloon()->findChildren<QLabel *>();
+        QCOMPARE(labels.size(), 2);
+        QVERIFY(labels.at(0)->font().bold());
+        QCOMPARE(labels.at(0)->textFormat(), Qt::PlainText);
+        QCOMPARE(labels.at(1)->width(),
+                 QGuiApplication::primaryScreen()->availableGeometry().width() / 3);
+        labels = show(QPoint(100, 100))->findChildren<QLabel *>();
+        QCOMPARE(labels.size(), 3);
+        QVERIFY(!labels.last()->wordWrap());
+        QCOMPARE(balloons().size(), 1);
+        // Nothing to say only removes.
+        QBalloonTip::showBalloon(QSystemTrayIcon::Critical, {}, {}, nullptr, {}, 0);
+        QVERIFY(!QBalloonTip::isBalloonVisible());
+    }
+
+    void balloonClicks()
+    {
+        auto trayIcon = std::make_unique<QSystemTrayIcon>();
+        QSignalSpy clicked(trayIcon.get(), &QSystemTrayIcon::messageClicked);
+        const auto clicksOf = [&](Qt::MouseButton button, bool onClose = false) {
+            clicked.clear();
+            QWidget *balloon = show(QPoint(200, 200), 0, true, trayIcon.get());
+            QTest::mouseClick(onClose ? balloon->findChild<QPushButton *>() : balloon, button);
+            return clicked.count();
+        };
+        QCOMPARE(clicksOf(Qt::RightButton), 0);
+        QVERIFY(!QBalloonTip::isBalloonVisible());
+        QCOMPARE(clicksOf(Qt::LeftButton, true), 0);
+        QCOMPARE(clicksOf(Qt::LeftButton), 1);
+        QVERIFY(!QBalloonTip::isBalloonVisible());
+
+        // Whoever hears the click may show the next.
+        connect(trayIcon.get(), &QSystemTrayIcon::messageClicked, this,
+                [] { show(QPoint(300, 300)); });
+        QCOMPARE(clicksOf(Qt::LeftButton), 1);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(balloons(), QVector<QBalloonTip *>{currentBalloon()});
+        show(QPoint(200, 200), 0, true, trayIcon.get());
+        trayIcon.reset();
+        QVERIFY(!QBalloonTip::isBalloonVisible());
+    }
+
+    void balloonTimeouts()
+    {
+        QCursor::setPos(0, 0);
+        show(QPoint(200, 200), 30);
+        QBalloonTip::updateBalloonPosition(QPoint(300, 300));
+        QCOMPARE(currentBalloon()->pos(), QPoint(282, 300));
+        QTRY_VERIFY(!QBalloonTip::isBalloonVisible());
+        show(QPoint(200, 200), 30)->setAttribute(Qt::WA_UnderMouse);
+        QTest::qWait(100);
+        QVERIFY(QBalloonTip::isBalloonVisible());
+        show(QPoint(200, 200), 0);
+        QTest::qWait(50);
+        QVERIFY(QBalloonTip::isBalloonVisible());
+    }
+
+private:
+    const QTemporaryDir m_dir;
+    const QString m_clip = m_dir.filePath("clip.mp4");
+    const QString m_still = m_dir.filePath("still.png");
+};
+
+NOCTURNE_TEST_MAIN(TestDialogs)
+
+#include "tst_dialogs.moc"
