@@ -18,6 +18,8 @@
 class NOCTURNE_EXPORT ColorBar : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QColor color MEMBER m_color WRITE setColor)
+    Q_PROPERTY(bool elipse MEMBER m_elipse WRITE setElipse)
 
 public:
     /// Starts out as a transparent bar.

@@ -19,6 +19,7 @@
 class NOCTURNE_EXPORT ColorButton : public QAbstractButton
 {
     Q_OBJECT
+    Q_PROPERTY(bool realtimeChange MEMBER m_realtimeChange WRITE setRealtimeChange)
     Q_PROPERTY(QColor color READ color WRITE setColor)
 
 public:

@@ -21,6 +21,10 @@ class ComboBox;
 class NOCTURNE_EXPORT ComboFileChooser : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(
+        QString fileName READ fileName WRITE setFileName NOTIFY fileNameChanged DESIGNABLE false)
+    Q_PROPERTY(Mode mode READ mode WRITE setMode)
+    Q_PROPERTY(QString lastSelectedDir MEMBER m_lastSelectedDir WRITE setLastSelectedDir)
 
 public:
     enum Mode {

@@ -21,6 +21,9 @@ class QLineEdit;
 class NOCTURNE_EXPORT CroppingLabel : public QLabel
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ fullText WRITE setText)
+    Q_PROPERTY(bool editable MEMBER m_editable WRITE setEditable)
+    Q_PROPERTY(Qt::TextElideMode elideMode MEMBER m_elideMode WRITE setElideMode)
 
 public:
     explicit CroppingLabel(QWidget *parent = nullptr);

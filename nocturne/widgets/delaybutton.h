@@ -18,6 +18,7 @@
 class NOCTURNE_EXPORT DelayButton : public QPushButton
 {
     Q_OBJECT
+    Q_PROPERTY(int delay MEMBER m_delay WRITE setDelay)
 
 public:
     /// With a delay of 500 milliseconds.

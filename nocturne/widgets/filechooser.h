@@ -16,6 +16,8 @@ class QLineEdit;
 class NOCTURNE_EXPORT FileChooser : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString fileName READ fileName WRITE setFileName NOTIFY fileNameChanged)
+    Q_PROPERTY(Mode mode READ mode WRITE setMode)
 
 public:
     enum Mode {

@@ -45,6 +45,9 @@ class StopInterface;
 class NOCTURNE_EXPORT GradientTool : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int activeSlider READ getActiveSlider WRITE setActiveSlider)
+    Q_PROPERTY(QColor initColor MEMBER m_initColor WRITE setInitColor)
+    Q_PROPERTY(bool slideUpdate MEMBER m_slideUpdate WRITE setSlideUpdate)
 
 public:
     /// Starts out with white at 0.0, which is active, and black at 1.0.

@@ -24,6 +24,10 @@ class QKeyEvent;
 class NOCTURNE_EXPORT KeySequenceEdit : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QKeySequence keySequence READ keySequence WRITE setKeySequence RESET clearKeySequence
+                   NOTIFY keySequenceChanged)
+    Q_PROPERTY(QKeySequence oldKeySequence READ oldKeySequence WRITE setOldKeySequence)
+    Q_PROPERTY(QKeySequence defaultKeySequence MEMBER m_defaultSequence WRITE setDefaultKeySequence)
 
 public:
     explicit KeySequenceEdit(QWidget *parent = nullptr);

@@ -23,6 +23,10 @@
 class NOCTURNE_EXPORT LetterBoxWidget : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(int margin READ margin WRITE setMargin)
+    Q_PROPERTY(uint resizeDelay READ resizeDelay WRITE setResizeDelay)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor RESET
+                   enableBackground)
 
 public:
     /// Starts out empty, with a margin of 1, no delay and the default background.
@@ -32,7 +36,7 @@ public:
     /// Holds \a w as a child, which it owns from now on; null holds nothing. A widget held before
     /// is deleted once control returns to the event loop. As with any new child, show \a w when
     /// the container is visible already.
-    void setWidget(QWidget *w);
+    Q_INVOKABLE void setWidget(QWidget *w);
 
     /// The held widget; null when there is none, or when somebody else has deleted it or given it
     /// another parent.

@@ -30,6 +30,7 @@ class IListItem;
 class NOCTURNE_EXPORT ListWidget : public QListWidget
 {
     Q_OBJECT
+    Q_PROPERTY(bool shadow MEMBER m_shadow WRITE shadow)
 
 public:
     explicit ListWidget(QWidget *parent = nullptr);

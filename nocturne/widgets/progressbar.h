@@ -19,6 +19,7 @@
 class NOCTURNE_EXPORT ProgressBar : public QProgressBar
 {
     Q_OBJECT
+    Q_PROPERTY(bool fullSize MEMBER m_fullSize WRITE setFullSize)
 
 public:
     explicit ProgressBar(QWidget *parent = nullptr);

@@ -243,6 +243,11 @@ void RangeSlider::setEnableRange(bool enable)
     update();
 }
 
+bool RangeSlider::isRangeEnabled() const
+{
+    return m_private->rangeEnabled;
+}
+
 double RangeSlider::frameRate() const
 {
     return m_private->frameRate;

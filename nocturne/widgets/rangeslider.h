@@ -40,6 +40,19 @@ class RangeHandles;
 class NOCTURNE_EXPORT RangeSlider : public QSlider
 {
     Q_OBJECT
+    Q_PROPERTY(int minimumValue READ minimumValue WRITE setMinimumValue NOTIFY minimumValueChanged)
+    Q_PROPERTY(int maximumValue READ maximumValue WRITE setMaximumValue NOTIFY maximumValueChanged)
+    Q_PROPERTY(int mainValue READ mainValue WRITE setMainValue NOTIFY mainValueChanged)
+    Q_PROPERTY(int minimumPosition READ minimumPosition WRITE setMinimumPosition NOTIFY
+                   minimumPositionChanged DESIGNABLE false STORED false)
+    Q_PROPERTY(int maximumPosition READ maximumPosition WRITE setMaximumPosition NOTIFY
+                   maximumPositionChanged DESIGNABLE false STORED false)
+    Q_PROPERTY(int mainPosition READ mainPosition WRITE setMainPosition NOTIFY mainPositionChanged
+                   DESIGNABLE false STORED false)
+    Q_PROPERTY(bool enableRange READ isRangeEnabled WRITE setEnableRange)
+    Q_PROPERTY(bool symmetricMoves READ symmetricMoves WRITE setSymmetricMoves)
+    Q_PROPERTY(QString handleToolTip READ handleToolTip WRITE setHandleToolTip)
+    Q_PROPERTY(double frameRate READ frameRate WRITE setFrameRate)
 
 public:
     /// The range handles start at the ends of the slider's range, the main handle at 50.
@@ -183,6 +196,7 @@ private:
     void initialize();
     void emitChange(void (RangeSlider::*signal)(int), int number);
     void updateHandles();
+    bool isRangeEnabled() const;
 
     QScopedPointer<RangeSliderPrivate> m_private;
 };

@@ -32,6 +32,15 @@ class RingInterface;
 class NOCTURNE_EXPORT RoundProgressBar : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(double minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(double maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(double value READ value WRITE setValue DESIGNABLE false) // needs a visible widget
+    Q_PROPERTY(double nullPosition READ nullPosition WRITE setNullPosition)
+    Q_PROPERTY(BarStyle barStyle READ barStyle WRITE setBarStyle)
+    Q_PROPERTY(double outlinePenWidth READ outlinePenWidth WRITE setOutlinePenWidth)
+    Q_PROPERTY(double dataPenWidth READ dataPenWidth WRITE setDataPenWidth)
+    Q_PROPERTY(QString format READ format WRITE setFormat)
+    Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
 
 public:
     enum BarStyle {

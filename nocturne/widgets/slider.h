@@ -30,6 +30,8 @@ class Gesture;
 class NOCTURNE_EXPORT Slider : public QSlider
 {
     Q_OBJECT
+    Q_PROPERTY(bool directJump MEMBER m_directJump WRITE setEnableDirectJump)
+    Q_PROPERTY(Qt::MouseButtons jumpButtons READ jumpButtons WRITE setJumpButtons)
 
 public:
     explicit Slider(QWidget *parent = nullptr);

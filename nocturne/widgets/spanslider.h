@@ -39,6 +39,15 @@ class PaintSample;
 class NOCTURNE_EXPORT SpanSlider : public QSlider
 {
     Q_OBJECT
+    // The upper one first, as a form sets them in this order.
+    Q_PROPERTY(int upperValue READ upperValue WRITE setUpperValue NOTIFY upperValueChanged)
+    Q_PROPERTY(int lowerValue READ lowerValue WRITE setLowerValue NOTIFY lowerValueChanged)
+    Q_PROPERTY(int lowerPosition READ lowerPosition WRITE setLowerPosition NOTIFY
+                   lowerPositionChanged DESIGNABLE false STORED false)
+    Q_PROPERTY(int upperPosition READ upperPosition WRITE setUpperPosition NOTIFY
+                   upperPositionChanged DESIGNABLE false STORED false)
+    Q_PROPERTY(
+        HandleMovementMode handleMovementMode READ handleMovementMode WRITE setHandleMovementMode)
 
 public:
     enum SpanHandle {

@@ -148,7 +148,8 @@ const WidgetKind kinds[] = {
      create<RangeSlider>,
      {260, 32},
      false,
-     "<property name=\"orientation\"><enum>Qt::Horizontal</enum></property>"},
+     "<property name=\"orientation\"><enum>Qt::Horizontal</enum></property><property "
+     "name=\"enableRange\"><bool>true</bool></property>"},
     {"RoundProgressBar", "loop.png", create<RoundProgressBar>, {120, 120}},
     {"SearchLineEdit", "search.png", create<SearchLineEdit>, {160, 26}},
     {"SimpleListWidget", "list.png", create<SimpleListWidget>, {160, 120}},
