@@ -2,6 +2,8 @@
 
 #include "stylehelpers_p.h"
 
+#include <nocturne/painting/kepttext_p.h>
+
 #include <QtWidgets/QStyleOption>
 
 namespace Nocturne::ComplexControls {
@@ -130,7 +132,8 @@ QRect groupBoxRect(const QStyle *style, const QStyleOptionGroupBox *option, QSty
     if (part != QStyle::SC_GroupBoxLabel && part != QStyle::SC_GroupBoxCheckBox)
         return base;
 
-    const QSize textSize = option->fontMetrics.boundingRect(option->text).size() + QSize(2, 2);
+    const QSize textSize =
+        KeptText::boundingRect(option->fontMetrics, option->text).size() + QSize(2, 2);
     const int indicatorWidth =
         style->proxy()->pixelMetric(QStyle::PM_IndicatorWidth, option, widget);
     QRect rect;

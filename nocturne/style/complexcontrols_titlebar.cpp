@@ -1,6 +1,8 @@
 #include "stylecolors_p.h"
 #include "styleelements_p.h"
 
+#include <nocturne/painting/kepttext_p.h>
+
 namespace Nocturne::StylePaint {
 namespace {
 
@@ -67,14 +69,14 @@ void paintTitleBarText(const TitleBar &bar, QPainter *painter)
     const QRect rect = bar.part(QStyle::SC_TitleBarLabel);
     if (bar.option.text.isEmpty() || rect.isEmpty())
         return;
-    const QString text =
-        painter->fontMetrics().elidedText(bar.option.text, Qt::ElideRight, rect.width() - 14);
+    const QString text = KeptText::elided(painter->fontMetrics(), bar.option.text, Qt::ElideRight,
+                                          rect.width() - 14);
     const QColor color = bar.color(QPalette::Text);
     painter->setPen(bar.isActive() ? color.lighter(120) : color);
-    painter->drawText(rect.adjusted(1, 1, 1, 1), Qt::AlignHCenter | Qt::AlignVCenter, text);
+    KeptText::draw(painter, rect.adjusted(1, 1, 1, 1), Qt::AlignHCenter | Qt::AlignVCenter, text);
     if (bar.isActive()) {
         painter->setPen(Qt::white);
-        painter->drawText(rect, Qt::AlignHCenter | Qt::AlignVCenter, text);
+        KeptText::draw(painter, rect, Qt::AlignHCenter | Qt::AlignVCenter, text);
     }
 }
 

@@ -2,6 +2,7 @@
 #include "styleelements_p.h"
 #include "stylehelpers_p.h"
 
+#include <nocturne/painting/kepttext_p.h>
 #include <nocturne/theme/qtversion_p.h>
 
 #include <QtGui/QFontInfo>
@@ -62,7 +63,8 @@ void paintSeparator(const MenuItem &item)
         call.painter->setFont(item.option.font);
         call.drawText(r.adjusted(separatorMargin, 0, -separatorMargin, 0),
                       Qt::AlignLeft | Qt::AlignVCenter, item.option.text, QPalette::Text);
-        textWidth = item.option.fontMetrics.horizontalAdvance(item.option.text) + separatorMargin;
+        textWidth = KeptText::horizontalAdvance(item.option.fontMetrics, item.option.text)
+                    + separatorMargin;
     }
     const int left = r.left() + separatorMargin + (call.isRightToLeft() ? 0 : textWidth);
     const int right = r.right() - separatorMargin - (call.isRightToLeft() ? textWidth : 0);
@@ -165,10 +167,10 @@ void paintShortcut(const MenuItem &item, const QRect &textRect, int flags, const
     {
         const QPen pen = call.painter->pen();
         call.painter->setPen(call.color(QPalette::Light));
-        call.painter->drawText(rect.translated(1, 1), flags, shortcut);
+        KeptText::draw(call.painter, rect.translated(1, 1), flags, shortcut);
         call.painter->setPen(pen);
     }
-    call.painter->drawText(rect, flags, shortcut);
+    KeptText::draw(call.painter, rect, flags, shortcut);
 }
 
 QFont itemFont(const QStyleOptionMenuItem &option)
@@ -200,7 +202,7 @@ void paintText(const MenuItem &item)
         text.truncate(tab);
     }
     call.painter->setFont(itemFont(item.option));
-    call.painter->drawText(item.mirrored(rect), flags, text);
+    KeptText::draw(call.painter, item.mirrored(rect), flags, text);
 }
 
 void paintSubMenuArrow(const MenuItem &item)

@@ -2,10 +2,10 @@
 #include "styleelements_p.h"
 #include "stylehelpers_p.h"
 
+#include <nocturne/painting/kepttext_p.h>
 #include <nocturne/painting/themepaint_p.h>
 #include <nocturne/theme/qtversion_p.h>
 
-#include <QtGui/QTextOption>
 #include <QtWidgets/QWidget>
 
 namespace Nocturne::StylePaint {
@@ -168,8 +168,8 @@ void paintClippedLabel(QPainter *painter, const QStyleOptionProgressBar &option,
     const PainterSaver saver(painter);
     painter->setClipRegion(clip, Qt::IntersectClip);
     painter->setPen(color);
-    painter->drawText(rect, option.text,
-                      QTextOption(Qt::AlignAbsolute | Qt::AlignHCenter | Qt::AlignVCenter));
+    KeptText::drawAligned(painter, rect, Qt::AlignAbsolute | Qt::AlignHCenter | Qt::AlignVCenter,
+                          option.text);
 }
 
 } // namespace

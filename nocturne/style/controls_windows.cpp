@@ -2,6 +2,7 @@
 #include "styleelements_p.h"
 #include "stylehelpers_p.h"
 
+#include <nocturne/painting/kepttext_p.h>
 #include <nocturne/painting/themepaint_p.h>
 
 #include <QtWidgets/QMainWindow>
@@ -177,8 +178,8 @@ void paintDockWidgetTitle(const PaintCall &call)
         call.style->subElementRect(QStyle::SE_DockWidgetTitleBarText, dockWidget, call.widget);
     if (dockWidget->verticalTitleBar)
         title = turnTitle(call, title);
-    const QString text =
-        call.painter->fontMetrics().elidedText(dockWidget->title, Qt::ElideRight, title.width());
+    const QString text = KeptText::elided(call.painter->fontMetrics(), dockWidget->title,
+                                          Qt::ElideRight, title.width());
     call.drawText(title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text,
                   QPalette::WindowText);
 }

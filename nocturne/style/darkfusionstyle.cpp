@@ -2,6 +2,7 @@
 
 #include "darkfusionstyle_p.h"
 
+#include <nocturne/painting/kepttext_p.h>
 #include <nocturne/painting/toolkitexports_p.h>
 
 #include <QtGui/QPainter>
@@ -96,7 +97,7 @@ void DarkFusionStyle::drawItemText(QPainter *painter, const QRect &rect, int ali
     const QPen savedPen = painter->pen();
     if (textRole != QPalette::NoRole)
         painter->setPen(QPen(palette.brush(textRole), savedPen.widthF()));
-    painter->drawText(rect, alignment, text);
+    Nocturne::KeptText::draw(painter, rect, alignment, text);
     painter->setPen(savedPen);
 }
 

@@ -1,5 +1,6 @@
 #include "darkproxystyle.h"
 
+#include <nocturne/painting/kepttext_p.h>
 #include <nocturne/painting/painterguards_p.h>
 
 #include <QtCore/QRegularExpression>
@@ -77,7 +78,8 @@ void DarkProxyStyle::drawMenuBadge(const QStyleOption *option, const QString &la
     painter->drawRoundedRect(QRect(corner + QPoint(1, 3), QSize(size, size)), badgeRadius,
                              badgeRadius);
     painter->setPen(Qt::white);
-    painter->drawText(QRect(corner + QPoint(1, 2), QSize(size, size)), Qt::AlignCenter, label);
+    Nocturne::KeptText::draw(painter, QRect(corner + QPoint(1, 2), QSize(size, size)),
+                             Qt::AlignCenter, label);
 }
 
 void DarkProxyStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,

@@ -1,5 +1,6 @@
 #include "checkindicator_p.h"
 
+#include <nocturne/painting/kepttext_p.h>
 #include <nocturne/painting/themepaint_p.h>
 
 #include <QtGui/QPainter>
@@ -51,7 +52,7 @@ void paintCheckIndicator(QAbstractButton *button, const QStyleOptionButton &opti
         paintDot(&painter, cell.adjusted(5, 5, -5, -5));
 
     painter.setPen(ThemePaint::buttonText(option.state & QStyle::State_Enabled));
-    painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, option.text);
+    Nocturne::KeptText::draw(&painter, text, Qt::AlignLeft | Qt::AlignVCenter, option.text);
 }
 
 } // namespace Nocturne

@@ -1,5 +1,6 @@
 #include "groupbox.h"
 
+#include <nocturne/painting/kepttext_p.h>
 #include <nocturne/painting/themepaint_p.h>
 #include <nocturne/theme/qtversion_p.h>
 
@@ -98,5 +99,6 @@ void GroupBox::paintEvent(QPaintEvent *)
     }
 
     painter.setPen(Nocturne::ThemePaint::buttonText(option.state & QStyle::State_Enabled));
-    painter.drawText(titleRect(option), Qt::AlignLeft | Qt::AlignVCenter, option.text);
+    Nocturne::KeptText::draw(&painter, titleRect(option), Qt::AlignLeft | Qt::AlignVCenter,
+                             option.text);
 }

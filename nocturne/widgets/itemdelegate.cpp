@@ -1,5 +1,7 @@
 #include "itemdelegate.h"
 
+#include <nocturne/painting/kepttext_p.h>
+
 #include <QtGui/QPainter>
 #include <QtGui/QTextOption>
 #include <QtWidgets/QListWidget>
@@ -76,5 +78,6 @@ void ItemDelegate::drawDisplay(QPainter *painter, const QStyleOptionViewItem &op
     painter->setPen(selected ? QColor(selectedColor) : option.palette.color(QPalette::ButtonText));
     painter->setBrush(Qt::NoBrush);
     painter->setFont(option.font);
-    painter->drawText(QRectF(rect.translated(0, m_topMargin / 2)), text, QTextOption());
+    Nocturne::KeptText::drawAligned(painter, rect.translated(0, m_topMargin / 2), Qt::AlignLeft,
+                                    text);
 }

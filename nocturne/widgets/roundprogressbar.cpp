@@ -2,6 +2,7 @@
 
 #include "ringaccessible_p.h"
 
+#include <nocturne/painting/kepttext_p.h>
 #include <nocturne/painting/themepaint_p.h>
 
 #include <QtGui/QAccessible>
@@ -372,7 +373,7 @@ void RoundProgressBar::drawText(QPainter &painter, const QRectF &innerRect, doub
                           const QString &text) {
         painter.setFont(settled(font));
         painter.setPen(color);
-        painter.drawText(innerRect.translated(0, shift), Qt::AlignCenter, text);
+        Nocturne::KeptText::draw(&painter, innerRect.translated(0, shift), Qt::AlignCenter, text);
     };
 
     const QString text = valueToText(value);

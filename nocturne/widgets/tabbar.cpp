@@ -1,5 +1,6 @@
 #include "tabbar.h"
 
+#include <nocturne/painting/kepttext_p.h>
 #include <nocturne/painting/themepaint_p.h>
 
 #include <QtGui/QPainter>
@@ -76,6 +77,6 @@ void TabBar::paintEvent(QPaintEvent *)
         const bool highlighted = selected || tab.state & QStyle::State_MouseOver;
         painter.setPen(Nocturne::ThemePaint::color(highlighted ? QPalette::HighlightedText
                                                                : QPalette::ButtonText));
-        painter.drawText(tab.rect.translated(4, 0), Qt::AlignCenter, tab.text);
+        Nocturne::KeptText::draw(&painter, tab.rect.translated(4, 0), Qt::AlignCenter, tab.text);
     }
 }

@@ -1,0 +1,324 @@
+#include "kepttext_p.h"
+
+#include <QtCore/QCache>
+#include <QtCore/QThread>
+#include <QtGui/QFontMetrics>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QPaintEngine>
+#include <QtGui/QPainter>
+#include <QtGui/QTextLayout>
+
+#include <algorithm>
+#include <memory>
+
+namespace Nocturne::KeptText {
+
+namespace {
+
+constexpr int longestKept = 512;            // code units; what is longer is seldom a label
+constexpr int lineBudget = 4 * 1024 * 1024; // bytes
+constexpr int lineBytes = 1024;             // a layout with its line and its font
+constexpr int unitBytes = 64;               // glyph, advance, attributes and offset of a code unit
+constexpr int keptMeasures = 2048;
+constexpr qreal unbrokenWidth = 0x00800000; // wider than any text that is kept
+
+/// What becomes of the ampersand before a letter.
+enum class Mnemonic : quint8 { Literal, Underlined, Hidden };
+
+/// Everything that decides how a line is shaped.
+struct LineKey
+{
+    QString text;
+    QFont font;
+    int dpi; ///< that the size of the font is resolved for
+    Qt::LayoutDirection direction;
+    Mnemonic mnemonic;
+};
+
+bool operator==(const LineKey &a, const LineKey &b)
+{
+    return a.dpi == b.dpi && a.direction == b.direction && a.mnemonic == b.mnemonic
+           && a.text == b.text && a.font == b.font;
+}
+
+uint qHash(const LineKey &key, uint seed = 0)
+{
+    return uint(::qHash(key.text, seed)) ^ uint(::qHash(key.font, seed)) ^ uint(key.dpi) << 8
+           ^ uint(key.direction) << 4 ^ uint(key.mnemonic);
+}
+
+/// A shaped line, or the knowledge that its text is none.
+struct Line
+{
+    std::unique_ptr<QTextLayout> layout;
+    qreal advance = 0.0; ///< what alignment goes by
+    qreal width = 0.0;   ///< what is covered, overhanging glyphs included
+    qreal height = 0.0;
+};
+
+enum class Measure : quint8 { BoundingRect, Advance, Elided };
+
+struct MeasureKey
+{
+    QString text;
+    QFontMetrics metrics;
+    Measure measure;
+    Qt::TextElideMode mode = Qt::ElideNone;
+    int width = 0;
+};
+
+bool operator==(const MeasureKey &a, const MeasureKey &b)
+{
+    return a.measure == b.measure && a.mode == b.mode && a.width == b.width && a.text == b.text
+           && a.metrics == b.metrics;
+}
+
+uint qHash(const MeasureKey &key, uint seed = 0)
+{
+    return uint(::qHash(key.text, seed)) ^ uint(key.measure) << 24 ^ uint(key.mode) << 16
+           ^ uint(key.width);
+}
+
+struct Measured
+{
+    QRect rect;
+    int advance = 0;
+    QString text;
+};
+
+QCache<LineKey, Line> &lines()
+{
+    static QCache<LineKey, Line> cache(lineBudget);
+    return cache;
+}
+
+QCache<MeasureKey, Measured> &measures()
+{
+    static QCache<MeasureKey, Measured> cache(keptMeasures);
+    return cache;
+}
+
+void forget()
+{
+    lines().clear();
+    measures().clear();
+}
+
+/// Forgets what is kept as soon as the fonts that it is made of may be gone: with each change of
+/// the font database, and with the application.
+void forgetWithFonts()
+{
+    static bool connected = false;
+    if (connected)
+        return;
+    connected = true;
+    QObject::connect(qApp, &QGuiApplication::fontDatabaseChanged, qApp, forget);
+    qAddPostRoutine([] {
+        connected = false;
+        forget();
+    });
+}
+
+bool isGuiThread()
+{
+    return qApp && QThread::currentThread() == qApp->thread();
+}
+
+/// Neither broken nor indented: no control characters, separators or objects.
+bool isPlainLine(const QString &text)
+{
+    return std::none_of(text.cbegin(), text.cend(), [](QChar c) {
+        return c.category() == QChar::Other_Control || c == QChar(QChar::LineSeparator)
+               || c == QChar(QChar::ParagraphSeparator)
+               || c == QChar(QChar::ObjectReplacementCharacter);
+    });
+}
+
+/// Takes the ampersand before the mnemonic out of \a text and tells where the mnemonic stands then,
+/// -1 for none. False when there are several ampersands, or one at the end.
+bool takeMnemonic(QString *text, int *position)
+{
+    *position = int(text->indexOf(QLatin1Char('&')));
+    if (*position < 0)
+        return true;
+    if (*position + 1 == text->size() || text->count(QLatin1Char('&')) > 1)
+        return false;
+    text->remove(*position, 1);
+    return true;
+}
+
+std::unique_ptr<QTextLayout> shapedLayout(const LineKey &key)
+{
+    QString text = key.text;
+    int mnemonic = -1;
+    if (!isPlainLine(text)
+        || (key.mnemonic != Mnemonic::Literal && !takeMnemonic(&text, &mnemonic)))
+        return nullptr;
+
+    auto layout = std::make_unique<QTextLayout>(text, key.font);
+    QTextOption option;
+    option.setTextDirection(key.direction);
+    option.setWrapMode(QTextOption::ManualWrap);
+    layout->setTextOption(option);
+    if (mnemonic >= 0 && key.mnemonic == Mnemonic::Underlined) {
+        QTextLayout::FormatRange underlined;
+        underlined.start = mnemonic;
+        underlined.length = 1;
+        underlined.format.setFontUnderline(true);
+        layout->setFormats({underlined});
+    }
+    layout->setCacheEnabled(true);
+    layout->beginLayout();
+    layout->createLine().setLineWidth(unbrokenWidth);
+    layout->endLayout();
+    return layout;
+}
+
+std::unique_ptr<Line> shapedLine(const LineKey &key)
+{
+    auto line = std::make_unique<Line>();
+    line->layout = shapedLayout(key);
+    if (!line->layout)
+        return line;
+    const QTextLine only = line->layout->lineAt(0);
+    line->advance = only.horizontalAdvance();
+    line->width = qMax(only.naturalTextWidth(), line->advance);
+    line->height = only.height();
+    return line;
+}
+
+/// Null for a text that \a painter had better shape itself. Whoever wants the line must draw it
+/// before asking for the next.
+const Line *keptLine(const QPainter &painter, const QString &text, Qt::LayoutDirection direction,
+                     Mnemonic mnemonic)
+{
+    const QPaintEngine *engine = painter.paintEngine();
+    if (text.isEmpty() || text.size() > longestKept || !engine
+        || engine->type() != QPaintEngine::Raster
+        || painter.deviceTransform().type() > QTransform::TxScale
+        || painter.backgroundMode() != Qt::TransparentMode || !isGuiThread())
+        return nullptr;
+
+    const LineKey key{text, painter.font(), painter.device()->logicalDpiY(), direction, mnemonic};
+    const Line *line = lines().object(key);
+    if (!line) {
+        forgetWithFonts();
+        auto *shaped = shapedLine(key).release();
+        lines().insert(key, shaped, lineBytes + unitBytes * int(text.size()));
+        line = shaped;
+    }
+    return line->layout ? line : nullptr;
+}
+
+constexpr int keptFlags = Qt::AlignLeft | Qt::AlignRight | Qt::AlignHCenter | Qt::AlignTop
+                          | Qt::AlignBottom | Qt::AlignVCenter | Qt::AlignAbsolute
+                          | Qt::TextSingleLine | Qt::TextDontClip | Qt::TextShowMnemonic
+                          | Qt::TextHideMnemonic;
+
+/// No flags but those of a single line, and one alignment along each axis at most.
+bool areKept(int flags)
+{
+    const auto atMostOne = [flags](int mask) { return !(flags & mask & ((flags & mask) - 1)); };
+    return !(flags & ~keptFlags) && atMostOne(Qt::AlignHorizontal_Mask & ~Qt::AlignAbsolute)
+           && atMostOne(Qt::AlignVertical_Mask);
+}
+
+Mnemonic mnemonic(int flags)
+{
+    if (flags & Qt::TextHideMnemonic)
+        return Mnemonic::Hidden;
+    return flags & Qt::TextShowMnemonic ? Mnemonic::Underlined : Mnemonic::Literal;
+}
+
+/// How much of the room to the left of a text is left free: nothing, half or all.
+qreal horizontalShare(int flags, bool mirrored)
+{
+    if (flags & Qt::AlignHCenter)
+        return 0.5;
+    const bool right = flags & Qt::AlignRight;
+    return (mirrored && !(flags & Qt::AlignAbsolute)) != right ? 1.0 : 0.0;
+}
+
+qreal verticalShare(int flags)
+{
+    if (flags & Qt::AlignVCenter)
+        return 0.5;
+    return flags & Qt::AlignBottom ? 1.0 : 0.0;
+}
+
+void drawLine(QPainter *painter, const QRectF &rect, const Line &line, int flags, bool mirrored)
+{
+    const QPointF room(rect.width() - line.advance, rect.height() - line.height);
+    const QPointF offset(room.x() * horizontalShare(flags, mirrored),
+                         room.y() * verticalShare(flags));
+    line.layout->draw(painter, rect.topLeft() + offset);
+}
+
+bool fits(const Line &line, const QRectF &rect)
+{
+    return line.width <= rect.width() && line.height <= rect.height();
+}
+
+template <typename Take>
+Measured measured(MeasureKey key, Take take)
+{
+    Measured result;
+    if (key.text.size() > longestKept || !isGuiThread()) {
+        take(result);
+        return result;
+    }
+    if (const Measured *known = measures().object(key))
+        return *known;
+    forgetWithFonts();
+    take(result);
+    measures().insert(key, new Measured(result));
+    return result;
+}
+
+} // namespace
+
+void draw(QPainter *painter, const QRectF &rect, int flags, const QString &text)
+{
+    const Qt::LayoutDirection direction = painter->layoutDirection();
+    const Line *line =
+        areKept(flags) ? keptLine(*painter, text, direction, mnemonic(flags)) : nullptr;
+    if (line && (flags & Qt::TextDontClip || fits(*line, rect)))
+        drawLine(painter, rect, *line, flags, direction == Qt::RightToLeft);
+    else
+        painter->drawText(rect, flags, text);
+}
+
+void drawAligned(QPainter *painter, const QRectF &rect, Qt::Alignment alignment,
+                 const QString &text)
+{
+    const int flags = int(alignment);
+    const Line *line =
+        areKept(flags) ? keptLine(*painter, text, Qt::LeftToRight, Mnemonic::Literal) : nullptr;
+    if (line && fits(*line, rect))
+        drawLine(painter, rect, *line, flags, false);
+    else
+        painter->drawText(rect, text, QTextOption(alignment));
+}
+
+QRect boundingRect(const QFontMetrics &metrics, const QString &text)
+{
+    return measured({text, metrics, Measure::BoundingRect},
+                    [&](Measured &result) { result.rect = metrics.boundingRect(text); })
+        .rect;
+}
+
+int horizontalAdvance(const QFontMetrics &metrics, const QString &text)
+{
+    return measured({text, metrics, Measure::Advance},
+                    [&](Measured &result) { result.advance = metrics.horizontalAdvance(text); })
+        .advance;
+}
+
+QString elided(const QFontMetrics &metrics, const QString &text, Qt::TextElideMode mode, int width)
+{
+    return measured({text, metrics, Measure::Elided, mode, width},
+                    [&](Measured &result) { result.text = metrics.elidedText(text, mode, width); })
+        .text;
+}
+
+} // namespace Nocturne::KeptText

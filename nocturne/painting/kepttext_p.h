@@ -1,0 +1,38 @@
+#ifndef NOCTURNE_KEPTTEXT_P_H
+#define NOCTURNE_KEPTTEXT_P_H
+
+#include <QtCore/QRectF>
+#include <QtCore/QString>
+
+class QFont;
+class QFontMetrics;
+class QPainter;
+class QTextOption;
+
+/// Text that is shaped once and drawn from its glyphs afterwards, for styles and widgets alike.
+///
+/// Shaping costs far more than painting, and a control shows the same text at most repaints. Each
+/// function gives the very pixels and numbers of the toolkit's function that it stands for: what
+/// can't be kept (several lines, control characters, a turned painter, a recording device) goes
+/// to that function. What is kept is bounded, and forgotten when the font database changes.
+namespace Nocturne::KeptText {
+
+/// QPainter::drawText(rect, flags, text).
+void draw(QPainter *painter, const QRectF &rect, int flags, const QString &text);
+
+/// QPainter::drawText(rect, text, QTextOption(alignment)).
+void drawAligned(QPainter *painter, const QRectF &rect, Qt::Alignment alignment,
+                 const QString &text);
+
+/// QFontMetrics::boundingRect(text).
+QRect boundingRect(const QFontMetrics &metrics, const QString &text);
+
+/// QFontMetrics::horizontalAdvance(text).
+int horizontalAdvance(const QFontMetrics &metrics, const QString &text);
+
+/// QFontMetrics::elidedText(text, mode, width).
+QString elided(const QFontMetrics &metrics, const QString &text, Qt::TextElideMode mode, int width);
+
+} // namespace Nocturne::KeptText
+
+#endif
