@@ -6,7 +6,6 @@
 #include <nocturne/ColorButton>
 #include <nocturne/ColorToolButton>
 #include <nocturne/ComboBox>
-#include <nocturne/ComboBoxListView>
 #include <nocturne/ComboFileChooser>
 #include <nocturne/CroppingLabel>
 #include <nocturne/DelayButton>
@@ -20,7 +19,6 @@
 #include <nocturne/KeySequenceEdit>
 #include <nocturne/LetterBoxWidget>
 #include <nocturne/LineEdit>
-#include <nocturne/LineEditButton>
 #include <nocturne/ListView>
 #include <nocturne/ListWidget>
 #include <nocturne/MidiSequenceEdit>
@@ -50,24 +48,8 @@ QWidget *create(QWidget *parent)
     return new Widget(parent);
 }
 
-/// The button is made without a parent.
-template <>
-QWidget *create<LineEditButton>(QWidget *parent)
-{
-    auto *button = new LineEditButton;
-    button->setParent(parent);
-    return button;
-}
-
-/// The constructor's argument is the combo box that the list serves.
-template <>
-QWidget *create<ComboBoxListView>(QWidget *parent)
-{
-    auto *view = new ComboBoxListView;
-    view->setParent(parent);
-    return view;
-}
-
+// Not here: LineEditButton and ComboBoxListView, whose constructors take no parent, which is what a
+// compiled form would give them.
 const WidgetKind kinds[] = {
     {"CheckBox",
      "exported.png",
@@ -85,7 +67,6 @@ const WidgetKind kinds[] = {
     {"ColorButton", "tool_gradient_tool.png", create<ColorButton>, {60, 26}},
     {"ColorToolButton", "tool_gradient_tool.png", create<ColorToolButton>, {60, 26}},
     {"ComboBox", "list.png", create<ComboBox>, {140, 26}},
-    {"ComboBoxListView", "list.png", create<ComboBoxListView>, {160, 120}},
     {"ComboFileChooser", "fileopen.png", create<ComboFileChooser>, {240, 28}},
     {"CroppingLabel",
      "textleft.png",
@@ -126,7 +107,6 @@ const WidgetKind kinds[] = {
      "<widget class=\"QWidget\" name=\"picture\"/>",
      "setWidget"},
     {"LineEdit", "tool_text.png", create<LineEdit>, {140, 26}},
-    {"LineEditButton", "deleffect.png", create<LineEditButton>, {24, 24}},
     {"ListView", "list.png", create<ListView>, {160, 120}},
     {"ListWidget", "list.png", create<ListWidget>, {160, 120}},
     {"MidiSequenceEdit", "music.png", create<MidiSequenceEdit>, {160, 28}},

@@ -80,7 +80,7 @@ private Q_SLOTS:
             qobject_cast<QDesignerCustomWidgetCollectionInterface *>(plugin.instance());
         QVERIFY2(collection, qPrintable(plugin.errorString()));
         m_widgets = collection->customWidgets();
-        QCOMPARE(m_widgets.size(), 41);
+        QCOMPARE(m_widgets.size(), 39);
         m_loader.addPluginPath(pluginDirectory);
     }
 
