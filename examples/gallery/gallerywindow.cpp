@@ -4,13 +4,14 @@
 
 #include <QtCore/QEvent>
 #include <QtCore/QTimer>
-#include <QtWidgets/QAction>
-#include <QtWidgets/QActionGroup>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QToolBar>
+
+#include <QAction>
+#include <QActionGroup>
 
 GalleryWindow::GalleryWindow(QWidget *parent)
     : QMainWindow(parent)

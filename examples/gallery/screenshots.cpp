@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -75,7 +76,7 @@ bool renderScreenshots(const QString &directory, const QString &only)
     bool isDone = !pages.isEmpty();
     for (GalleryFace face : {GalleryFace::Exact, GalleryFace::Readable}) {
         showGalleryFace(face);
-        for (const GalleryPage &page : qAsConst(pages)) {
+        for (const GalleryPage &page : std::as_const(pages)) {
             for (Variant variant : {Variant::LeftToRight, Variant::RightToLeft, Variant::Disabled})
                 isDone = isDone && renderPage(page, face, variant, target);
         }

@@ -3,7 +3,8 @@
 #include "testpictures.h"
 
 #include <QtCore/QFileInfo>
-#include <QtWidgets/QUndoCommand>
+
+#include <QUndoCommand>
 
 class EditCommand : public QUndoCommand
 {

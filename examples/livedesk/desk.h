@@ -4,7 +4,8 @@
 #include "deskstate.h"
 
 #include <QtCore/QObject>
-#include <QtWidgets/QUndoStack>
+
+#include <QUndoStack>
 
 #include <functional>
 

@@ -15,15 +15,17 @@
 #include <QtCore/QSaveFile>
 #include <QtCore/QTranslator>
 #include <QtGui/QCloseEvent>
-#include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolBar>
-#include <QtWidgets/QUndoView>
+
+#include <QAction>
+#include <QUndoView>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -189,7 +191,7 @@ void DeskWindow::retranslate()
     m_cut->setText(tr("Cut"));
     m_toolBar->setWindowTitle(tr("Tools"));
     m_renderButton->setText(m_renderTimer.isActive() ? tr("Stop") : tr("Render"));
-    for (const auto &dock : qAsConst(m_docks))
+    for (const auto &dock : std::as_const(m_docks))
         dock.first->setWindowTitle(tr(dock.second));
 }
 

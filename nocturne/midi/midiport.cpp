@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <utility>
 
 namespace Nocturne {
 
@@ -24,7 +25,7 @@ void MidiPort::attach(RtMidi *device, const char *direction, QStringList errors)
     if (!device || !m_absences.empty()) {
         qWarning("There is no MIDI %s: %s", direction, qPrintable(errors.join(QLatin1Char(' '))));
     } else {
-        for (const QString &error : qAsConst(errors))
+        for (const QString &error : std::as_const(errors))
             qWarning("%s", qPrintable(error));
     }
 }

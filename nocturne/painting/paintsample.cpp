@@ -6,6 +6,8 @@
 #include <QtGui/QPaintEngine>
 #include <QtGui/QPainter>
 
+#include <utility>
+
 namespace Nocturne {
 
 namespace {
@@ -67,7 +69,7 @@ void PaintSample::drawStretched(QPainter *painter, const QRect &rect, Qt::Orient
     const int start = horizontal ? rect.x() : rect.y();
     const int across = horizontal ? rect.y() : rect.x();
     const int middleLength = length + 1 - sampleLength;
-    for (const Stripe &stripe : qAsConst(m_stripes)) {
+    for (const Stripe &stripe : std::as_const(m_stripes)) {
         painter->fillRect(oriented<QRectF, qreal>(orientation, start + endLength,
                                                   across + qreal(stripe.from) / key.ratio,
                                                   middleLength, qreal(stripe.count) / key.ratio),

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 namespace {
 
@@ -87,7 +88,7 @@ void GradientTool::setRamp(const QVector<QPair<double, QColor>> &ramp)
     // then, since it is what gets the rest of the drag.
     GradientToolSlider *dragged =
         isDragging() && m_activeIndex < ramp.size() ? activeMarker() : nullptr;
-    for (const Stop &stop : qAsConst(m_stops)) {
+    for (const Stop &stop : std::as_const(m_stops)) {
         if (stop.second != dragged)
             discard(stop.second);
     }
@@ -362,7 +363,7 @@ void GradientTool::paintEvent(QPaintEvent *event)
     painter.setPen(Qt::black);
 
     QLinearGradient gradient(area.left(), 0.0, area.left() + area.width() - 1, 0.0);
-    for (const Stop &stop : qAsConst(m_stops))
+    for (const Stop &stop : std::as_const(m_stops))
         gradient.setColorAt(stop.first, stop.second->color());
     painter.fillRect(area, gradient);
     painter.drawRect(area);
@@ -373,7 +374,7 @@ void GradientTool::paintEvent(QPaintEvent *event)
 
 void GradientTool::resizeEvent(QResizeEvent *)
 {
-    for (const Stop &stop : qAsConst(m_stops))
+    for (const Stop &stop : std::as_const(m_stops))
         stop.second->setGeometry(markerGeometry(stop.first));
 }
 

@@ -9,6 +9,8 @@
 #include <QtWidgets/QAccessibleWidget>
 #include <QtWidgets/QStyleOptionSlider>
 
+#include <utility>
+
 namespace {
 
 /// A slider as a group of handles. Subclasses say what the handles are; they are counted from 0.
@@ -82,7 +84,7 @@ private:
 
 HandleGroup::~HandleGroup()
 {
-    for (QAccessible::Id id : qAsConst(m_handles)) {
+    for (QAccessible::Id id : std::as_const(m_handles)) {
         if (id)
             QAccessible::deleteAccessibleInterface(id);
     }

@@ -12,6 +12,7 @@
 #include <QtGui/QPainterPath>
 
 #include <cmath>
+#include <utility>
 
 int const RoundProgressBar::PositionLeft = 180;
 int const RoundProgressBar::PositionTop = 90;
@@ -411,7 +412,7 @@ void RoundProgressBar::rebuildDataBrushIfNeeded()
 
     QConicalGradient gradient(QPointF(0.5, 0.5), startAngle());
     gradient.setCoordinateMode(QGradient::ObjectBoundingMode);
-    for (const auto &stop : qAsConst(m_dataColors))
+    for (const auto &stop : std::as_const(m_dataColors))
         gradient.setColorAt(1.0 - stop.first, stop.second);
 
     QPalette changed = palette();

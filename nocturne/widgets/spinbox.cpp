@@ -10,6 +10,8 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 
+#include <utility>
+
 SpinBox::SpinBox(QWidget *parent)
     : QSpinBox(parent)
     , m_gesture(new Nocturne::Gesture(this, [this] { abandonDrag(); }))
@@ -220,7 +222,7 @@ void SpinBox::returnUnfocusedSiblingsToDragging()
     QList<SpinBox *> siblings{this};
     if (parentWidget())
         siblings = parentWidget()->findChildren<SpinBox *>(QString(), Qt::FindDirectChildrenOnly);
-    for (SpinBox *sibling : qAsConst(siblings)) {
+    for (SpinBox *sibling : std::as_const(siblings)) {
         if (!sibling->lineEdit()->hasFocus())
             sibling->lineEdit()->setReadOnly(true);
     }

@@ -14,6 +14,8 @@
 #include <thread>
 #include <unistd.h>
 
+#include <utility>
+
 using Bytes = QMidiMessage::Bytes;
 
 namespace {
@@ -464,7 +466,7 @@ private Q_SLOTS:
 
         const QMutexLocker locker(&mutex);
         QVector<int> statuses;
-        for (const QMidiMessage &message : qAsConst(received))
+        for (const QMidiMessage &message : std::as_const(received))
             statuses << message.type() + qMax(0, message.channel() - 1);
         QCOMPARE(statuses, expected);
         QVERIFY(thread.load() && thread.load() != QThread::currentThreadId());

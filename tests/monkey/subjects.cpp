@@ -50,9 +50,10 @@
 
 #include <QtCore/QStringListModel>
 #include <QtGui/QStandardItemModel>
-#include <QtWidgets/QAction>
 #include <QtWidgets/QColorDialog>
 #include <QtWidgets/QVBoxLayout>
+
+#include <QAction>
 
 #include <limits>
 #include <type_traits>
@@ -285,8 +286,7 @@ std::vector<Subject> makeSubjects()
                                          d, [&] { w->setDelay(d.roll(20) - 5); },
                                          [&] { w->setCheckable(d.coin()); }, [&] { w->toggle(); });
                                  }),
-        subject<Dial>("Dial",
-                      [](Dial *w, Dice &d) { w->setRange(d.rangeEnd(), d.rangeEnd()); }),
+        subject<Dial>("Dial", [](Dial *w, Dice &d) { w->setRange(d.rangeEnd(), d.rangeEnd()); }),
         subject<FileChooser>("FileChooser",
                              [](FileChooser *w, Dice &d) {
                                  oneOf(
@@ -413,7 +413,8 @@ std::vector<Subject> makeSubjects()
                 const int a = d.extremeInt();
                 const int b = d.extremeInt();
                 oneOf(
-                    d, [&] { w->setRange(a / 4, b / 4); }, [&] { w->setValues(a, b, d.extremeInt()); },
+                    d, [&] { w->setRange(a / 4, b / 4); },
+                    [&] { w->setValues(a, b, d.extremeInt()); },
                     [&] { w->setPositions(a, b, d.extremeInt()); }, [&] { w->setMinimumValue(a); },
                     [&] { w->setMaximumValue(a); }, [&] { w->setMainValue(a); },
                     [&] { w->setEnableRange(d.coin()); }, [&] { w->setSymmetricMoves(d.coin()); },

@@ -1,3 +1,4 @@
+#include "qtversion.h"
 #include "subjects.h"
 
 #include <nocturne/DarkFusionStyle>
@@ -343,10 +344,9 @@ void Monkey::touchOrTablet(Dice &dice)
         else
             touch.release(0, place.toPoint(), widget);
     } else {
-        QTabletEvent event(dice.coin() ? QEvent::TabletPress : QEvent::TabletMove, place,
-                           widget->mapToGlobal(place.toPoint()), QTabletEvent::Stylus,
-                           QTabletEvent::Pen, 0.5, 0, 0, 0, 0, 0, Qt::NoModifier, 1, Qt::LeftButton,
-                           Qt::LeftButton);
+        QTabletEvent event =
+            QtVersion::penEvent(dice.coin() ? QEvent::TabletPress : QEvent::TabletMove, place,
+                                widget->mapToGlobal(place.toPoint()));
         send(widget, &event);
     }
 }

@@ -93,11 +93,11 @@ QVector<Message> messagesOf(const QString &path)
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
-        if (xml.name() == "name") {
+        if (xml.name() == QLatin1String("name")) {
             context = xml.readElementText();
-        } else if (xml.name() == "source") {
+        } else if (xml.name() == QLatin1String("source")) {
             source = xml.readElementText();
-        } else if (xml.name() == "translation") {
+        } else if (xml.name() == QLatin1String("translation")) {
             // A text that is no longer used is kept as "vanished" or "obsolete".
             const QString type = xml.attributes().value("type").toString();
             if (type.isEmpty() || type == "unfinished")

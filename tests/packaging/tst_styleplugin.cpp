@@ -1,3 +1,4 @@
+#include "qtversion.h"
 #include "testsupport.h"
 #include "xserver.h"
 
@@ -210,8 +211,8 @@ void TestStylePlugin::realProgram()
 #endif
     QFETCH(QString, path);
     QFETCH(bool, dark);
-    const QString designer = QStandardPaths::findExecutable(
-        QStringLiteral("designer"), {QLibraryInfo::location(QLibraryInfo::BinariesPath)});
+    const QString designer =
+        QStandardPaths::findExecutable(QStringLiteral("designer"), {QtVersion::programsPath()});
     if (designer.isEmpty())
         QSKIP("Qt Designer is not installed");
     if (QStandardPaths::findExecutable(QStringLiteral("xdotool")).isEmpty())

@@ -196,7 +196,7 @@ void toggle(QWidget *widget, const QString &name, bool on)
     } else {
         const QStringList parts = name.split(QRegularExpression(QStringLiteral("[=:]")));
         const QByteArray property = parts.first().toLatin1();
-        const bool isSwitch = widget->property(property).type() == QVariant::Bool;
+        const bool isSwitch = widget->property(property).userType() == QMetaType::Bool;
         widget->setProperty(property, parts.size() > 1 ? QVariant(parts.at(on ? 1 : 2).toInt())
                                       : isSwitch       ? QVariant(on)
                                                        : QVariant(words(on)));

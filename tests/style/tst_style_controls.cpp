@@ -1,3 +1,4 @@
+#include "qtversion.h"
 #include "stylepainting.h"
 
 #include <QtWidgets/QComboBox>
@@ -346,7 +347,7 @@ void TestStyleControls::progressContents()
     QFETCH(bool, isReversed);
     const QRect r = isVertical ? QRect(0, 0, 50, 20) : QRect(5, 4, 90, 20); // as it lies
     auto option = makeOption<QStyleOptionProgressBar>(isVertical ? QRect(0, 0, 20, 50) : r);
-    option.orientation = isVertical ? Qt::Vertical : Qt::Horizontal;
+    QtVersion::setOrientation(option, isVertical ? Qt::Vertical : Qt::Horizontal);
     option.direction = direction;
     option.invertedAppearance = isInverted;
     option.minimum = 10;
@@ -431,7 +432,7 @@ void TestStyleControls::progressLabel()
     QFETCH(QRect, litRect);
     auto option = makeOption<QStyleOptionProgressBar>(rect);
     option.direction = direction;
-    option.orientation = rect.width() < rect.height() ? Qt::Vertical : Qt::Horizontal;
+    QtVersion::setOrientation(option, rect.width() < rect.height() ? Qt::Vertical : Qt::Horizontal);
     option.invertedAppearance = isInverted;
     option.maximum = 100;
     option.progress = progress;
@@ -501,7 +502,7 @@ void TestStyleControls::menuItemText()
     option.direction = direction;
     option.styleObject = kind == popupMenuItem ? &popupItem : nullptr;
     option.maxIconWidth = 22;
-    option.tabWidth = 24;
+    QtVersion::setShortcutWidth(option, 24);
     option.font.setPixelSize(11);
     option.text = QStringLiteral("&Open\tF1\tF2");
 

@@ -1,3 +1,4 @@
+#include "qtversion.h"
 #include "stylepainting.h"
 
 #include <QtCore/QProcess>
@@ -391,7 +392,7 @@ void tst_StyleFrame::standardPixmaps()
 /// The icons of the window buttons are their pixmaps, each pixel a square of device pixels.
 void tst_StyleFrame::standardIcons()
 {
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QtVersion::setHighDpiPixmaps(true);
     for (QStyle::StandardPixmap button :
          {QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton,
           QStyle::SP_TitleBarCloseButton, QStyle::SP_DockWidgetCloseButton})
@@ -411,7 +412,7 @@ void tst_StyleFrame::standardIcons()
         QVERIFY(icon.pixmap(8, 8).width() <= 8 * qApp->devicePixelRatio());
         QVERIFY(draw(icon.pixmap(16, 16, QIcon::Disabled)) != draw(expected));
     }
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, false);
+    QtVersion::setHighDpiPixmaps(false);
 }
 
 void tst_StyleFrame::polishing()

@@ -1,3 +1,4 @@
+#include "qtversion.h"
 #include "stylepainting.h"
 
 #include <QtCore/QElapsedTimer>
@@ -210,7 +211,8 @@ private:
     }
     void fill(QStyleOptionProgressBar &o)
     {
-        pick(o.minimum, o.maximum, o.progress, o.text, o.orientation, o.invertedAppearance);
+        pick(o.minimum, o.maximum, o.progress, o.text, o.invertedAppearance);
+        QtVersion::setOrientation(o, below(2) ? Qt::Horizontal : Qt::Vertical);
         if (below(2))
             o.minimum = o.maximum = 0;
     }
@@ -219,7 +221,7 @@ private:
         pick(o.checkType, o.checked, o.text, o.icon);
         pickOfEight(o.menuItemType);
         o.maxIconWidth = below(60);
-        o.tabWidth = below(200) - 50;
+        QtVersion::setShortcutWidth(o, below(200) - 50);
     }
     void fill(QStyleOptionHeader &o)
     {

@@ -1,16 +1,14 @@
 #ifndef NOCTURNE_JACKSERVER_H
 #define NOCTURNE_JACKSERVER_H
 
+#include "qtversion.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
-#include <QtCore/QProcess>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QThread>
 
 #include <rtmidi/RtMidi.h>
-
-#include <csignal>
-#include <sys/prctl.h>
 
 /// A JACK server of the program's own, under a name of its own and without a sound card. This
 /// process uses it as its default server until the object ends.
@@ -103,14 +101,7 @@ private:
         return !failed;
     }
 
-    /// Ends with this program, even if that crashes.
-    class Process : public QProcess
-    {
-    protected:
-        void setupChildProcess() override { ::prctl(PR_SET_PDEATHSIG, SIGKILL); }
-    };
-
-    Process m_process;
+    QtVersion::MortalProcess m_process;
 };
 
 #endif

@@ -106,7 +106,7 @@ private Q_SLOTS:
         QCOMPARE(stop->text(QAccessible::Name), QString("Color stop 2"));
         QCOMPARE(stop->text(QAccessible::Description), QColor(Qt::green).name());
         QCOMPARE(stop->text(QAccessible::Value), QString("25 %"));
-        QCOMPARE(stop->rect().topLeft(), editor.mapToGlobal({51, 40}));
+        QCOMPARE(stop->rect().topLeft(), editor.mapToGlobal(QPoint(51, 40)));
         QVERIFY(!stop->state().selected);
 
         // From left to right, whatever the numbers.

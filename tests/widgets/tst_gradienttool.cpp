@@ -7,6 +7,8 @@
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QPushButton>
 
+#include <utility>
+
 namespace {
 
 using Ramp = QVector<QPair<double, QColor>>;
@@ -119,7 +121,7 @@ private Q_SLOTS:
         GradientTool editor;
         editor.setRamp(ramp);
         const auto table = editor.getColorTable();
-        for (const auto &entry : qAsConst(entries))
+        for (const auto &entry : std::as_const(entries))
             QCOMPARE(QColor(table.at(entry.first)).name(), QColor(entry.second).name());
     }
 

@@ -1,16 +1,19 @@
 #include "gestures.h"
+#include "qtversion.h"
 #include "xserver.h"
 
 #include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
 #include <nocturne/KeySequenceEdit>
 
-#include <QtWidgets/QAction>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QMenuBar>
 
+#include <QAction>
+
 #include <cstdio>
+#include <utility>
 
 /// What xdotool presses, and the sequence that it makes or 0.
 using Presses = QVector<QPair<QString, int>>;
@@ -63,10 +66,11 @@ int runClient(int argc, char *argv[])
         std::printf("%s\n", line.toUtf8().constData());
         std::fflush(stdout);
     };
-    QObject::connect(
-        window.field, &KeySequenceEdit::keySequenceChanged, window.field,
-        [say](const QKeySequence &sequence) { say(QString::number(sequence[0], 16)); });
-    for (QAction *action : qAsConst(window.actions)) {
+    QObject::connect(window.field, &KeySequenceEdit::keySequenceChanged, window.field,
+                     [say](const QKeySequence &sequence) {
+                         say(QString::number(QtVersion::firstKey(sequence), 16));
+                     });
+    for (QAction *action : std::as_const(window.actions)) {
         QObject::connect(action, &QAction::triggered, action,
                          [say, action] { say("menu " + action->text()); });
     }
@@ -292,7 +296,7 @@ private Q_SLOTS:
         QFETCH(Presses, presses);
         Keyboard keyboard;
         QVERIFY(keyboard.start(layout));
-        for (const auto &press : qAsConst(presses)) {
+        for (const auto &press : std::as_const(presses)) {
             const QString expected = press.second ? QString::number(press.second, 16) : QString();
             const QString said = keyboard.press(press.first, press.second ? 10000 : 400);
             QVERIFY2(said == expected, qPrintable(QString("%1: recorded \"%2\", expected \"%3\"")

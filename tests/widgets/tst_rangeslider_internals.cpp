@@ -165,7 +165,7 @@ private:
             option.sliderPosition = values->currentValue().toInt();
             const QRect place = slider->style()->subControlRect(QStyle::CC_Slider, &option,
                                                                 QStyle::SC_SliderHandle, slider);
-            QCOMPARE(handle->rect(), place.translated(slider->mapToGlobal({})));
+            QCOMPARE(handle->rect(), place.translated(slider->mapToGlobal(QPoint())));
             QCOMPARE(group->childAt(handle->rect().center().x(), handle->rect().center().y()),
                      handle);
         }

@@ -1,9 +1,9 @@
 #include "gestures.h"
+#include "qtversion.h"
 
 #include <nocturne/CroppingLabel>
 #include <nocturne/SearchLineEdit>
 
-#include <QtCore/QLibraryInfo>
 #include <QtCore/QProcess>
 #include <QtCore/QResource>
 #include <QtCore/QTemporaryDir>
@@ -27,7 +27,7 @@ public:
                           "<file alias=\"deleffect.png\">picture.png</file></qresource></RCC>");
         description.close();
         m_bundle = m_folder.filePath("host.rcc");
-        QProcess::execute(QLibraryInfo::location(QLibraryInfo::BinariesPath) + "/rcc",
+        QProcess::execute(QtVersion::toolsPath() + "/rcc",
                           {"--binary", description.fileName(), "-o", m_bundle});
         m_registered = QResource::registerResource(m_bundle);
     }

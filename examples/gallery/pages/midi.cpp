@@ -14,6 +14,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSlider>
 
+#include <utility>
+
 namespace {
 
 constexpr int monitorLines = 300;
@@ -54,7 +56,7 @@ private:
     void update()
     {
         QStringList lines;
-        for (const QMidiMessage &message : qAsConst(m_waiting)) {
+        for (const QMidiMessage &message : std::as_const(m_waiting)) {
             lines << QStringLiteral("%1 %2  %3 %4")
                          .arg(QMidiMessage::typeName(message.type()))
                          .arg(message.channel())

@@ -2,13 +2,14 @@
 
 #include <nocturne/KeySequenceEdit>
 
-#include <QtWidgets/QAction>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
+
+#include <QAction>
 
 namespace {
 

@@ -1,10 +1,11 @@
 #include "gallerypage.h"
 #include "posed.h"
 
-#include <QtWidgets/QAction>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QCommandLinkButton>
 #include <QtWidgets/QMenu>
+
+#include <QAction>
 
 namespace {
 

@@ -1,13 +1,14 @@
 #include "gallerypage.h"
 #include "samplesheet.h"
 
-#include <QtWidgets/QActionGroup>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QStylePainter>
+
+#include <QActionGroup>
 
 namespace {
 

@@ -1,0 +1,121 @@
+#ifndef NOCTURNE_TESTS_QTVERSION_H
+#define NOCTURNE_TESTS_QTVERSION_H
+
+#include <QtCore/QLibraryInfo>
+#include <QtCore/QProcess>
+#include <QtGui/QKeySequence>
+#include <QtGui/QTabletEvent>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyleOption>
+
+#include <csignal>
+#include <sys/prctl.h>
+
+/// Where Qt 5 and Qt 6 differ in what a test sees. No test asks for the version itself.
+namespace QtVersion {
+
+constexpr bool isQt6 = QT_VERSION >= QT_VERSION_CHECK(6, 0, 0);
+
+/// Ends with this program, even if that crashes.
+class MortalProcess : public QProcess
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+protected:
+    void setupChildProcess() override
+    {
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    }
+#else
+public:
+    MortalProcess()
+    {
+        setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    }
+#endif
+};
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+
+inline void setOrientation(QStyleOptionProgressBar &option, Qt::Orientation orientation)
+{
+    option.orientation = orientation;
+}
+
+inline void setShortcutWidth(QStyleOptionMenuItem &option, int width)
+{
+    option.tabWidth = width;
+}
+
+/// Whether icons make pixmaps for dense screens. Those of Qt 6 always do.
+inline void setHighDpiPixmaps(bool on)
+{
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, on);
+}
+
+inline QString programsPath()
+{
+    return QLibraryInfo::location(QLibraryInfo::BinariesPath);
+}
+
+/// Where the tools stand that a build runs.
+inline QString toolsPath()
+{
+    return QLibraryInfo::location(QLibraryInfo::BinariesPath);
+}
+
+inline int firstKey(const QKeySequence &sequence)
+{
+    return sequence[0];
+}
+
+/// A pen that touches a tablet at \a position of a widget, lightly.
+inline QTabletEvent penEvent(QEvent::Type type, const QPointF &position, const QPointF &global)
+{
+    return QTabletEvent(type, position, global, QTabletEvent::Stylus, QTabletEvent::Pen, 0.5, 0, 0,
+                        0, 0, 0, Qt::NoModifier, 1, Qt::LeftButton, Qt::LeftButton);
+}
+
+#else
+
+inline void setOrientation(QStyleOptionProgressBar &option, Qt::Orientation orientation)
+{
+    option.state.setFlag(QStyle::State_Horizontal, orientation == Qt::Horizontal);
+}
+
+inline void setShortcutWidth(QStyleOptionMenuItem &option, int width)
+{
+    option.reservedShortcutWidth = width;
+}
+
+inline void setHighDpiPixmaps(bool) {}
+
+inline QString programsPath()
+{
+    return QLibraryInfo::path(QLibraryInfo::BinariesPath);
+}
+
+inline QString toolsPath()
+{
+    return QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath);
+}
+
+inline int firstKey(const QKeySequence &sequence)
+{
+    return sequence[0].toCombined();
+}
+
+inline QTabletEvent penEvent(QEvent::Type type, const QPointF &position, const QPointF &global)
+{
+    static const QPointingDevice pen(
+        QStringLiteral("pen"), 1, QInputDevice::DeviceType::Stylus,
+        QPointingDevice::PointerType::Pen,
+        QInputDevice::Capability::Position | QInputDevice::Capability::Pressure, 1, 1);
+    return QTabletEvent(type, &pen, position, global, 0.5, 0, 0, 0, 0, 0, Qt::NoModifier,
+                        Qt::LeftButton, Qt::LeftButton);
+}
+
+#endif
+
+} // namespace QtVersion
+
+#endif
