@@ -1,5 +1,6 @@
 #include "gallerylanguage.h"
 #include "gallerywindow.h"
+#include "keyboardwalk.h"
 #include "screenshots.h"
 
 #include <nocturne/DarkFusionStyle>
@@ -77,7 +78,12 @@ int main(int argc, char *argv[])
     const QCommandLineOption languageOption(QStringLiteral("language"),
                                             QStringLiteral("Begins in a language, such as de_DE."),
                                             QStringLiteral("name"));
-    parser.addOptions({pageOption, screenshotsOption, languageOption});
+    const QCommandLineOption walkOption(
+        QStringLiteral("keyboard-walk"),
+        QStringLiteral(
+            "Walks through the pages with the Tab key, films it into a PNG file, and ends."),
+        QStringLiteral("file"));
+    parser.addOptions({pageOption, screenshotsOption, languageOption, walkOption});
     parser.process(app);
 
     if (parser.isSet(languageOption) && !useLanguage(parser.value(languageOption)))
@@ -89,6 +95,9 @@ int main(int argc, char *argv[])
             return 1;
         return qEnvironmentVariableIsSet(scaleFactorVariable) || renderAgainAtRatio2() ? 0 : 1;
     }
+
+    if (parser.isSet(walkOption))
+        return filmKeyboardWalk(parser.value(walkOption)) ? 0 : 1;
 
     GalleryWindow window;
     if (!page.isEmpty() && !window.showPage(page)) {

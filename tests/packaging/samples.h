@@ -6,6 +6,7 @@
 
 #include <nocturne/ColorBar>
 #include <nocturne/DarkFusionStyle>
+#include <nocturne/DarkReadableStyle>
 #include <nocturne/DarkUX>
 #include <nocturne/GradientTool>
 #include <nocturne/KeySequenceEdit>
