@@ -7,7 +7,6 @@
 #include <nocturne/ColorButton>
 #include <nocturne/ColorToolButton>
 #include <nocturne/ComboBox>
-#include <nocturne/ComboBoxDelegate>
 #include <nocturne/ComboBoxListView>
 #include <nocturne/ComboFileChooser>
 #include <nocturne/CroppingLabel>
@@ -30,7 +29,6 @@
 #include <nocturne/MidiSequenceEdit>
 #include <nocturne/ProgressBar>
 #include <nocturne/ProgressIndicator>
-#include <nocturne/QBalloonTip>
 #include <nocturne/RadioButton>
 #include <nocturne/RangeSlider>
 #include <nocturne/RoundProgressBar>
@@ -41,7 +39,6 @@
 #include <nocturne/SpanSlider>
 #include <nocturne/SpinBox>
 #include <nocturne/Splitter>
-#include <nocturne/SplitterHandle>
 #include <nocturne/StatusBar>
 #include <nocturne/TabBar>
 #include <nocturne/TabWidget>
@@ -49,12 +46,9 @@
 #include <nocturne/Widget>
 
 #include <QtCore/QStringListModel>
-#include <QtGui/QStandardItemModel>
 #include <QtWidgets/QColorDialog>
-#include <QtWidgets/QVBoxLayout>
 
-#include <QAction>
-
+#include <algorithm>
 #include <limits>
 #include <type_traits>
 
@@ -85,446 +79,349 @@ QVector<QPair<double, QColor>> rampBy(Dice &dice)
     return ramp;
 }
 
-/// One of \a calls, by the dice.
-template <typename... Calls>
-void oneOf(Dice &dice, Calls... calls)
+/// An argument of that type, by the dice.
+template <typename Value>
+Value random(Dice &dice)
 {
-    const std::function<void()> all[] = {calls...};
-    all[dice.roll(static_cast<int>(sizeof...(calls)))]();
+    if constexpr (std::is_same_v<Value, bool>)
+        return dice.coin();
+    else if constexpr (std::is_enum_v<Value>)
+        return static_cast<Value>(dice.roll(9));
+    else if constexpr (std::is_integral_v<Value>)
+        return static_cast<Value>(dice.extremeInt());
+    else if constexpr (std::is_floating_point_v<Value>)
+        return static_cast<Value>(dice.extremeDouble());
+    else if constexpr (std::is_same_v<Value, QString>)
+        return dice.text();
+    else if constexpr (std::is_same_v<Value, QColor>)
+        return colorBy(dice);
+    else if constexpr (std::is_same_v<Value, QFont>)
+        return QFont(dice.text(), 1 + dice.roll(99));
+    else if constexpr (std::is_same_v<Value, QWidget *>)
+        return dice.roll(4) == 0 ? nullptr : new QWidget;
+    else if constexpr (std::is_same_v<Value, QColorDialog *>)
+        return dice.coin() ? nullptr : new QColorDialog;
+    else
+        return rampBy(dice);
 }
 
-QString wrongUnless(bool right, const char *promise)
+template <typename Widget>
+using Call = std::function<void(Widget *, Dice &)>;
+
+/// Calls \a member with arguments by the dice.
+template <typename Widget, typename Result, typename Class, typename... Arguments>
+Call<Widget> toCall(Result (Class::*member)(Arguments...))
 {
-    return right ? QString() : QStringLiteral("broken promise: ") + QLatin1String(promise);
+    return [member](Widget *widget, Dice &dice) {
+        (widget->*member)(random<std::decay_t<Arguments>>(dice)...);
+    };
+}
+template <typename Widget, typename Result, typename Class, typename... Arguments>
+Call<Widget> toCall(Result (Class::*member)(Arguments...) const)
+{
+    return [member](Widget *widget, Dice &dice) {
+        (void)(widget->*member)(random<std::decay_t<Arguments>>(dice)...);
+    };
+}
+template <typename Widget, typename Work>
+Call<Widget> toCall(Work work)
+{
+    return work;
 }
 
-template <typename Widget, typename Call, typename Check>
-Subject subject(const char *name, Call call, Check check)
+using Promise = const char *;
+
+/// One of the calls, members of the class or functions of widget and dice, is made at a time;
+/// \a promise is kept as long as \a isKept says so.
+template <typename Widget, typename Check, typename... Calls>
+Subject checked(const char *name, Promise promise, Check isKept, Calls... calls)
 {
+    const std::vector<Call<Widget>> all{toCall<Widget>(calls)...};
     const auto create = []() -> QWidget * {
         if constexpr (std::is_base_of_v<QSlider, Widget>)
             return new Widget(Qt::Horizontal, nullptr);
         else
             return new Widget;
     };
-    return {name, create, [call](QWidget *w, Dice &dice) { call(static_cast<Widget *>(w), dice); },
-            [check](QWidget *w) { return check(static_cast<Widget *>(w)); }};
+    const auto call = [all](QWidget *widget, Dice &dice) {
+        if (!all.empty())
+            all[static_cast<std::size_t>(dice.roll(static_cast<int>(all.size())))](
+                static_cast<Widget *>(widget), dice);
+    };
+    const auto check = [promise, isKept](QWidget *widget) {
+        return isKept(static_cast<Widget *>(widget))
+                   ? QString()
+                   : QStringLiteral("broken promise: ") + QLatin1String(promise);
+    };
+    return {name, create, call, check};
 }
 
-template <typename Widget, typename Call>
-Subject subject(const char *name, Call call)
+template <typename Widget, typename... Calls>
+Subject subject(const char *name, Calls... calls)
 {
-    return subject<Widget>(name, call, [](Widget *) { return QString(); });
+    return checked<Widget>(
+        name, "", [](Widget *) { return true; }, calls...);
+}
+
+// Calls that several classes share, or that need more than one argument's dice.
+
+template <typename Widget>
+void setRange(Widget *widget, Dice &dice)
+{
+    widget->setRange(dice.rangeEnd(), dice.rangeEnd());
 }
 
 template <typename Widget>
-Subject subject(const char *name)
+void turn(Widget *widget, Dice &dice)
 {
-    return subject<Widget>(name, [](Widget *, Dice &) {});
+    widget->setOrientation(dice.coin() ? Qt::Horizontal : Qt::Vertical);
 }
 
-template <typename List>
-void changeList(List *list, Dice &dice)
+template <typename Tabs>
+void addTab(Tabs *tabs, Dice &dice)
 {
-    oneOf(
-        dice, [&] { list->addItem(dice.text()); },
-        [&] {
-            for (int i = 0; i < 30; ++i)
-                list->addItem(QString::number(i));
-        },
-        [&] { delete list->takeItem(dice.roll(list->count() + 1)); }, [&] { list->clear(); },
-        [&] { list->setCurrentRow(dice.extremeInt()); },
-        [&] {
-            list->setSelectionMode(static_cast<QAbstractItemView::SelectionMode>(dice.roll(5)));
-        },
-        [&] { list->setViewMode(dice.coin() ? QListView::IconMode : QListView::ListMode); },
-        [&] { list->setDragDropMode(static_cast<QAbstractItemView::DragDropMode>(dice.roll(5))); },
-        [&] { list->setLayoutDirection(dice.coin() ? Qt::LeftToRight : Qt::RightToLeft); },
-        [&] { list->scrollToBottom(); }, [&] { list->setItemDelegate(new ItemDelegate(list)); },
-        [&] {
-            if (QListWidgetItem *item = list->item(dice.roll(list->count() + 1)))
-                item->setCheckState(dice.coin() ? Qt::Checked : Qt::Unchecked);
-        });
+    if constexpr (std::is_same_v<Tabs, TabBar>)
+        tabs->addTab(dice.text());
+    else
+        tabs->addTab(new QWidget, dice.text());
 }
 
-void changeTree(TreeWidget *tree, Dice &dice)
+template <typename Container>
+void deleteOne(Container *container, Dice &dice)
 {
-    oneOf(
-        dice, [&] { tree->addTopLevelItem(new QTreeWidgetItem({dice.text()})); },
-        [&] {
-            auto *item = new QTreeWidgetItem(tree, {dice.text()});
-            for (int i = 0; i < 20; ++i)
-                item->addChild(new QTreeWidgetItem({QString::number(i)}));
-            item->setExpanded(dice.coin());
-        },
-        [&] { delete tree->topLevelItem(dice.roll(tree->topLevelItemCount() + 1)); },
-        [&] { tree->clear(); }, [&] { tree->setColumnCount(dice.roll(5)); },
-        [&] { tree->expandAll(); }, [&] { tree->collapseAll(); },
-        [&] { tree->setHeaderHidden(dice.coin()); }, [&] { tree->scrollToBottom(); },
-        [&] {
-            tree->setVerticalScrollMode(dice.coin() ? QAbstractItemView::ScrollPerItem
-                                                    : QAbstractItemView::ScrollPerPixel);
-        });
+    delete container->widget(dice.roll(container->count() + 1));
 }
 
 template <typename Combo>
-void changeCombo(Combo *combo, Dice &dice)
+void addItem(Combo *combo, Dice &dice)
 {
-    oneOf(
-        dice, [&] { combo->addItem(dice.text()); }, [&] { combo->clear(); },
-        [&] { combo->removeItem(dice.roll(combo->count() + 1)); },
-        [&] { combo->setCurrentIndex(dice.extremeInt()); },
-        [&] { combo->setEditable(dice.coin()); }, [&] { combo->showPopup(); },
-        [&] { combo->hidePopup(); }, [&] { combo->insertSeparator(dice.roll(5)); });
+    combo->addItem(dice.text());
 }
 
-QString checkRange(RangeSlider *slider)
+template <typename View>
+void setModel(View *view, Dice &dice)
 {
-    return wrongUnless(slider->minimumValue() <= slider->maximumValue(),
-                       "the range handles are ordered");
+    delete view->model();
+    view->setModel(new QStringListModel(
+        dice.coin() ? QStringList{dice.text(), dice.text()} : QStringList(), view));
 }
 
-QString checkSpan(SpanSlider *slider)
+template <typename List, typename... Calls>
+Subject list(const char *name, Calls... calls)
 {
-    return wrongUnless(slider->lowerValue() <= slider->upperValue()
-                           && slider->lowerValue() >= slider->minimum()
-                           && slider->upperValue() <= slider->maximum(),
-                       "the span is ordered and inside the slider's range");
-}
-
-QString checkRing(RoundProgressBar *ring)
-{
-    return wrongUnless(ring->minimum() <= ring->maximum() && ring->value() >= ring->minimum()
-                           && ring->value() <= ring->maximum(),
-                       "the value is inside the range");
-}
-
-QString checkGradient(GradientTool *tool)
-{
-    const auto ramp = tool->getRamp();
-    bool inside = ramp.size() >= 2;
-    for (const auto &stop : ramp)
-        inside = inside && stop.first >= 0.0 && stop.first <= 1.0;
-    return wrongUnless(inside && tool->getColorTable().size() == 256,
-                       "two stops or more, from 0 to 1");
+    return subject<List>(
+        name, addItem<List>,
+        [](List *list, Dice &) {
+            for (int i = 0; i < 30; ++i)
+                list->addItem(QString::number(i));
+        },
+        [](List *list, Dice &dice) { delete list->takeItem(dice.roll(list->count() + 1)); },
+        [](List *list, Dice &) { list->setItemDelegate(new ItemDelegate(list)); },
+        [](List *list, Dice &dice) {
+            if (QListWidgetItem *item = list->item(dice.roll(list->count() + 1)))
+                item->setCheckState(dice.coin() ? Qt::Checked : Qt::Unchecked);
+        },
+        [](List *list, Dice &dice) {
+            list->setSelectionMode(static_cast<QAbstractItemView::SelectionMode>(dice.roll(5)));
+            list->setDragDropMode(static_cast<QAbstractItemView::DragDropMode>(dice.roll(5)));
+            list->setViewMode(dice.coin() ? QListView::IconMode : QListView::ListMode);
+        },
+        &List::clear, QOverload<int>::of(&List::setCurrentRow), &List::scrollToBottom, calls...);
 }
 
 std::vector<Subject> makeSubjects()
 {
     return {
-        subject<CheckBox>("CheckBox", [](CheckBox *w, Dice &d) { w->setText(d.text()); }),
-        subject<CheckComboBox>("CheckComboBox",
-                               [](CheckComboBox *w, Dice &d) {
-                                   oneOf(
-                                       d,
-                                       [&] {
-                                           w->addCheckItem(d.text(), d.roll(9),
-                                                           static_cast<Qt::CheckState>(d.roll(3)));
-                                       },
-                                       [&] { w->setNoneCheckedText(d.text()); },
-                                       [&] { w->setAllCheckedText(d.text()); },
-                                       [&] { w->showPopup(); }, [&] { w->hidePopup(); },
-                                       [&] { w->clear(); });
-                               }),
-        subject<ClickableLabel>("ClickableLabel",
-                                [](ClickableLabel *w, Dice &d) { w->setText(d.text()); }),
-        subject<ColorBar>("ColorBar",
-                          [](ColorBar *w, Dice &d) {
-                              oneOf(
-                                  d, [&] { w->setColor(colorBy(d)); },
-                                  [&] { w->setElipse(d.coin()); }, [&] { w->startFlicker(); },
-                                  [&] { w->stopFlicker(); });
-                          }),
-        subject<ColorButton>("ColorButton",
-                             [](ColorButton *w, Dice &d) {
-                                 oneOf(
-                                     d, [&] { w->setColor(colorBy(d)); },
-                                     [&] { w->setRealtimeChange(d.coin()); });
-                             }),
-        subject<ColorToolButton>("ColorToolButton",
-                                 [](ColorToolButton *w, Dice &d) { w->setText(d.text()); }),
-        subject<ComboBox>("ComboBox",
-                          [](ComboBox *w, Dice &d) {
-                              if (d.coin())
-                                  changeCombo(w, d);
-                              else
-                                  oneOf(
-                                      d, [&] { w->addParentItem(d.text()); },
-                                      [&] { w->addChildItem(d.text(), d.roll(9)); });
-                          }),
-        subject<ComboBoxListView>(
-            "ComboBoxListView",
-            [](ComboBoxListView *w, Dice &d) {
-                delete w->model();
-                w->setModel(new QStringListModel(
-                    d.coin() ? QStringList{d.text(), d.text()} : QStringList(), w));
-            }),
-        subject<ComboFileChooser>("ComboFileChooser",
-                                  [](ComboFileChooser *w, Dice &d) {
-                                      oneOf(
-                                          d, [&] { w->addItem(d.text()); }, [&] { w->clear(); },
-                                          [&] { w->setFileName(d.text()); },
-                                          [&] { w->setLastSelectedDir(d.text()); });
-                                  }),
-        subject<CroppingLabel>(
-            "CroppingLabel",
-            [](CroppingLabel *w, Dice &d) {
-                oneOf(
-                    d, [&] { w->setText(d.text()); }, [&] { w->setEditable(d.coin()); },
-                    [&] { w->setElideMode(static_cast<Qt::TextElideMode>(d.roll(4))); },
-                    [&] { w->editBegin(); }, [&] { w->minimizeMaximumWidth(); });
-            }),
-        subject<DelayButton>("DelayButton",
-                             [](DelayButton *w, Dice &d) {
-                                 oneOf(
-                                     d, [&] { w->setDelay(d.roll(20) - 5); },
-                                     [&] { w->setCheckable(d.coin()); }, [&] { w->toggle(); });
-                             }),
-        subject<DelayToolButton>("DelayToolButton",
-                                 [](DelayToolButton *w, Dice &d) {
-                                     oneOf(
-                                         d, [&] { w->setDelay(d.roll(20) - 5); },
-                                         [&] { w->setCheckable(d.coin()); }, [&] { w->toggle(); });
-                                 }),
-        subject<Dial>("Dial", [](Dial *w, Dice &d) { w->setRange(d.rangeEnd(), d.rangeEnd()); }),
-        subject<FileChooser>("FileChooser",
-                             [](FileChooser *w, Dice &d) {
-                                 oneOf(
-                                     d, [&] { w->setFileName(d.text()); },
-                                     [&] {
-                                         w->setMode(d.coin() ? FileChooser::OpenFile
-                                                             : FileChooser::OpenDirectory);
-                                     });
-                             }),
-        subject<FontComboBox>("FontComboBox",
-                              [](FontComboBox *w, Dice &d) {
-                                  oneOf(
-                                      d, [&] { w->showPopup(); }, [&] { w->hidePopup(); },
-                                      [&] { w->setCurrentFont(QFont(d.text())); });
-                              }),
-        subject<Frame>("Frame",
-                       [](Frame *w, Dice &d) {
-                           oneOf(
-                               d, [&] { w->setFrameShape(static_cast<QFrame::Shape>(d.roll(7))); },
-                               [&] {
-                                   w->setFrameShadow(static_cast<QFrame::Shadow>(16 << d.roll(3)));
-                               });
-                       }),
-        subject<GradientTool>(
-            "GradientTool",
-            [](GradientTool *w, Dice &d) {
-                oneOf(
-                    d, [&] { w->setRamp(rampBy(d)); }, [&] { w->setActiveSlider(d.extremeInt()); },
-                    [&] { w->setSliderColor(d.extremeInt(), colorBy(d)); },
-                    [&] { w->setAlphaValue(d.extremeDouble()); },
-                    [&] { w->setOpacity(d.extremeDouble()); }, [&] { w->colorChange(colorBy(d)); },
-                    [&] { w->setCurrentColor(colorBy(d)); }, [&] { w->setSlideUpdate(d.coin()); },
-                    [&] { w->setColorChoose(d.coin() ? nullptr : new QColorDialog); },
-                    [&] { (void)w->getSliderAlpha(d.extremeInt()); });
+        subject<CheckBox>("CheckBox", &CheckBox::setText),
+        subject<CheckComboBox>(
+            "CheckComboBox",
+            [](CheckComboBox *w, Dice &d) {
+                w->addCheckItem(d.text(), d.roll(9), static_cast<Qt::CheckState>(d.roll(3)));
             },
-            checkGradient),
-        subject<GroupBox>("GroupBox",
-                          [](GroupBox *w, Dice &d) {
-                              oneOf(
-                                  d, [&] { w->setTitle(d.text()); },
-                                  [&] { w->setCheckable(d.coin()); },
-                                  [&] { w->setChecked(d.coin()); }, [&] { new QWidget(w); });
-                          }),
-        subject<KeySequenceEdit>("KeySequenceEdit",
-                                 [](KeySequenceEdit *w, Dice &d) {
-                                     const QKeySequence keys(d.extremeInt());
-                                     oneOf(
-                                         d, [&] { w->setKeySequence(keys); },
-                                         [&] { w->setDefaultKeySequence(keys); },
-                                         [&] { w->clearKeySequence(); },
-                                         [&] { w->defaultKeySequence(); });
-                                 }),
+            &CheckComboBox::setNoneCheckedText, &CheckComboBox::setAllCheckedText,
+            &CheckComboBox::showPopup, &CheckComboBox::hidePopup, &CheckComboBox::clear),
+        subject<ClickableLabel>("ClickableLabel", &ClickableLabel::setText),
+        subject<ColorBar>("ColorBar", &ColorBar::setColor, &ColorBar::setElipse,
+                          &ColorBar::startFlicker, &ColorBar::stopFlicker),
+        subject<ColorButton>("ColorButton", &ColorButton::setColor,
+                             &ColorButton::setRealtimeChange),
+        subject<ColorToolButton>("ColorToolButton", &ColorToolButton::setText),
+        subject<ComboBox>(
+            "ComboBox", addItem<ComboBox>, &ComboBox::addParentItem,
+            [](ComboBox *w, Dice &d) { w->addChildItem(d.text(), d.roll(9)); },
+            [](ComboBox *w, Dice &d) { w->removeItem(d.roll(w->count() + 1)); },
+            [](ComboBox *w, Dice &d) { w->insertSeparator(d.roll(5)); }, &ComboBox::clear,
+            &ComboBox::setCurrentIndex, &ComboBox::setEditable, &ComboBox::showPopup,
+            &ComboBox::hidePopup),
+        subject<ComboBoxListView>("ComboBoxListView", setModel<ComboBoxListView>),
+        subject<ComboFileChooser>("ComboFileChooser", addItem<ComboFileChooser>,
+                                  &ComboFileChooser::clear, &ComboFileChooser::setFileName,
+                                  &ComboFileChooser::setLastSelectedDir),
+        subject<CroppingLabel>("CroppingLabel", &CroppingLabel::setText,
+                               &CroppingLabel::setEditable, &CroppingLabel::setElideMode,
+                               &CroppingLabel::editBegin, &CroppingLabel::minimizeMaximumWidth),
+        subject<DelayButton>(
+            "DelayButton", [](DelayButton *w, Dice &d) { w->setDelay(d.roll(20) - 5); },
+            &DelayButton::setCheckable, &DelayButton::toggle),
+        subject<DelayToolButton>(
+            "DelayToolButton", [](DelayToolButton *w, Dice &d) { w->setDelay(d.roll(20) - 5); },
+            &DelayToolButton::setCheckable, &DelayToolButton::toggle),
+        subject<Dial>("Dial", setRange<Dial>),
+        subject<FileChooser>("FileChooser", &FileChooser::setFileName, &FileChooser::setMode),
+        subject<FontComboBox>("FontComboBox", &FontComboBox::showPopup, &FontComboBox::hidePopup,
+                              &FontComboBox::setCurrentFont),
+        subject<Frame>("Frame", &Frame::setFrameShape,
+                       [](Frame *w, Dice &d) {
+                           w->setFrameShadow(static_cast<QFrame::Shadow>(16 << d.roll(3)));
+                       }),
+        checked<GradientTool>(
+            "GradientTool", "two stops or more, from 0 to 1",
+            [](GradientTool *w) {
+                const auto ramp = w->getRamp();
+                return ramp.size() >= 2 && w->getColorTable().size() == 256
+                       && std::all_of(ramp.begin(), ramp.end(), [](const auto &stop) {
+                              return stop.first >= 0.0 && stop.first <= 1.0;
+                          });
+            },
+            &GradientTool::setRamp, &GradientTool::setActiveSlider, &GradientTool::setSliderColor,
+            &GradientTool::setAlphaValue, &GradientTool::setOpacity, &GradientTool::colorChange,
+            &GradientTool::setCurrentColor, &GradientTool::setSlideUpdate,
+            &GradientTool::setColorChoose, &GradientTool::getSliderAlpha),
+        subject<GroupBox>("GroupBox", &GroupBox::setTitle, &GroupBox::setCheckable,
+                          &GroupBox::setChecked, [](GroupBox *w, Dice &) { new QWidget(w); }),
+        subject<KeySequenceEdit>(
+            "KeySequenceEdit",
+            [](KeySequenceEdit *w, Dice &d) { w->setKeySequence(d.extremeInt()); },
+            [](KeySequenceEdit *w, Dice &d) { w->setDefaultKeySequence(d.extremeInt()); },
+            &KeySequenceEdit::clearKeySequence,
+            [](KeySequenceEdit *w, Dice &) { w->defaultKeySequence(); }),
         subject<LetterBoxWidget>(
-            "LetterBoxWidget",
+            "LetterBoxWidget", &LetterBoxWidget::setWidget,
+            [](LetterBoxWidget *w, Dice &) { delete w->widget(); },
             [](LetterBoxWidget *w, Dice &d) {
-                oneOf(
-                    d, [&] { w->setWidget(d.roll(4) == 0 ? nullptr : new QWidget); },
-                    [&] { delete w->widget(); },
-                    [&] {
-                        if (w->widget())
-                            w->widget()->setSizeIncrement(d.roll(20), d.roll(20));
-                    },
-                    [&] { w->setMargin(d.extremeInt()); },
-                    [&] { w->setResizeDelay(static_cast<unsigned>(d.roll(9))); },
-                    [&] { w->setBackgroundColor(colorBy(d)); }, [&] { w->clearBackgroundColor(); },
-                    [&] { w->resizeWidget(); });
-            }),
-        subject<LineEdit>("LineEdit", [](LineEdit *w, Dice &d) { w->setText(d.text()); }),
+                if (w->widget())
+                    w->widget()->setSizeIncrement(d.roll(20), d.roll(20));
+            },
+            &LetterBoxWidget::setMargin,
+            [](LetterBoxWidget *w, Dice &d) { w->setResizeDelay(unsigned(d.roll(9))); },
+            &LetterBoxWidget::setBackgroundColor, &LetterBoxWidget::clearBackgroundColor,
+            &LetterBoxWidget::resizeWidget),
+        subject<LineEdit>("LineEdit", &LineEdit::setText),
         subject<LineEditButton>("LineEditButton"),
-        subject<ListView>("ListView",
-                          [](ListView *w, Dice &d) {
-                              delete w->model();
-                              w->setModel(new QStringListModel({d.text(), d.text()}, w));
-                          }),
-        subject<ListWidget>(
-            "ListWidget",
-            [](ListWidget *w, Dice &d) {
-                if (d.coin())
-                    changeList(w, d);
-                else
-                    oneOf(
-                        d, [&] { w->shadow(d.coin()); },
-                        [&] { w->setViewportMargins(d.roll(9), d.roll(9), d.roll(9), d.roll(9)); },
-                        [&] { (void)w->findItem(d.text()); });
-            }),
-        subject<Menu>("Menu",
-                      [](Menu *w, Dice &d) {
-                          oneOf(
-                              d, [&] { w->addAction(d.text()); }, [&] { w->clear(); },
-                              [&] { w->addMenu(d.text())->addAction(d.text()); },
-                              [&] { w->addSeparator(); }, [&] { w->popup(QPoint(5, 5)); },
-                              [&] { w->close(); });
-                      }),
+        subject<ListView>("ListView", setModel<ListView>),
+        list<ListWidget>("ListWidget", &ListWidget::shadow, &ListWidget::findItem,
+                         [](ListWidget *w, Dice &d) {
+                             w->setViewportMargins(d.roll(9), d.roll(9), d.roll(9), d.roll(9));
+                         }),
+        subject<Menu>(
+            "Menu", [](Menu *w, Dice &d) { w->addAction(d.text()); }, &Menu::clear,
+            [](Menu *w, Dice &d) { w->addMenu(d.text())->addAction(d.text()); },
+            [](Menu *w, Dice &) { w->popup(QPoint(5, 5)); }, &Menu::close),
         subject<MidiSequenceEdit>(
             "MidiSequenceEdit",
             [](MidiSequenceEdit *w, Dice &d) {
                 static QMidiMessage edited;
+                w->setKeySequence(d.coin() ? &edited : nullptr);
+            },
+            [](MidiSequenceEdit *w, Dice &d) {
                 QMidiMessage message = messageBy(d);
-                oneOf(
-                    d, [&] { w->setKeySequence(d.coin() ? &edited : nullptr); },
-                    [&] { w->updateKeySequence(&message); }, [&] { w->updateKeySequence(nullptr); },
-                    [&] { w->restoreKeySequence(); }, [&] { w->updateOldKeySequence(); },
-                    [&] { w->clearKeySequence(); });
-            }),
-        subject<ProgressBar>("ProgressBar",
-                             [](ProgressBar *w, Dice &d) {
-                                 oneOf(
-                                     d, [&] { w->setRange(d.rangeEnd(), d.rangeEnd()); },
-                                     [&] { w->setValue(d.extremeInt()); },
-                                     [&] { w->setFullSize(d.coin()); });
-                             }),
-        subject<ProgressIndicator>("ProgressIndicator",
-                                   [](ProgressIndicator *w, Dice &d) {
-                                       oneOf(
-                                           d, [&] { w->startAnimation(); },
-                                           [&] { w->stopAnimation(); },
-                                           [&] { w->setAnimationDelay(d.roll(30) - 5); },
-                                           [&] { w->setColor(colorBy(d)); });
-                                   }),
-        subject<RadioButton>("RadioButton", [](RadioButton *w, Dice &d) { w->setText(d.text()); }),
-        subject<RangeSlider>(
-            "RangeSlider",
-            [](RangeSlider *w, Dice &d) {
-                const int a = d.extremeInt();
-                const int b = d.extremeInt();
-                oneOf(
-                    d, [&] { w->setRange(a / 4, b / 4); },
-                    [&] { w->setValues(a, b, d.extremeInt()); },
-                    [&] { w->setPositions(a, b, d.extremeInt()); }, [&] { w->setMinimumValue(a); },
-                    [&] { w->setMaximumValue(a); }, [&] { w->setMainValue(a); },
-                    [&] { w->setEnableRange(d.coin()); }, [&] { w->setSymmetricMoves(d.coin()); },
-                    [&] { w->positionChange(a); },
-                    [&] { w->setOrientation(d.coin() ? Qt::Horizontal : Qt::Vertical); },
-                    [&] { w->setFrameRate(d.extremeDouble()); },
-                    [&] { w->setHandleToolTip(d.text()); }, [&] { w->setTracking(d.coin()); },
-                    [&] { w->setInvertedAppearance(d.coin()); });
+                w->updateKeySequence(d.roll(4) ? &message : nullptr);
             },
-            checkRange),
-        subject<RoundProgressBar>(
-            "RoundProgressBar",
+            &MidiSequenceEdit::restoreKeySequence, &MidiSequenceEdit::updateOldKeySequence,
+            &MidiSequenceEdit::clearKeySequence),
+        subject<ProgressBar>("ProgressBar", setRange<ProgressBar>, &ProgressBar::setValue,
+                             &ProgressBar::setFullSize),
+        subject<ProgressIndicator>(
+            "ProgressIndicator", &ProgressIndicator::startAnimation,
+            &ProgressIndicator::stopAnimation, &ProgressIndicator::setColor,
+            [](ProgressIndicator *w, Dice &d) { w->setAnimationDelay(d.roll(30) - 5); }),
+        subject<RadioButton>("RadioButton", &RadioButton::setText),
+        checked<RangeSlider>(
+            "RangeSlider", "the range handles are ordered",
+            [](RangeSlider *w) { return w->minimumValue() <= w->maximumValue(); },
+            setRange<RangeSlider>, turn<RangeSlider>, &RangeSlider::setValues,
+            &RangeSlider::setPositions, &RangeSlider::setMinimumValue,
+            &RangeSlider::setMaximumValue, &RangeSlider::setMainValue, &RangeSlider::setEnableRange,
+            &RangeSlider::setSymmetricMoves, &RangeSlider::positionChange,
+            &RangeSlider::setFrameRate, &RangeSlider::setHandleToolTip, &RangeSlider::setTracking,
+            &RangeSlider::setInvertedAppearance),
+        checked<RoundProgressBar>(
+            "RoundProgressBar", "the value is inside the range",
+            [](RoundProgressBar *w) {
+                return w->minimum() <= w->maximum() && w->value() >= w->minimum()
+                       && w->value() <= w->maximum();
+            },
+            QOverload<double, double>::of(&RoundProgressBar::setRange),
+            QOverload<double>::of(&RoundProgressBar::setValue),
+            QOverload<double>::of(&RoundProgressBar::setMinimum),
+            QOverload<double>::of(&RoundProgressBar::setMaximum),
+            &RoundProgressBar::setNullPosition, &RoundProgressBar::setOutlinePenWidth,
+            &RoundProgressBar::setDataPenWidth, &RoundProgressBar::setFormat,
+            &RoundProgressBar::setDataColors, &RoundProgressBar::setBarStyle,
+            &RoundProgressBar::setTitle,
+            [](RoundProgressBar *w, Dice &d) { w->setDecimals(d.roll(400) - 50); },
             [](RoundProgressBar *w, Dice &d) {
-                const double a = d.extremeDouble();
-                oneOf(
-                    d, [&] { w->setRange(a, d.extremeDouble()); }, [&] { w->setValue(a); },
-                    [&] { w->setMinimum(a); }, [&] { w->setMaximum(a); },
-                    [&] { w->setNullPosition(a); }, [&] { w->setOutlinePenWidth(a); },
-                    [&] { w->setDataPenWidth(a); }, [&] { w->setDecimals(d.roll(400) - 50); },
-                    [&] { w->setFormat(d.text()); }, [&] { w->setDataColors(rampBy(d)); },
-                    [&] { w->setBarStyle(static_cast<RoundProgressBar::BarStyle>(d.roll(3))); },
-                    [&] {
-                        w->setTitle(d.text(), QFont(), QFont(QString(), 1 + d.roll(99)), a,
-                                    d.coin());
-                    },
-                    [&] { (void)w->humanReadableSize(qint64(d.extremeInt()) << d.roll(32)); });
-            },
-            checkRing),
-        subject<SearchLineEdit>("SearchLineEdit",
-                                [](SearchLineEdit *w, Dice &d) { w->setText(d.text()); }),
-        subject<SimpleListWidget>("SimpleListWidget", changeList<SimpleListWidget>),
-        subject<SlideCheckBox>("SlideCheckBox", [](SlideCheckBox *w, Dice &) { w->toggle(); }),
-        subject<Slider>(
-            "Slider",
-            [](Slider *w, Dice &d) {
-                const int a = d.extremeInt();
-                oneOf(
-                    d, [&] { w->setRange(a / 4, d.rangeEnd()); }, [&] { w->setValue(a); },
-                    [&] { w->positionChange(a); }, [&] { w->setEnableDirectJump(d.coin()); },
-                    [&] { w->setKeyPressed(d.coin()); },
-                    [&] { w->setOrientation(d.coin() ? Qt::Horizontal : Qt::Vertical); });
+                (void)w->humanReadableSize(qint64(d.extremeInt()) << d.roll(32));
             }),
-        subject<SpanSlider>(
-            "SpanSlider",
-            [](SpanSlider *w, Dice &d) {
-                const int a = d.extremeInt();
-                oneOf(
-                    d, [&] { w->setRange(a / 4, d.rangeEnd()); },
-                    [&] { w->setSpan(a, d.extremeInt()); }, [&] { w->setLowerValue(a); },
-                    [&] { w->setUpperValue(a); }, [&] { w->setLowerPosition(a); },
-                    [&] { w->setUpperPosition(a); }, [&] { w->swapControls(); },
-                    [&] {
-                        w->setHandleMovementMode(
-                            static_cast<SpanSlider::HandleMovementMode>(d.roll(3)));
-                    },
-                    [&] {
-                        w->triggerAction(static_cast<QAbstractSlider::SliderAction>(d.roll(8)),
-                                         d.coin());
-                    },
-                    [&] { w->setTracking(d.coin()); },
-                    [&] { w->setOrientation(d.coin() ? Qt::Horizontal : Qt::Vertical); });
+        subject<SearchLineEdit>("SearchLineEdit", &SearchLineEdit::setText),
+        list<SimpleListWidget>("SimpleListWidget"),
+        subject<SlideCheckBox>("SlideCheckBox", &SlideCheckBox::toggle),
+        subject<Slider>("Slider", setRange<Slider>, turn<Slider>, &Slider::setValue,
+                        &Slider::positionChange, &Slider::setEnableDirectJump,
+                        &Slider::setKeyPressed),
+        checked<SpanSlider>(
+            "SpanSlider", "the span is ordered and inside the slider's range",
+            [](SpanSlider *w) {
+                return w->lowerValue() <= w->upperValue() && w->lowerValue() >= w->minimum()
+                       && w->upperValue() <= w->maximum();
             },
-            checkSpan),
-        subject<SpinBox>("SpinBox",
-                         [](SpinBox *w, Dice &d) {
-                             oneOf(
-                                 d, [&] { w->setRange(d.rangeEnd(), d.rangeEnd()); },
-                                 [&] { w->setValue(d.extremeDouble()); },
-                                 [&] { w->setValue(d.extremeDouble(), d.coin()); });
-                         }),
-        subject<Splitter>("Splitter",
-                          [](Splitter *w, Dice &d) {
-                              oneOf(
-                                  d, [&] { w->addWidget(new QWidget); },
-                                  [&] { delete w->widget(d.roll(w->count() + 1)); },
-                                  [&] {
-                                      w->setOrientation(d.coin() ? Qt::Horizontal : Qt::Vertical);
-                                  },
-                                  [&] {
-                                      w->setSizes({d.extremeInt(), d.extremeInt()});
-                                  },
-                                  [&] { w->setHandleWidth(d.roll(40) - 5); });
-                          }),
-        subject<StatusBar>("StatusBar",
-                           [](StatusBar *w, Dice &d) {
-                               w->showMessage(d.text(), d.roll(20));
-                               w->setSizeGripEnabled(d.coin());
-                           }),
-        subject<TabBar>("TabBar",
-                        [](TabBar *w, Dice &d) {
-                            oneOf(
-                                d, [&] { w->addTab(d.text()); },
-                                [&] { w->removeTab(d.roll(w->count() + 1)); },
-                                [&] { w->setWidth(d.roll(3000) - 100); },
-                                [&] { w->setShape(static_cast<QTabBar::Shape>(d.roll(8))); },
-                                [&] { w->setTabsClosable(d.coin()); },
-                                [&] { w->setMovable(d.coin()); },
-                                [&] { w->setCurrentIndex(d.extremeInt()); });
-                        }),
+            setRange<SpanSlider>, turn<SpanSlider>, &SpanSlider::setSpan,
+            &SpanSlider::setLowerValue, &SpanSlider::setUpperValue, &SpanSlider::setLowerPosition,
+            &SpanSlider::setUpperPosition, &SpanSlider::swapControls,
+            &SpanSlider::setHandleMovementMode, &SpanSlider::triggerAction,
+            &SpanSlider::setTracking),
+        subject<SpinBox>("SpinBox", setRange<SpinBox>, QOverload<double>::of(&SpinBox::setValue),
+                         QOverload<double, bool>::of(&SpinBox::setValue)),
+        subject<Splitter>(
+            "Splitter", &Splitter::addWidget, deleteOne<Splitter>, turn<Splitter>,
+            [](Splitter *w, Dice &d) {
+                w->setSizes({d.extremeInt(), d.extremeInt()});
+            },
+            [](Splitter *w, Dice &d) { w->setHandleWidth(d.roll(40) - 5); }),
+        subject<StatusBar>(
+            "StatusBar", [](StatusBar *w, Dice &d) { w->showMessage(d.text(), d.roll(20)); },
+            &StatusBar::setSizeGripEnabled),
+        subject<TabBar>(
+            "TabBar", addTab<TabBar>,
+            [](TabBar *w, Dice &d) { w->removeTab(d.roll(w->count() + 1)); },
+            [](TabBar *w, Dice &d) { w->setWidth(d.roll(3000) - 100); },
+            [](TabBar *w, Dice &d) { w->setShape(static_cast<QTabBar::Shape>(d.roll(8))); },
+            &TabBar::setTabsClosable, &TabBar::setMovable, &TabBar::setCurrentIndex),
         subject<TabWidget>(
-            "TabWidget",
+            "TabWidget", addTab<TabWidget>, deleteOne<TabWidget>,
+            [](TabWidget *w, Dice &d) { w->setTabBarWidth(d.roll(3000) - 100); },
             [](TabWidget *w, Dice &d) {
-                oneOf(
-                    d, [&] { w->addTab(new QWidget, d.text()); },
-                    [&] { delete w->widget(d.roll(w->count() + 1)); },
-                    [&] { w->setTabBarWidth(d.roll(3000) - 100); },
-                    [&] { w->setTabPosition(static_cast<QTabWidget::TabPosition>(d.roll(4))); },
-                    [&] { w->setTabsClosable(d.coin()); }, [&] { w->setMovable(d.coin()); });
-            }),
-        subject<TreeWidget>("TreeWidget", changeTree),
+                w->setTabPosition(static_cast<QTabWidget::TabPosition>(d.roll(4)));
+            },
+            &TabWidget::setTabsClosable, &TabWidget::setMovable),
+        subject<TreeWidget>(
+            "TreeWidget",
+            [](TreeWidget *w, Dice &d) {
+                auto *item = new QTreeWidgetItem(w, {d.text()});
+                for (int i = d.coin() ? 20 : 0; i > 0; --i)
+                    item->addChild(new QTreeWidgetItem({QString::number(i)}));
+                item->setExpanded(d.coin());
+            },
+            [](TreeWidget *w, Dice &d) {
+                delete w->topLevelItem(d.roll(w->topLevelItemCount() + 1));
+            },
+            [](TreeWidget *w, Dice &d) { w->setColumnCount(d.roll(5)); },
+            [](TreeWidget *w, Dice &d) {
+                w->setVerticalScrollMode(d.coin() ? QAbstractItemView::ScrollPerItem
+                                                  : QAbstractItemView::ScrollPerPixel);
+            },
+            &TreeWidget::clear, &TreeWidget::expandAll, &TreeWidget::collapseAll,
+            &TreeWidget::setHeaderHidden, &TreeWidget::scrollToBottom),
         subject<Widget>("Widget"),
     };
 }
@@ -533,58 +430,32 @@ std::vector<Subject> makeSubjects()
 
 int Dice::extremeInt()
 {
-    switch (roll(8)) {
-    case 0:
-        return std::numeric_limits<int>::min();
-    case 1:
-        return std::numeric_limits<int>::max();
-    case 2:
-        return -1;
-    case 3:
-        return 0;
-    case 4:
-        return roll(1000000) - 500000;
-    default:
-        return roll(200) - 50;
-    }
+    const int extremes[] = {std::numeric_limits<int>::min(), std::numeric_limits<int>::max(), -1, 0,
+                            roll(1000000) - 500000};
+    const int which = roll(8);
+    return which < 5 ? extremes[which] : roll(200) - 50;
 }
 
 double Dice::extremeDouble()
 {
-    switch (roll(10)) {
-    case 0:
-        return std::numeric_limits<double>::quiet_NaN();
-    case 1:
-        return std::numeric_limits<double>::infinity();
-    case 2:
-        return -std::numeric_limits<double>::infinity();
-    case 3:
-        return std::numeric_limits<double>::max();
-    case 4:
-        return -1e-300;
-    default:
-        return roll(2000) / 1000.0 - 0.5;
-    }
+    using Limits = std::numeric_limits<double>;
+    const double extremes[] = {Limits::quiet_NaN(), Limits::infinity(), -Limits::infinity(),
+                               Limits::max(), -1e-300};
+    const int which = roll(10);
+    return which < 5 ? extremes[which] : roll(2000) / 1000.0 - 0.5;
 }
 
 QString Dice::text()
 {
-    switch (roll(8)) {
-    case 0:
-        return QString();
-    case 1:
-        return QString(500, QLatin1Char('W'));
-    case 2:
-        return QStringLiteral("&Mnemonic\tCtrl+M");
-    case 3:
-        return QStringLiteral("two\nlines <b>bold</b> %v %p %byte %connect");
-    case 4:
-        return QString::fromUtf8("\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d \xf0\x9f\x8e\xac e\xcc\x81");
-    case 5:
-        return QString(QChar(0xd800)) + QChar(0) + QLatin1Char('x');
-    default:
-        return QStringLiteral("Clip %1").arg(roll(100));
-    }
+    const QString texts[] = {
+        QString(),
+        QString(500, QLatin1Char('W')),
+        QStringLiteral("&Mnemonic\tCtrl+M"),
+        QStringLiteral("two\nlines <b>bold</b> %v %p %byte %connect"),
+        QString::fromUtf8("\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d \xf0\x9f\x8e\xac e\xcc\x81"),
+        QString(QChar(0xd800)) + QChar(0) + QLatin1Char('x'),
+        QStringLiteral("Clip %1").arg(roll(100))};
+    return texts[qMin(roll(8), 6)];
 }
 
 const std::vector<Subject> &subjects()

@@ -58,20 +58,20 @@ MakeWidget groupBox(bool checkable, bool checked, bool mirrored = false)
     };
 }
 
-/// A tab widget whose pages do not cover what it paints.
-TabWidget *tabWidget(const QStringList &tabs)
+/// With these tabs, and pages that do not cover what the widget paints.
+TabWidget *tabWidget(const QString &tabs)
 {
     auto *widget = sized<TabWidget>(400, 60);
-    for (const QString &text : tabs)
+    for (const QString &text : tabs.split(','))
         widget->addTab(new QWidget, text);
     widget->ensurePolished();
     return widget;
 }
 
-TabBar *tabBar(const QStringList &tabs)
+TabBar *tabBar(const QString &tabs)
 {
     auto *bar = sized<TabBar>(400, 30);
-    for (const QString &text : tabs)
+    for (const QString &text : tabs.split(','))
         bar->addTab(text);
     return bar;
 }
@@ -166,28 +166,19 @@ private Q_SLOTS:
                     "none 40,0 0,12 79,12 4,22 75,22 40,23 1,1",
                     "w-11 80,2 2,24 157,24 80,42; w+33/96 80,44; none 80,1 80,46 8,44 2,2");
         addPainting(
-            "tab bar",
-            [] {
-                return tabBar({"", "M"});
-            },
+            "tab bar", [] { return tabBar(",M"); },
             "w-8 100,1; w-11 100,10; w-16 100,27; black/128|w-8 100,0; black/128 100,28; "
             "none 100,29",
             "w-11 200,20; w-14 200,40; black/128 200,56; none 200,57");
         addPainting(
-            "selected tab",
-            [] {
-                return tabBar({" ", ""});
-            },
+            "selected tab", [] { return tabBar(" ,"); },
             "w+10 50,4; w+7 50,11; w+0 50,29; w-11 3,10; w+7 5,11", "w+4 100,40");
         addPainting(
-            "tab widget",
-            [] {
-                return tabWidget({"A", ""});
-            },
+            "tab widget", [] { return tabWidget(",A"); },
             "none 0,40 399,40 200,58; w+0 1,40 398,40 200,57",
             "none 1,80 798,80 400,116; w+0 2,80 797,80 400,115");
         addPainting(
-            "one textless tab", [] { return tabWidget({""}); },
+            "one textless tab", [] { return tabWidget(""); },
             "black 0,45 1,45 0,59 1,59; w+20/128 2,59; w+20/128|w+0 2,45; w+0 3,45; "
             "none 3,59",
             "black 0,90 2,90; w+0 5,90; w+20/128|w+0 3,90 4,90");
@@ -258,7 +249,7 @@ private Q_SLOTS:
 
     void tabCaptionsFollowTheMouse()
     {
-        const std::unique_ptr<TabBar> bar(tabBar({"MMM", "MMM", ""}));
+        const std::unique_ptr<TabBar> bar(tabBar("MMM,MMM,"));
         QVERIFY(TestSupport::showExposed(bar.get()));
         const auto isLit = [&](int tab, const QColor &color) {
             return count(TestSupport::render(*bar), bar->tabRect(tab), color) > 5;
@@ -276,7 +267,7 @@ private Q_SLOTS:
 
     void tabWidths()
     {
-        const std::unique_ptr<TabBar> bar(tabBar({"Media", "Longer than its tab is wide", ""}));
+        const std::unique_ptr<TabBar> bar(tabBar("Media,Longer than its tab is wide,"));
         QVERIFY(TestSupport::showExposed(bar.get()));
         QVERIFY(bar->tabRect(2).width() >= 212);
         bar->removeTab(2);
@@ -286,7 +277,7 @@ private Q_SLOTS:
         QCOMPARE(bar->tabRect(1), QRect(120, 0, 120, 30));
         QCOMPARE(bar->width(), 240);
 
-        const std::unique_ptr<TabWidget> tabs(tabWidget({"Media", "Audio"}));
+        const std::unique_ptr<TabWidget> tabs(tabWidget("Media,Audio"));
         tabs->setTabBarWidth(120);
         QVERIFY(TestSupport::showExposed(tabs.get()));
         QCOMPARE(tabs->findChild<TabBar *>()->tabRect(1), QRect(120, 0, 120, 30));
