@@ -383,7 +383,8 @@ std::vector<Subject> makeSubjects()
         subject<SpinBox>("SpinBox", setRange<SpinBox>, QOverload<double>::of(&SpinBox::setValue),
                          QOverload<double, bool>::of(&SpinBox::setValue)),
         subject<Splitter>(
-            "Splitter", &Splitter::addWidget, deleteOne<Splitter>, turn<Splitter>,
+            "Splitter", [](Splitter *w, Dice &) { w->addWidget(new QWidget); }, deleteOne<Splitter>,
+            turn<Splitter>,
             [](Splitter *w, Dice &d) {
                 w->setSizes({d.extremeInt(), d.extremeInt()});
             },
