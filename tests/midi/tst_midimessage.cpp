@@ -1,7 +1,16 @@
+#include "gestures.h"
+#include "probes.h"
+
+#include <nocturne/DarkFusionStyle>
+#include <nocturne/DarkUX>
+#include <nocturne/KeySequenceEdit>
+#include <nocturne/MidiSequenceEdit>
 #include <nocturne/QMidiMessage>
 #include <nocturne/midi/midiport_p.h>
 
-#include <QtTest/QtTest>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QVBoxLayout>
 
 #include <random>
 
@@ -10,23 +19,28 @@ using Ints = QVector<int>;
 
 namespace {
 
-QMidiMessage filled(int type, int channel, int note, int velocity, int key, int value)
+/// type, channel, note, velocity, key, value
+QMidiMessage filled(const Ints &fields)
 {
     QMidiMessage message;
-    message.setType(type);
-    message.setChannel(channel);
-    message.setNote(note);
-    message.setVelocity(velocity);
-    message.setKey(key);
-    message.setValue(value);
+    message.setType(fields[0]);
+    message.setChannel(fields[1]);
+    message.setNote(fields[2]);
+    message.setVelocity(fields[3]);
+    message.setKey(fields[4]);
+    message.setValue(fields[5]);
     return message;
 }
 
-/// type, channel, note, velocity, key, value
 Ints fields(const QMidiMessage &message)
 {
     return {message.type(),     message.channel(), message.note(),
             message.velocity(), message.key(),     message.value()};
+}
+
+QString shownText(const QWidget &field)
+{
+    return field.findChild<QLabel *>("edit")->text();
 }
 
 } // namespace
@@ -44,9 +58,8 @@ private Q_SLOTS:
         for (int round = 0; round < 2; ++round) {
             QCOMPARE(fields(message), Ints({0, 1, 0, 0, 0, 0}));
             QCOMPARE(message.deltaTime(), 0.0);
-            QVERIFY(message.sysExData().empty());
-            QVERIFY(message.rawMessage().empty());
-            message = filled(144, 2, 3, 4, 5, 6);
+            QVERIFY(message.sysExData().empty() && message.rawMessage().empty());
+            message = filled({144, 2, 3, 4, 5, 6});
             message.setDeltaTime(7.5);
             message.setSysExData({0xF0, 0xF7});
             message.setRawMessage({1, 2, 3});
@@ -54,42 +67,29 @@ private Q_SLOTS:
         }
     }
 
-    void buildsWireBytes_data()
-    {
-        QTest::addColumn<QMidiMessage>("message");
-        QTest::addColumn<Bytes>("expected");
-        const auto row = [](const char *name, const QMidiMessage &message, const Bytes &expected) {
-            QTest::newRow(name) << message << expected;
-        };
-        const int lowest = std::numeric_limits<int>::min();
-        row("note on", filled(144, 1, 60, 100, 1, 2), {0x90, 60, 100});
-        row("note on, last channel", filled(144, 16, 60, 100, 1, 2), {0x9F, 60, 100});
-        row("note off", filled(128, 1, 60, 64, 1, 2), {0x80, 60, 64});
-        row("control change", filled(176, 3, 1, 2, 7, 127), {0xB2, 7, 127});
-        row("program change", filled(192, 4, 1, 2, 0, 5), {0xC3, 0, 5});
-        row("eight bits of each field", filled(144, 257, 0x13C, -1, 0, 0), {0x90, 0x3C, 0xFF});
-        row("lowest channel", filled(144, lowest, 1, 2, 0, 0), {0x8F, 1, 2});
-        for (int type : {0, 100, 160, 208, 224, 241, 242, 243, 246, 247, 248, 250, 255})
-            row(qPrintable(QString("type %1").arg(type)), filled(type, 1, 1, 2, 3, 4), {});
-
-        QMidiMessage exclusive = filled(240, 1, 1, 2, 3, 4);
-        row("no exclusive data", exclusive, {});
-        for (const Bytes &data : {Bytes{0xF0, 0x7E, 0xF7}, Bytes{0xF0, 0x7E}}) {
-            exclusive.setSysExData(data);
-            row(data.size() == 3 ? "whole" : "without its end", exclusive, {0xF0, 0x7E, 0xF7});
-        }
-    }
-
     void buildsWireBytes()
     {
-        QFETCH(QMidiMessage, message);
-        QFETCH(Bytes, expected);
-        QCOMPARE(message.rawMessage(), expected);
+        const QVector<QPair<Ints, Bytes>> rows = {
+            {{144, 16, 60, 100, 1, 2}, {0x9F, 60, 100}},
+            {{128, 1, 60, 64, 1, 2}, {0x80, 60, 64}},
+            {{176, 3, 1, 2, 7, 127}, {0xB2, 7, 127}},
+            {{192, 4, 1, 2, 0, 5}, {0xC3, 0, 5}},
+            {{144, 257, 0x13C, -1, 0, 0}, {0x90, 0x3C, 0xFF}}, // eight bits of each
+            {{144, std::numeric_limits<int>::min(), 1, 2, 0, 0}, {0x8F, 1, 2}}};
+        for (const auto &row : rows)
+            QCOMPARE(filled(row.first).rawMessage(), row.second);
+        for (int type : {0, 100, 160, 208, 224, 240, 241, 242, 243, 246, 247, 248, 250, 255})
+            QVERIFY(filled({type, 1, 1, 2, 3, 4}).rawMessage().empty());
+        for (const Bytes &data : {Bytes{0xF0, 0x7E, 0xF7}, Bytes{0xF0, 0x7E}}) {
+            QMidiMessage exclusive = filled({240, 1, 1, 2, 3, 4});
+            exclusive.setSysExData(data);
+            QCOMPARE(exclusive.rawMessage(), (Bytes{0xF0, 0x7E, 0xF7}));
+        }
     }
 
     void keepsBytesOnceBuilt()
     {
-        QMidiMessage message = filled(144, 1, 60, 100, 0, 0);
+        QMidiMessage message = filled({144, 1, 60, 100, 0, 0});
         message.rawMessage();
         QMidiMessage copy = message;
         message.setVelocity(1);
@@ -100,7 +100,6 @@ private Q_SLOTS:
         message.setRawMessage({});
         QCOMPARE(message.rawMessage(), (Bytes{0xB0, 0, 0}));
         QCOMPARE(copy.rawMessage(), (Bytes{0x90, 60, 100}));
-        QCOMPARE(fields(copy), Ints({144, 1, 60, 100, 0, 0}));
     }
 
     void namesTypes()
@@ -116,30 +115,24 @@ private Q_SLOTS:
             QCOMPARE(QMidiMessage::typeName(type), names.value(type));
     }
 
-    void decodes_data()
-    {
-        QTest::addColumn<Bytes>("bytes");
-        QTest::addColumn<Ints>("expected"); // type, channel, note, velocity, key, value
-        QTest::newRow("note on") << Bytes{0x92, 60, 100} << Ints{144, 3, 60, 100, 60, 100};
-        QTest::newRow("note off") << Bytes{0x8F, 60, 100} << Ints{128, 16, 60, 100, 60, 100};
-        QTest::newRow("key pressure") << Bytes{0xA1, 60, 100} << Ints{160, 2, 60, 0, 0, 100};
-        QTest::newRow("control change") << Bytes{0xB0, 7, 127} << Ints{176, 1, 0, 0, 7, 127};
-        QTest::newRow("program change") << Bytes{0xC5, 7} << Ints{192, 6, 0, 0, 0, 7};
-        QTest::newRow("channel pressure") << Bytes{0xD0, 9} << Ints{208, 1, 0, 0, 0, 9};
-        QTest::newRow("pitch bend") << Bytes{0xE0, 0, 64} << Ints{224, 1, 0, 0, 0, 64};
-        QTest::newRow("song select") << Bytes{0xF3, 5} << Ints{243, 0, 0, 0, 0, 0};
-        QTest::newRow("song position") << Bytes{0xF2, 5, 6} << Ints{242, 0, 0, 0, 0, 0};
-        QTest::newRow("no velocity") << Bytes{0x90, 60} << Ints{144, 1, 60, 0, 60, 0};
-        QTest::newRow("data only") << Bytes{0x3C, 1, 2} << Ints{0x30, 13, 0, 0, 0, 0};
-    }
-
     void decodes()
     {
-        QFETCH(Bytes, bytes);
-        QFETCH(Ints, expected);
-        const QMidiMessage message = Nocturne::decodeMidiMessage(0.0125, bytes);
-        QCOMPARE(fields(message), expected);
-        QCOMPARE(message.deltaTime(), 12.5);
+        const QVector<QPair<Bytes, Ints>> rows = {{{0x92, 60, 100}, {144, 3, 60, 100, 60, 100}},
+                                                  {{0x8F, 60, 100}, {128, 16, 60, 100, 60, 100}},
+                                                  {{0xA1, 60, 100}, {160, 2, 60, 0, 0, 100}},
+                                                  {{0xB0, 7, 127}, {176, 1, 0, 0, 7, 127}},
+                                                  {{0xC5, 7}, {192, 6, 0, 0, 0, 7}},
+                                                  {{0xD0, 9}, {208, 1, 0, 0, 0, 9}},
+                                                  {{0xE0, 0, 64}, {224, 1, 0, 0, 0, 64}},
+                                                  {{0xF3, 5}, {243, 0, 0, 0, 0, 0}},
+                                                  {{0xF2, 5, 6}, {242, 0, 0, 0, 0, 0}},
+                                                  {{0x90, 60}, {144, 1, 60, 0, 60, 0}},
+                                                  {{0x3C, 1, 2}, {0x30, 13, 0, 0, 0, 0}}};
+        for (const auto &row : rows) {
+            const QMidiMessage message = Nocturne::decodeMidiMessage(0.0125, row.first);
+            QCOMPARE(fields(message), row.second);
+            QCOMPARE(message.deltaTime(), 12.5);
+        }
     }
 
     // A seeded stream of byte sequences of every length; NOCTURNE_FUZZ_COUNT asks for more of them.
@@ -193,8 +186,112 @@ private Q_SLOTS:
         }
         QVERIFY(Nocturne::MidiPort::distinctNames({}).isEmpty());
     }
+
+    void fieldShowsMessages()
+    {
+        const QVector<QPair<Ints, QString>> rows = {
+            {{144, 1, 0, 0, 60, 100}, "NoteOn Channel 1, Key 60, Value 100"},
+            {{192, 2, 0, 0, 0, 5}, " Channel 2, Key 0, Value 5"},
+            {{243, 0, 0, 0, -1, 1000}, "SongSelect Channel 0, Key -1, Value 1000"},
+            {{0, 3, 0, 0, 4, 5}, ""}};
+        MidiSequenceEdit field;
+        for (const auto &row : rows) {
+            QMidiMessage message = filled(row.first);
+            field.setKeySequence(&message);
+            QCOMPARE(shownText(field), row.second);
+            field.setKeySequence(nullptr);
+            QCOMPARE(shownText(field), QString());
+        }
+    }
+
+    void fieldEditsTheHostsMessage()
+    {
+        MidiSequenceEdit field;
+        QSignalSpy changes(&field, &MidiSequenceEdit::keySequenceChanged);
+        QMidiMessage received = filled({176, 4, 11, 22, 5, 6});
+        received.setDeltaTime(33.0);
+        received.setSysExData({44});
+        received.setRawMessage({55});
+        // Without a message nothing is edited.
+        field.updateKeySequence(&received);
+        field.clearKeySequence();
+        field.restoreKeySequence();
+        field.updateOldKeySequence();
+        QCOMPARE(shownText(field), QString());
+
+        // What is shown is copied, and nothing else.
+        QMidiMessage bound = filled({144, 2, 0, 0, 60, 90});
+        field.setKeySequence(&bound);
+        field.updateOldKeySequence();
+        field.updateKeySequence(&received);
+        field.updateKeySequence(nullptr);
+        QCOMPARE(shownText(field), QString("ControlChange Channel 4, Key 5, Value 6"));
+        QCOMPARE(bound.rawMessage(), (Bytes{0xB3, 5, 6}));
+        QCOMPARE(bound.note() + bound.velocity() + bound.deltaTime(), 0.0);
+        QVERIFY(bound.sysExData().empty());
+        field.restoreKeySequence();
+        QCOMPARE(shownText(field), QString("NoteOn Channel 2, Key 60, Value 90"));
+        QCOMPARE(bound.type(), 144);
+        QCOMPARE(received.type(), 176);
+        field.setOldKeySequence(received);
+        field.updateOldKeySequence();
+        QMidiMessage old = field.oldKeySequence();
+        QCOMPARE(fields(old), Ints({144, 2, 11, 22, 60, 90}));
+        QCOMPARE(old.rawMessage(), Bytes{55});
+        field.clearKeySequence();
+        QCOMPARE(shownText(field), QString());
+        QCOMPARE(fields(bound), Ints({0, 1, 0, 0, 0, 0}));
+        QCOMPARE(changes.count(), 0);
+    }
+
+    // Queued and by name, as an old host connects: nothing has to be registered for it.
+    void deliversMessagesByName()
+    {
+        MidiSequenceEdit sender;
+        MidiSequenceEdit receiver;
+        QVERIFY(connect(&sender, SIGNAL(keySequenceChanged(QMidiMessage)), &receiver,
+                        SLOT(setOldKeySequence(QMidiMessage)), Qt::QueuedConnection));
+        Q_EMIT sender.keySequenceChanged(filled({144, 2, 0, 0, 60, 90}));
+        QCOMPARE(receiver.oldKeySequence().type(), 0);
+        QCoreApplication::processEvents();
+        QCOMPARE(receiver.oldKeySequence().type(), 144);
+    }
+
+    /// As the field of shortcuts, which looks the same.
+    void fieldsTakeFocusByClickOnly()
+    {
+        const DarkUX theme;
+        const std::unique_ptr<QStyle> style(theme.style());
+        QWidget window;
+        auto *layout = new QVBoxLayout(&window);
+        const QVector<QWidget *> widgets = {new QLineEdit, new MidiSequenceEdit,
+                                            new KeySequenceEdit, new QLineEdit};
+        for (QWidget *widget : widgets)
+            layout->addWidget(widget);
+        QVERIFY(TestSupport::showActive(&window));
+        widgets.first()->setFocus();
+        QTest::keyClick(widgets.first(), Qt::Key_Tab);
+        QVERIFY(widgets.last()->hasFocus());
+        for (QWidget *field : widgets.mid(1, 2)) {
+            // The frame covers 1 to 98 across and 1 to 22 down: a unit is left before, two after.
+            // The ring's pen is a unit wide, half inside and half outside: whole device pixels.
+            field->resize(100, 24);
+            TestSupport::compareProbes(TestSupport::render(*field),
+                                       "#14161b 50,1 50,21 1,12 97,12; "
+                                       "none 50,0 50,22 0,12 98,12 1,1");
+            TestSupport::compareProbes(TestSupport::render(*field, 2),
+                                       "#14161b 100,2 100,43 2,24 195,24; "
+                                       "none 100,1 100,44 1,24 196,24 2,2");
+            QTest::mouseClick(field->childAt(field->rect().center()), Qt::LeftButton);
+            QVERIFY(field->hasFocus() && !field->testAttribute(Qt::WA_InputMethodEnabled));
+            QCOMPARE(field->findChild<QLabel *>("edit")->geometry(), field->rect());
+            TestSupport::compareProbes(TestSupport::render(*field, 2),
+                                       "#419bf9 100,1 100,2 100,43 100,44 196,24; none 100,0; "
+                                       "#14161b 100,3 100,24");
+        }
+    }
 };
 
-QTEST_GUILESS_MAIN(TestMidiMessage)
+NOCTURNE_TEST_MAIN(TestMidiMessage)
 
 #include "tst_midimessage.moc"
