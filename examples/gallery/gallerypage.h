@@ -12,6 +12,10 @@ class QWidget;
 class Gallery
 {
     Q_DECLARE_TR_FUNCTIONS(Gallery)
+
+public:
+    /// Whether pictures of the pages are being taken, and nobody is there to press anything.
+    static bool isPhotographed();
 };
 
 /// One page of the gallery. A page lives in a file of its own under pages/ and adds itself with
@@ -26,9 +30,14 @@ struct GalleryPage
     Create create;
 
     QString translatedTitle() const { return Gallery::tr(title); }
+    /// Whether it shows controls of the toolkit rather than the library's own.
+    bool isStandard() const { return QByteArray(name).startsWith("std_"); }
 };
 
-/// All pages in their order.
+/// What stands above the pages of the library's own, and above those of the standard controls.
+QString galleryHeading(bool standard);
+
+/// All pages in their order, those with standard controls behind the others.
 QVector<GalleryPage> galleryPages();
 
 bool addGalleryPage(const GalleryPage &page);

@@ -1,26 +1,46 @@
 #include "gallerywindow.h"
 
 #include "galleryface.h"
+#include "gallerylanguage.h"
+#include "gallerypreview.h"
+
+#include <nocturne/SearchLineEdit>
 
 #include <QtCore/QEvent>
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QToolBar>
+#include <QtWidgets/QVBoxLayout>
 
 #include <QAction>
 #include <QActionGroup>
 
+namespace {
+
+constexpr int pageRole = Qt::UserRole; // index of the page, or a heading's -1 and -2
+
+}
+
 GalleryWindow::GalleryWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_pages(galleryPages())
+    , m_search(new SearchLineEdit)
     , m_list(new QListWidget)
     , m_area(new QScrollArea)
+    , m_language(createGalleryLanguageBox())
 {
+    auto *side = new QWidget;
+    auto *column = new QVBoxLayout(side);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_search);
+    column->addWidget(m_list);
     auto *splitter = new QSplitter;
-    splitter->addWidget(m_list);
+    splitter->addWidget(side);
     splitter->addWidget(m_area);
     splitter->setStretchFactor(1, 1);
     splitter->setSizes({240, 1000});
@@ -29,6 +49,8 @@ GalleryWindow::GalleryWindow(QWidget *parent)
 
     auto *bar = addToolBar(QString());
     bar->setMovable(false);
+    bar->addWidget(m_language);
+    bar->addSeparator();
     m_rightToLeft = bar->addAction(QString());
     m_rightToLeft->setCheckable(true);
     connect(m_rightToLeft, &QAction::toggled, this, [splitter](bool on) {
@@ -45,19 +67,20 @@ GalleryWindow::GalleryWindow(QWidget *parent)
 
     addFaces(bar);
 
-    for (int i = 0; i < m_pages.size(); ++i)
-        m_list->addItem(QString());
+    fillList();
     connect(m_list, &QListWidget::currentRowChanged, this, &GalleryWindow::showRow);
+    connect(m_search, &QLineEdit::textChanged, this, &GalleryWindow::search);
 
     retranslate();
     resize(1240, 820);
-    m_list->setCurrentRow(0);
+    showPage(QLatin1String(m_pages.first().name));
 }
 
 bool GalleryWindow::showPage(const QString &name)
 {
-    for (int row = 0; row < m_pages.size(); ++row) {
-        if (name == QLatin1String(m_pages.at(row).name)) {
+    for (int row = 0; row < m_list->count(); ++row) {
+        const GalleryPage *page = pageOf(m_list->item(row));
+        if (page && name == QLatin1String(page->name)) {
             m_list->setCurrentRow(row);
             return true;
         }
@@ -65,9 +88,57 @@ bool GalleryWindow::showPage(const QString &name)
     return false;
 }
 
+const GalleryPage *GalleryWindow::pageOf(const QListWidgetItem *item) const
+{
+    const int index = item->data(pageRole).toInt();
+    return index < 0 ? nullptr : &m_pages.at(index);
+}
+
+void GalleryWindow::fillList()
+{
+    const auto addHeading = [this](bool standard) {
+        auto *item = new QListWidgetItem(m_list);
+        item->setFlags(Qt::NoItemFlags);
+        QFont bold = m_list->font();
+        bold.setBold(true);
+        item->setFont(bold);
+        item->setData(pageRole, standard ? -2 : -1);
+    };
+    for (int i = 0; i < m_pages.size(); ++i) {
+        // The overview stands above both groups.
+        if (i == 1 || (i > 1 && m_pages.at(i).isStandard() && !m_pages.at(i - 1).isStandard()))
+            addHeading(m_pages.at(i).isStandard());
+        (new QListWidgetItem(m_list))->setData(pageRole, i);
+    }
+}
+
+/// Leaves in the list what has \a text in its title or as a class.
+void GalleryWindow::search(const QString &text)
+{
+    QListWidgetItem *heading = nullptr;
+    for (int row = 0; row < m_list->count(); ++row) {
+        QListWidgetItem *item = m_list->item(row);
+        const GalleryPage *page = pageOf(item);
+        if (!page) {
+            heading = item;
+            heading->setHidden(!text.isEmpty());
+            continue;
+        }
+        const bool found =
+            text.isEmpty() || item->text().contains(text, Qt::CaseInsensitive)
+            || (row > 0
+                && !galleryPreview(*page).classes.filter(text, Qt::CaseInsensitive).isEmpty());
+        item->setHidden(!found);
+        if (found && heading)
+            heading->setHidden(false);
+    }
+}
+
 void GalleryWindow::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
+        retranslate();
     if (event->type() == QEvent::LanguageChange) {
         QTimer::singleShot(0, this, [this] {
             retranslate();
@@ -93,11 +164,12 @@ void GalleryWindow::addFaces(QToolBar *bar)
 
 void GalleryWindow::showRow(int row)
 {
-    if (row < 0)
+    const GalleryPage *page = row < 0 ? nullptr : pageOf(m_list->item(row));
+    if (!page)
         return;
-    QWidget *page = m_pages.at(row).create(nullptr);
-    page->setEnabled(m_enabled->isChecked());
-    m_area->setWidget(page);
+    QWidget *widget = page->create(nullptr);
+    widget->setEnabled(m_enabled->isChecked());
+    m_area->setWidget(widget);
 }
 
 void GalleryWindow::retranslate()
@@ -109,6 +181,15 @@ void GalleryWindow::retranslate()
     faces.at(0)->setText(Gallery::tr("Exact"));
     faces.at(1)->setText(Gallery::tr("Readable"));
     faces.at(2)->setText(Gallery::tr("Dimmed"));
-    for (int row = 0; row < m_pages.size(); ++row)
-        m_list->item(row)->setText(m_pages.at(row).translatedTitle());
+    m_search->setPlaceholderText(Gallery::tr("Search"));
+    m_language->setToolTip(Gallery::tr("Language"));
+    m_language->setCurrentIndex(qMax(0, m_language->findData(galleryCatalogue())));
+    for (int row = 0; row < m_list->count(); ++row) {
+        QListWidgetItem *item = m_list->item(row);
+        const GalleryPage *page = pageOf(item);
+        item->setText(page ? page->translatedTitle()
+                           : galleryHeading(item->data(pageRole).toInt() == -2));
+        if (!page) // cannot be chosen, but is read like the others
+            item->setForeground(m_list->palette().color(QPalette::Active, QPalette::Text));
+    }
 }

@@ -7,11 +7,14 @@
 
 class QAction;
 class QActionGroup;
+class QComboBox;
 class QListWidget;
+class QListWidgetItem;
 class QScrollArea;
 class QToolBar;
+class SearchLineEdit;
 
-/// The list of pages on the left, the chosen one on the right.
+/// The list of pages on the left, with a field that searches it, and the chosen one on the right.
 class GalleryWindow : public QMainWindow
 {
     Q_OBJECT
@@ -19,6 +22,7 @@ class GalleryWindow : public QMainWindow
 public:
     explicit GalleryWindow(QWidget *parent = nullptr);
 
+public Q_SLOTS:
     /// Shows the page of that name; false when there is none.
     bool showPage(const QString &name);
 
@@ -28,12 +32,19 @@ protected:
 
 private:
     void addFaces(QToolBar *bar);
+    void fillList();
     void showRow(int row);
+    void search(const QString &text);
     void retranslate();
 
-    QVector<GalleryPage> m_pages;
+    /// The page of an item; null for a heading.
+    const GalleryPage *pageOf(const QListWidgetItem *item) const;
+
+    const QVector<GalleryPage> m_pages;
+    SearchLineEdit *m_search;
     QListWidget *m_list;
     QScrollArea *m_area;
+    QComboBox *m_language;
     QAction *m_rightToLeft;
     QAction *m_enabled;
     QActionGroup *m_faces;

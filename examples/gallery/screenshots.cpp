@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr QSize smallestPage(900, 600);
+constexpr QSize smallestPage(900, 240);
 
 enum class Variant { LeftToRight, RightToLeft, Disabled };
 

@@ -1,4 +1,5 @@
 #include "gallerypage.h"
+#include "samplesheet.h"
 
 #include <nocturne/ComboFileChooser>
 #include <nocturne/FileChooser>
@@ -10,6 +11,7 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QGridLayout>
@@ -181,14 +183,54 @@ QWidget *createLetterBox()
     return box;
 }
 
+/// A message box as it opens.
+QWidget *createOpenMessageBox(QMessageBox::Icon icon, const char *title)
+{
+    auto *box = new QMessageBoxEx;
+    box->setIcon(icon);
+    box->setWindowTitle(Gallery::tr(title));
+    box->setText(Gallery::tr("Take the next cue live?"));
+    box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box->ensurePolished();
+    box->adjustSize();
+    return new Picture(box);
+}
+
+/// A balloon as it opens. It cannot be had but on the screen, where it would surprise a user.
+QWidget *createOpenBalloon()
+{
+    auto *label = new QLabel;
+    if (!Gallery::isPhotographed())
+        return label;
+    QBalloonTip::showBalloon(QSystemTrayIcon::Warning, Gallery::tr("Warning"),
+                             Gallery::tr("The recording disk has room for five more minutes."),
+                             nullptr, QPoint(cornerInset, cornerInset), balloonMilliseconds);
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (qobject_cast<QBalloonTip *>(window) && window->isVisible())
+            label->setPixmap(window->grab());
+    }
+    QBalloonTip::hideBalloon();
+    return label;
+}
+
 QWidget *createDialogsPage(QWidget *parent)
 {
     auto *page = new QWidget(parent);
-    auto *column = new QVBoxLayout(page);
-    column->addWidget(createMessageBoxes());
-    column->addWidget(createBalloons());
-    column->addWidget(createChoosers());
-    column->addWidget(createLetterBox(), 1);
+    auto *grid = new QGridLayout(page);
+    grid->addWidget(createMessageBoxes(), 0, 0);
+    grid->addWidget(createBalloons(), 1, 0);
+    grid->addWidget(createChoosers(), 2, 0);
+    grid->addWidget(createLetterBox(), 3, 0);
+    auto *open = new QVBoxLayout;
+    open->addWidget(
+        createOpenMessageBox(QMessageBox::Question, QT_TRANSLATE_NOOP("Gallery", "Question")));
+    open->addWidget(
+        createOpenMessageBox(QMessageBox::Warning, QT_TRANSLATE_NOOP("Gallery", "Warning")));
+    open->addWidget(createOpenBalloon());
+    open->addStretch(1);
+    grid->addLayout(open, 0, 1, 4, 1);
+    grid->setRowStretch(3, 1);
+    grid->setColumnStretch(0, 1);
     return page;
 }
 

@@ -22,6 +22,8 @@ constexpr int monitorLines = 300;
 constexpr int monitorInterval = 40; // ms between two updates of the list
 constexpr int streamInterval = 5;   // ms between two bursts of the simulated stream
 constexpr int streamBurst = 50;     // messages
+constexpr int idleInterval = 250;   // ms between two messages of the simulated controller
+constexpr int idleLines = 24;       // that it has sent when the page opens
 
 /// The last messages, as text. Takes any number of them: what arrives between two updates waits in
 /// a list that is no longer than the text can become.
@@ -39,7 +41,7 @@ public:
         showTotal();
         m_timer.setSingleShot(true);
         m_timer.setInterval(monitorInterval);
-        connect(&m_timer, &QTimer::timeout, this, [this] { update(); });
+        connect(&m_timer, &QTimer::timeout, this, [this] { showWaiting(); });
     }
 
     void add(const QMidiMessage &message)
@@ -52,8 +54,7 @@ public:
             m_timer.start();
     }
 
-private:
-    void update()
+    void showWaiting()
     {
         QStringList lines;
         for (const QMidiMessage &message : std::as_const(m_waiting)) {
@@ -68,6 +69,7 @@ private:
         showTotal();
     }
 
+private:
     void showTotal() { m_total->setText(Gallery::tr("%1 messages").arg(m_count)); }
 
     QPlainTextEdit *m_text = new QPlainTextEdit;
@@ -88,7 +90,8 @@ private:
     QGroupBox *createSendBox();
     QGroupBox *createLearnBox();
     void receive(QMidiMessage message);
-    void simulate();
+    void simulate(int count);
+    void send(int type, int key, int value);
 
     QMidiIn *m_input = new QMidiIn(this);
     QMidiOut *m_output = new QMidiOut(this);
@@ -99,6 +102,7 @@ private:
     QSlider *m_level = new QSlider(Qt::Horizontal);
     QTimer m_stream;
     int m_streamPosition = 0;
+    bool m_isSimulated = false;
 };
 
 MidiPage::MidiPage(QWidget *parent)
@@ -115,7 +119,17 @@ MidiPage::MidiPage(QWidget *parent)
     columns->addWidget(m_monitor, 1);
 
     connect(m_input, &QMidiIn::midiMessageReceived, this, &MidiPage::receive);
-    connect(&m_stream, &QTimer::timeout, this, &MidiPage::simulate);
+    connect(&m_stream, &QTimer::timeout, this, [this] { simulate(streamBurst); });
+
+    // Without a MIDI service there is something to see as well.
+    m_isSimulated = m_input->portNames().isEmpty();
+    if (m_isSimulated) {
+        simulate(idleLines);
+        m_monitor->showWaiting();
+        auto *idle = new QTimer(this);
+        connect(idle, &QTimer::timeout, this, [this] { simulate(1); });
+        idle->start(idleInterval);
+    }
 }
 
 template <typename Port>
@@ -133,10 +147,13 @@ QGroupBox *MidiPage::createPortBox(const QString &title, Port *port, const QStri
         names->clear();
         names->addItems(port->portNames());
         const bool any = names->count() > 0;
+        const QString simulated = Gallery::tr("Simulated controller");
+        if (!any)
+            names->addItem(simulated);
         names->setEnabled(any);
         open->setEnabled(any);
         state->setText(any ? Gallery::tr("No port is open.")
-                           : Gallery::tr("No MIDI service is running, or it has no port."));
+                           : Gallery::tr("%1 is open.").arg(simulated));
     };
     connect(refresh, &QPushButton::clicked, box, list);
     connect(open, &QPushButton::clicked, box, [port, names, state] {
@@ -168,10 +185,10 @@ QGroupBox *MidiPage::createSendBox()
     auto *note = new QPushButton(Gallery::tr("Note (hold)"));
     auto *controller = new QSlider(Qt::Horizontal);
     controller->setMaximum(127);
-    connect(note, &QPushButton::pressed, this, [this] { m_output->sendNoteOn(1, 60, 100); });
-    connect(note, &QPushButton::released, this, [this] { m_output->sendNoteOff(1, 60, 0); });
+    connect(note, &QPushButton::pressed, this, [this] { send(QMidiMessage::NoteOn, 60, 100); });
+    connect(note, &QPushButton::released, this, [this] { send(QMidiMessage::NoteOff, 60, 0); });
     connect(controller, &QSlider::valueChanged, this,
-            [this](int value) { m_output->sendControlChange(1, 7, static_cast<quint8>(value)); });
+            [this](int value) { send(QMidiMessage::ControlChange, 7, value); });
     layout->addWidget(note);
     layout->addWidget(new QLabel(Gallery::tr("Controller 7")));
     layout->addWidget(controller, 1);
@@ -229,14 +246,29 @@ void MidiPage::receive(QMidiMessage message)
     }
 }
 
-/// What a busy controller sends, without any port.
-void MidiPage::simulate()
+/// Without a MIDI service what is sent comes back at once.
+void MidiPage::send(int type, int key, int value)
 {
-    for (int i = 0; i < streamBurst; ++i) {
+    QMidiMessage message;
+    message.setType(type);
+    message.setKey(key);
+    message.setValue(value);
+    message.setNote(key);
+    message.setVelocity(value);
+    if (m_isSimulated)
+        receive(message);
+    else
+        m_output->sendMessage(message);
+}
+
+/// What a controller sends, without any port.
+void MidiPage::simulate(int count)
+{
+    for (int i = 0; i < count; ++i) {
         QMidiMessage message;
         message.setType(QMidiMessage::ControlChange);
         message.setKey(7 + m_streamPosition % 4);
-        message.setValue(m_streamPosition / 40 % 128);
+        message.setValue((40 + m_streamPosition) % 128);
         ++m_streamPosition;
         Q_EMIT m_input->midiMessageReceived(message);
     }

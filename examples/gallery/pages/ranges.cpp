@@ -150,7 +150,7 @@ QGroupBox *createTimeline(QPlainTextEdit *log)
     slider->setRange(0, frameCount);
     slider->setEnableRange(true);
     slider->setHandleToolTip(Gallery::tr("Frame %1"));
-    slider->setValues(250, 1200, 600);
+    slider->setValues(100, 1350, 450);
     auto *strip = new ClipStrip(slider);
     auto *times = new QLabel;
     const auto showTimes = [slider, times] {
@@ -187,6 +187,11 @@ QGroupBox *createTimeline(QPlainTextEdit *log)
     layout->addWidget(times);
     layout->addLayout(options);
     logSignals(slider, log);
+    for (int step = 1; step <= 10; ++step) { // somebody has trimmed it before
+        slider->setMinimumPosition(100 + 15 * step);
+        slider->setMaximumPosition(1350 - 15 * step);
+        slider->setMainPosition(450 + 15 * step);
+    }
     addPlayback(slider, strip, play);
     return box;
 }

@@ -21,26 +21,6 @@ constexpr QSize previewSize(320, 200);
 
 // -- Catalogues -------------------------------------------------------------------------------
 
-/// "ko_KR-Heron" as "한국어 (Heron)".
-QString catalogueTitle(const QString &name)
-{
-    const int dash = name.indexOf(QLatin1Char('-'));
-    const QString language = QLocale(name.left(dash)).nativeLanguageName();
-    return dash < 0 ? language : QStringLiteral("%1 (%2)").arg(language, name.mid(dash + 1));
-}
-
-QComboBox *createLanguageBox()
-{
-    auto *box = new QComboBox;
-    box->addItem(QStringLiteral("English"), QString());
-    for (const QFileInfo &catalogue : galleryCatalogues())
-        box->addItem(catalogueTitle(catalogue.completeBaseName()), catalogue.filePath());
-    box->setCurrentIndex(qMax(0, box->findData(galleryCatalogue())));
-    QObject::connect(box, QOverload<int>::of(&QComboBox::activated), box,
-                     [box](int index) { setGalleryCatalogue(box->itemData(index).toString()); });
-    return box;
-}
-
 /// The library's own texts in the language that is installed.
 QLabel *createLibraryTexts()
 {
@@ -140,7 +120,7 @@ QWidget *createResourcesPage(QWidget *parent)
     details->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     auto *form = new QFormLayout;
-    form->addRow(Gallery::tr("Language"), createLanguageBox());
+    form->addRow(Gallery::tr("Language"), createGalleryLanguageBox());
     form->addRow(Gallery::tr("Texts of the library"), createLibraryTexts());
 
     auto *side = new QVBoxLayout;
@@ -174,4 +154,4 @@ QWidget *createResourcesPage(QWidget *parent)
 
 } // namespace
 
-GALLERY_PAGE(230, "resources", QT_TRANSLATE_NOOP("Gallery", "Resources"), createResourcesPage)
+GALLERY_PAGE(880, "resources", QT_TRANSLATE_NOOP("Gallery", "Resources"), createResourcesPage)

@@ -2,6 +2,8 @@
 
 #include <nocturne/KeySequenceEdit>
 
+#include <QtCore/QCoreApplication>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QHBoxLayout>
@@ -77,10 +79,20 @@ QWidget *createShortcutsPage(QWidget *parent)
 
     auto *box = new QGroupBox(Gallery::tr("Click a field, then press the keys"));
     auto *grid = new QGridLayout(box);
-    addShortcut(grid, QT_TRANSLATE_NOOP("Gallery", "Play"), "F5", page, log);
-    addShortcut(grid, QT_TRANSLATE_NOOP("Gallery", "Stop"), "Shift+F5", page, log);
+    KeySequenceEdit *play =
+        addShortcut(grid, QT_TRANSLATE_NOOP("Gallery", "Play"), "F5", page, log);
+    KeySequenceEdit *stop =
+        addShortcut(grid, QT_TRANSLATE_NOOP("Gallery", "Stop"), "Shift+F5", page, log);
     addShortcut(grid, QT_TRANSLATE_NOOP("Gallery", "Next cue"), "Ctrl+Right", page, log);
     addShortcut(grid, QT_TRANSLATE_NOOP("Gallery", "Blackout"), "Ctrl+Shift+B", page, log);
+    // Somebody has pressed other keys, and used them.
+    for (KeySequenceEdit *field : {play, stop}) {
+        QKeyEvent press(QEvent::KeyPress, field == play ? Qt::Key_F8 : Qt::Key_F9,
+                        Qt::ControlModifier);
+        QCoreApplication::sendEvent(field, &press);
+        for (QAction *action : page->actions())
+            action->trigger();
+    }
     KeySequenceEdit *disabled =
         addShortcut(grid, QT_TRANSLATE_NOOP("Gallery", "Disabled"), "Ctrl+Alt+D", page, log);
     disabled->setEnabled(false);

@@ -2,6 +2,8 @@
 
 #include <nocturne/Slider>
 
+#include <QtCore/QCoreApplication>
+#include <QtGui/QMouseEvent>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QHBoxLayout>
@@ -44,6 +46,23 @@ Slider *addSlider(QFormLayout *form, const char *name, int value, QPlainTextEdit
     return slider;
 }
 
+/// Somebody has dragged it before the page is seen.
+void dragBefore(Slider *slider)
+{
+    const auto send = [slider](QEvent::Type type, int x, Qt::MouseButtons buttons) {
+        const QPointF point(x, slider->height() / 2.0);
+        QMouseEvent event(type, point, slider->mapToGlobal(point.toPoint()),
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(slider, &event);
+    };
+    const int from = slider->width() * 4 / 10;
+    send(QEvent::MouseButtonPress, from, Qt::LeftButton);
+    for (int step = 1; step <= 7; ++step)
+        send(QEvent::MouseMove, from + slider->width() * step / 40, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, from + slider->width() * 7 / 40, Qt::NoButton);
+}
+
 QWidget *createSlidersPage(QWidget *parent)
 {
     auto *page = new QWidget(parent);
@@ -55,12 +74,15 @@ QWidget *createSlidersPage(QWidget *parent)
     auto *box = new QGroupBox(Gallery::tr("Click to jump, drag, hover"));
     auto *form = new QFormLayout(box);
     Slider *level = addSlider(form, QT_TRANSLATE_NOOP("Gallery", "Level"), 60, log);
-    addSlider(form, QT_TRANSLATE_NOOP("Gallery", "With tick marks"), 30, log)
-        ->setTickPosition(QSlider::TicksBothSides);
+    Slider *ticked = addSlider(form, QT_TRANSLATE_NOOP("Gallery", "With tick marks"), 30, log);
+    ticked->setTickPosition(QSlider::TicksBothSides);
     addSlider(form, QT_TRANSLATE_NOOP("Gallery", "Inverted"), 30, log)->setInvertedAppearance(true);
     addSlider(form, QT_TRANSLATE_NOOP("Gallery", "Without jump"), 45, log)
         ->setEnableDirectJump(false);
     addSlider(form, QT_TRANSLATE_NOOP("Gallery", "Disabled"), 45, log)->setEnabled(false);
+
+    dragBefore(level);
+    dragBefore(ticked);
 
     auto *silent = new QPushButton(Gallery::tr("Set the level to 30 without a signal"));
     QObject::connect(silent, &QPushButton::clicked, level, [level] { level->positionChange(30); });

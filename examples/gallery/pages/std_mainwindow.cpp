@@ -2,14 +2,18 @@
 #include "samplesheet.h"
 
 #include <QtWidgets/QDockWidget>
+#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QListWidget>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QProgressBar>
+#include <QtWidgets/QSlider>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QStatusBar>
 #include <QtWidgets/QToolBar>
+#include <QtWidgets/QTreeWidget>
 
 namespace {
 
@@ -25,12 +29,65 @@ QToolBar *toolBar(const QString &title)
     return bar;
 }
 
-QDockWidget *dock(const QString &title, QDockWidget::DockWidgetFeatures features)
+QDockWidget *dock(const QString &title, QDockWidget::DockWidgetFeatures features, QWidget *content)
 {
     auto *dock = new QDockWidget(title);
     dock->setFeatures(features);
-    dock->setWidget(new QPlainTextEdit(title));
+    dock->setWidget(content);
     return dock;
+}
+
+QWidget *sources()
+{
+    auto *list = new QListWidget;
+    for (int i = 1; i <= 6; ++i)
+        list->addItem(new QListWidgetItem(sampleIcon(), Gallery::tr("Camera %1").arg(i)));
+    list->setCurrentRow(1);
+    return list;
+}
+
+QWidget *clips()
+{
+    auto *tree = new QTreeWidget;
+    tree->setColumnCount(2);
+    tree->setHeaderLabels({Gallery::tr("Clip"), Gallery::tr("Length")});
+    for (int i = 1; i <= 6; ++i)
+        new QTreeWidgetItem(
+            tree, {Gallery::tr("Clip %1").arg(i), QStringLiteral("00:0%1:1%2").arg(i % 4).arg(i)});
+    return tree;
+}
+
+QWidget *faders()
+{
+    auto *mixer = new QWidget;
+    auto *grid = new QGridLayout(mixer);
+    const int levels[] = {70, 55, 80, 30, 62, 45};
+    int column = 0;
+    for (int level : levels) {
+        auto *fader = new QSlider(Qt::Vertical);
+        fader->setTickPosition(QSlider::TicksRight);
+        fader->setTickInterval(10);
+        fader->setValue(level);
+        grid->addWidget(fader, 0, column, Qt::AlignHCenter);
+        grid->addWidget(new QLabel(QString::number(column + 1)), 1, column, Qt::AlignHCenter);
+        ++column;
+    }
+    return mixer;
+}
+
+QWidget *log()
+{
+    auto *text = new QPlainTextEdit;
+    text->setReadOnly(true);
+    for (int i = 0; i < 12; ++i) {
+        const QString camera = Gallery::tr("Camera %1").arg(1 + i * 5 % 6);
+        text->appendPlainText(
+            QStringLiteral("20:1%1:%2  %3: %4")
+                .arg(i / 6)
+                .arg(10 + i * 17 % 50)
+                .arg(i % 3 == 2 ? Gallery::tr("Mix") : Gallery::tr("Cut"), camera));
+    }
+    return text;
 }
 
 void addToolBars(QMainWindow *window)
@@ -50,16 +107,17 @@ void addDocks(QMainWindow *window)
 {
     const auto all = QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable
                      | QDockWidget::DockWidgetFloatable;
-    window->addDockWidget(Qt::LeftDockWidgetArea, dock(Gallery::tr("Sources"), all));
+    window->addDockWidget(Qt::LeftDockWidgetArea, dock(Gallery::tr("Sources"), all, sources()));
     window->addDockWidget(Qt::LeftDockWidgetArea,
-                          dock(Gallery::tr("A title too long for it"), all));
+                          dock(Gallery::tr("A title too long for it"), all, clips()));
     window->addDockWidget(
         Qt::RightDockWidgetArea,
-        dock(Gallery::tr("Vertical title"), all | QDockWidget::DockWidgetVerticalTitleBar));
-    QDockWidget *first = dock(Gallery::tr("Mixer"), all);
-    QDockWidget *second = dock(Gallery::tr("Log"), all);
+        dock(Gallery::tr("Vertical title"), all | QDockWidget::DockWidgetVerticalTitleBar, log()));
+    QDockWidget *first = dock(Gallery::tr("Mixer"), all, faders());
+    QDockWidget *second = dock(Gallery::tr("Log"), all, log());
     window->addDockWidget(Qt::BottomDockWidgetArea, first);
     window->tabifyDockWidget(first, second);
+    first->raise();
 }
 
 QWidget *centre()

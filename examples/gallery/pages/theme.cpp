@@ -72,4 +72,4 @@ QWidget *createThemePage(QWidget *parent)
 
 } // namespace
 
-GALLERY_PAGE(10, "theme", QT_TRANSLATE_NOOP("Gallery", "Theme"), createThemePage)
+GALLERY_PAGE(890, "theme", QT_TRANSLATE_NOOP("Gallery", "Theme"), createThemePage)

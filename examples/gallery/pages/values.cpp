@@ -42,9 +42,14 @@ QWidget *createValuesPage(QWidget *parent)
 
     auto *box = new QGroupBox(Gallery::tr("Drag across a number; click it to type"));
     auto *form = new QFormLayout(box);
-    addSpinBox(form, QT_TRANSLATE_NOOP("Gallery", "Position X"), -1920, 1920, 0, log);
-    addSpinBox(form, QT_TRANSLATE_NOOP("Gallery", "Position Y"), -1080, 1080, 120, log);
-    addSpinBox(form, QT_TRANSLATE_NOOP("Gallery", "Opacity"), 0, 100, 80, log);
+    SpinBox *x = addSpinBox(form, QT_TRANSLATE_NOOP("Gallery", "Position X"), -1920, 1920, 0, log);
+    SpinBox *y =
+        addSpinBox(form, QT_TRANSLATE_NOOP("Gallery", "Position Y"), -1080, 1080, 120, log);
+    SpinBox *opacity = addSpinBox(form, QT_TRANSLATE_NOOP("Gallery", "Opacity"), 0, 100, 80, log);
+    for (SpinBox *box : {x, y, opacity}) { // somebody has stepped through them before
+        for (int step = 0; step < 4; ++step)
+            box->stepUp();
+    }
     SpinBox *mixed =
         addSpinBox(form, QT_TRANSLATE_NOOP("Gallery", "Mixed selection"), 0, 255, 30, log);
     mixed->setValue(30, true);

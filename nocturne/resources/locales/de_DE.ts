@@ -1543,6 +1543,22 @@ Nach Schwarz blenden.</translation>
         <source>Open the port</source>
         <translation>Port öffnen</translation>
     </message>
+    <message>
+        <source>Overview</source>
+        <translation>Überblick</translation>
+    </message>
+    <message>
+        <source>The library&apos;s own</source>
+        <translation>Die eigenen der Bibliothek</translation>
+    </message>
+    <message>
+        <source>Standard controls</source>
+        <translation>Standardelemente</translation>
+    </message>
+    <message>
+        <source>Simulated controller</source>
+        <translation>Simulierter Controller</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

@@ -1543,6 +1543,22 @@ Fundido a negro.</translation>
         <source>Open the port</source>
         <translation>Abrir el puerto</translation>
     </message>
+    <message>
+        <source>Overview</source>
+        <translation>Vista general</translation>
+    </message>
+    <message>
+        <source>The library&apos;s own</source>
+        <translation>Los propios de la biblioteca</translation>
+    </message>
+    <message>
+        <source>Standard controls</source>
+        <translation>Controles estándar</translation>
+    </message>
+    <message>
+        <source>Simulated controller</source>
+        <translation>Controlador simulado</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

@@ -1543,6 +1543,22 @@ Fondu au noir.</translation>
         <source>Open the port</source>
         <translation>Ouvrir le port</translation>
     </message>
+    <message>
+        <source>Overview</source>
+        <translation>Vue d’ensemble</translation>
+    </message>
+    <message>
+        <source>The library&apos;s own</source>
+        <translation>Ceux de la bibliothèque</translation>
+    </message>
+    <message>
+        <source>Standard controls</source>
+        <translation>Contrôles standard</translation>
+    </message>
+    <message>
+        <source>Simulated controller</source>
+        <translation>Contrôleur simulé</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

@@ -1543,6 +1543,22 @@ Dissolvenza al nero.</translation>
         <source>Open the port</source>
         <translation>Apri la porta</translation>
     </message>
+    <message>
+        <source>Overview</source>
+        <translation>Panoramica</translation>
+    </message>
+    <message>
+        <source>The library&apos;s own</source>
+        <translation>Quelli della libreria</translation>
+    </message>
+    <message>
+        <source>Standard controls</source>
+        <translation>Controlli standard</translation>
+    </message>
+    <message>
+        <source>Simulated controller</source>
+        <translation>Controller simulato</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

@@ -1543,6 +1543,22 @@ Fade to black.</source>
         <source>Open the port</source>
         <translation>ポートを開く</translation>
     </message>
+    <message>
+        <source>Overview</source>
+        <translation>概要</translation>
+    </message>
+    <message>
+        <source>The library&apos;s own</source>
+        <translation>ライブラリ独自のもの</translation>
+    </message>
+    <message>
+        <source>Standard controls</source>
+        <translation>標準コントロール</translation>
+    </message>
+    <message>
+        <source>Simulated controller</source>
+        <translation>模擬コントローラー</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

@@ -1543,6 +1543,22 @@ Fade to black.</source>
         <source>Open the port</source>
         <translation>포트 열기</translation>
     </message>
+    <message>
+        <source>Overview</source>
+        <translation>개요</translation>
+    </message>
+    <message>
+        <source>The library&apos;s own</source>
+        <translation>라이브러리 고유 위젯</translation>
+    </message>
+    <message>
+        <source>Standard controls</source>
+        <translation>표준 컨트롤</translation>
+    </message>
+    <message>
+        <source>Simulated controller</source>
+        <translation>가상 컨트롤러</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

@@ -1543,6 +1543,22 @@ Fundir para preto.</translation>
         <source>Open the port</source>
         <translation>Abrir a porta</translation>
     </message>
+    <message>
+        <source>Overview</source>
+        <translation>Visão geral</translation>
+    </message>
+    <message>
+        <source>The library&apos;s own</source>
+        <translation>Os próprios da biblioteca</translation>
+    </message>
+    <message>
+        <source>Standard controls</source>
+        <translation>Controlos padrão</translation>
+    </message>
+    <message>
+        <source>Simulated controller</source>
+        <translation>Controlador simulado</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

@@ -1543,6 +1543,22 @@ Fade to black.</source>
         <source>Open the port</source>
         <translation>Открыть порт</translation>
     </message>
+    <message>
+        <source>Overview</source>
+        <translation>Обзор</translation>
+    </message>
+    <message>
+        <source>The library&apos;s own</source>
+        <translation>Собственные элементы библиотеки</translation>
+    </message>
+    <message>
+        <source>Standard controls</source>
+        <translation>Стандартные элементы</translation>
+    </message>
+    <message>
+        <source>Simulated controller</source>
+        <translation>Имитация контроллера</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>

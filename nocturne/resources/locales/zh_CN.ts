@@ -1543,6 +1543,22 @@ Fade to black.</source>
         <source>Open the port</source>
         <translation>打开端口</translation>
     </message>
+    <message>
+        <source>Overview</source>
+        <translation>概览</translation>
+    </message>
+    <message>
+        <source>The library&apos;s own</source>
+        <translation>本库控件</translation>
+    </message>
+    <message>
+        <source>Standard controls</source>
+        <translation>标准控件</translation>
+    </message>
+    <message>
+        <source>Simulated controller</source>
+        <translation>模拟控制器</translation>
+    </message>
 </context>
 <context>
     <name>GradientTool</name>
