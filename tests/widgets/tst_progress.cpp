@@ -1,4 +1,4 @@
-#include "testsupport.h"
+#include "probes.h"
 
 #include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
@@ -6,9 +6,6 @@
 #include <nocturne/ProgressIndicator>
 #include <nocturne/RoundProgressBar>
 
-#include <QtGui/QPainterPath>
-
-#include <cmath>
 #include <functional>
 #include <memory>
 
@@ -21,36 +18,43 @@ QFont pixelFont(int size)
     return font;
 }
 
-/// Gives tests the texts and angles that the ring paints.
 class Ring : public RoundProgressBar
 {
 public:
     using RoundProgressBar::valueToText;
-
-    double arc = -1.0;
-    QRectF inner;
-
-protected:
-    void drawValue(QPainter &painter, const QRectF &rect, double value, double arcLength) override
-    {
-        arc = arcLength;
-        RoundProgressBar::drawValue(painter, rect, value, arcLength);
-    }
-    void drawText(QPainter &painter, const QRectF &innerRect, double innerRadius,
-                  double value) override
-    {
-        inner = innerRect;
-        RoundProgressBar::drawText(painter, innerRect, innerRadius, value);
-    }
 };
 
-/// A point on the ring's middle line, at \a degrees counter-clockwise from 3 o'clock.
-QPoint onRing(int side, double thickness, double degrees)
+/// Without texts, 200 units wide and 240 high, with a ring 23 wide whose middle line has the
+/// radius 93.
+MakeWidget ring(double value, RoundProgressBar::BarStyle style = RoundProgressBar::DonutStyle,
+                double nullPosition = RoundProgressBar::PositionTop)
 {
-    const double radius = side / 2.0 - 1 - thickness / 4;
-    const double angle = degrees * M_PI / 180.0;
-    return QPoint(int(side / 2.0 + radius * std::cos(angle)),
-                  int(side / 2.0 - radius * std::sin(angle)));
+    return [=] {
+        auto *ring = new RoundProgressBar;
+        ring->setFormat(QString());
+        ring->setTitle(QString(), pixelFont(20), pixelFont(24), 0, false);
+        ring->setBarStyle(style);
+        ring->setNullPosition(nullPosition);
+        ring->setOutlinePenWidth(8);
+        ring->setDataPenWidth(4);
+        ring->resize(200, 240);
+        QPalette palette;
+        palette.setColor(QPalette::Base, Qt::red);
+        ring->setPalette(palette);
+        ring->show();
+        ring->setValue(value);
+        return ring;
+    };
+}
+
+MakeWidget wheel(int side)
+{
+    return [=] {
+        auto *wheel = new ProgressIndicator;
+        wheel->setColor(Qt::red);
+        wheel->resize(side, side);
+        return wheel;
+    };
 }
 
 } // namespace
@@ -63,155 +67,90 @@ private Q_SLOTS:
     void initTestCase() { m_theme = std::make_unique<DarkUX>(); }
     void cleanupTestCase() { delete m_theme->style(); }
 
+    void paints_data()
+    {
+        TestSupport::addPaintingColumns();
+        using TestSupport::addPainting;
+        // Just before and after twelve o'clock, and at nine.
+        addPainting("ring", ring(0), "w-4 108,7; w+0 100,100 0,0; none 10,210",
+                    "w-4 216,14; w+0 200,200 0,0; none 10,420");
+        addPainting("half a ring", ring(50), "#419bf9/130|w-4 108,7; w-4 91,7",
+                    "#419bf9/130|w-4 216,14; w-4 182,14");
+        addPainting("whole ring", ring(100), "#419bf9/180|w-4 91,7 6,100",
+                    "#419bf9/180|w-4 182,14 12,200");
+        addPainting("ring from the left",
+                    ring(1, RoundProgressBar::DonutStyle, RoundProgressBar::PositionLeft),
+                    "w-4 108,7", "w-4 216,14");
+        addPainting("pie", ring(0, RoundProgressBar::PieStyle), "red 100,100", "red 200,200");
+        addPainting("line", ring(25, RoundProgressBar::LineStyle),
+                    "w+0 100,100; #419bf9 195,98; #2d2c2c 5,100 195,110", "w+0 200,200");
+        // side 20: outer 9.5, R 9, height 9 - 3 = 6, width 2; side 40: outer 19.5, R 19,
+        // height 19 - 7 = 12, width 2; side 32: outer 15.5, R 15, height 10, width 3.
+        addPainting("wheel 20", wheel(20), "red 8,2 9,2; none 8,6", "");
+        addPainting("wheel 32", wheel(32), "red 14,4 16,4; none 14,10", "");
+        addPainting("wheel 40", wheel(40), "red 18,5 19,5; none 18,12", "");
+    }
+
+    void paints() { TestSupport::comparePainting(); }
+
     void ringRangeAndValue()
     {
         RoundProgressBar ring;
+        const auto state = [&ring] {
+            return QVector<double>{ring.minimum(), ring.maximum(), ring.value()};
+        };
         ring.setValue(40);
         QCOMPARE(ring.value(), 0.0);
         ring.show();
         ring.setRange(50, 10);
-        QCOMPARE(ring.minimum(), 10.0);
-        QCOMPARE(ring.maximum(), 50.0);
-        QCOMPARE(ring.value(), 10.0);
+        QCOMPARE(state(), QVector<double>({10, 50, 10}));
         ring.setValue(70.0);
         QCOMPARE(ring.value(), 50.0);
         ring.setMaximum(5);
-        QCOMPARE(ring.minimum(), 5.0);
-        QCOMPARE(ring.maximum(), 10.0);
-        QCOMPARE(ring.value(), 10.0);
+        QCOMPARE(state(), QVector<double>({5, 10, 10}));
         ring.setMinimum(20);
-        QCOMPARE(ring.minimum(), 10.0);
-        QCOMPARE(ring.maximum(), 20.0);
+        QCOMPARE(state(), QVector<double>({10, 20, 10}));
         ring.setValue(qQNaN());
         QCOMPARE(ring.value(), 10.0);
         ring.setDecimals(-1);
         QCOMPARE(ring.decimals(), 1);
-        ring.setDecimals(0);
-        QCOMPARE(ring.decimals(), 0);
-    }
-
-    void ringText_data()
-    {
-        QTest::addColumn<QString>("format");
-        QTest::addColumn<bool>("unitMode");
-        QTest::addColumn<double>("value");
-        QTest::addColumn<QString>("text");
-
-        QTest::newRow("percent") << "%p%" << false << 25.0 << "25.0%";
-        QTest::newRow("percent, unit") << "%p%" << true << 25.0 << "25.0";
-        QTest::newRow("bare percent, unit") << "%p" << true << 25.0 << "%p";
-        QTest::newRow("value") << "%v of %v" << false << 3.75 << "3.8 of 3.8";
-        QTest::newRow("connect") << "%connect" << false << 3.0 << "3.0";
-        QTest::newRow("both") << "%v/%p%" << false << 50.0 << "50.0/50.0%";
-        QTest::newRow("0.5 KB") << "%byte" << false << 512.0 << "0.5 KB/s";
-        QTest::newRow("500") << "%byte" << false << 500.0 << "0.5 KB/s";
-        QTest::newRow("1023") << "%byte" << false << 1023.0 << "1.0 KB/s";
-        QTest::newRow("1024") << "x %byte" << false << 1024.0 << "1.0 KB/s";
-        QTest::newRow("1536") << "%byte" << false << 1536.0 << "1.5 KB/s";
-        QTest::newRow("1536, unit") << "%byte" << true << 1536.0 << "1.5";
-        QTest::newRow("2 KB") << "%byte" << false << 2048.0 << "2.0 KB/s";
-        QTest::newRow("3 MB") << "%byte" << false << 3145728.0 << "3.0 MB/s";
-        QTest::newRow("5 GB") << "%byte" << false << 5368709120.0 << "5.0 GB/s";
-        QTest::newRow("2 TB") << "%byte" << false << 2199023255552.0 << "2048.0 GB/s";
     }
 
     void ringText()
     {
-        QFETCH(QString, format);
-        QFETCH(bool, unitMode);
-        QFETCH(double, value);
-        QFETCH(QString, text);
-        Ring ring;
-        ring.setFormat(format);
-        ring.setTitle(QString(), pixelFont(12), pixelFont(24), 1.0, unitMode);
-        QCOMPARE(ring.valueToText(value), text);
-        ring.resetFormat();
-        QCOMPARE(ring.valueToText(value), QString());
-    }
-
-    void ringSector_data()
-    {
-        QTest::addColumn<qreal>("ratio");
-        QTest::newRow("1x") << 1.0;
-        QTest::newRow("2x") << 2.0;
-    }
-
-    void ringSector()
-    {
-        QFETCH(qreal, ratio);
-        const int side = 200;
-        const double thickness = 20 + 3;
-        Ring ring;
-        ring.setFormat(QString());
-        ring.setTitle(QString(), pixelFont(20), pixelFont(24), 0, false);
-        ring.resize(side, side + 40);
-        ring.show();
-
-        const QColor window(0x1f, 0x21, 0x26);
-        const QColor base(0x1b, 0x1d, 0x22);
-        const auto at = [ratio](const QPoint &point) { return point * ratio; };
-
-        QImage image = TestSupport::render(ring, ratio);
-        const QPoint justBefore12 = at(onRing(side, thickness, 95));
-        const QPoint justAfter12 = at(onRing(side, thickness, 85));
-        const QPoint nineOClock = at(onRing(side, thickness, 180));
-        COMPARE_PIXEL(image, justAfter12.x(), justAfter12.y(), base);
-        COMPARE_PIXEL(image, at({100, 100}).x(), at({100, 100}).y(), window);
-        COMPARE_PIXEL(image, 0, 0, window);
-        COMPARE_PIXEL(image, 10, int((side + 10) * ratio), QColor(Qt::transparent));
-        QCOMPARE(ring.arc, 0.0);
-
-        ring.setValue(50);
-        image = TestSupport::render(ring, ratio);
-        const QColor half = TestSupport::blended(QColor(65, 155, 249, 130), base);
-        COMPARE_PIXEL(image, justAfter12.x(), justAfter12.y(), half);
-        COMPARE_PIXEL(image, justBefore12.x(), justBefore12.y(), base);
-        QCOMPARE(ring.arc, 180.0);
-
-        ring.setValue(100);
-        image = TestSupport::render(ring, ratio);
-        const QColor full = TestSupport::blended(QColor(65, 155, 249, 180), base);
-        COMPARE_PIXEL(image, justBefore12.x(), justBefore12.y(), full);
-        COMPARE_PIXEL(image, nineOClock.x(), nineOClock.y(), full);
-
-        ring.setNullPosition(RoundProgressBar::PositionLeft);
-        ring.setValue(1);
-        image = TestSupport::render(ring, ratio);
-        COMPARE_PIXEL(image, justAfter12.x(), justAfter12.y(), base);
-    }
-
-    void ringStyles()
-    {
-        RoundProgressBar ring;
-        ring.setFormat(QString());
-        ring.resize(200, 200);
-        QPalette palette = ring.palette();
-        palette.setColor(QPalette::Base, Qt::darkGreen);
-        ring.setPalette(palette);
-        ring.setBarStyle(RoundProgressBar::PieStyle);
-        QImage image = TestSupport::render(ring);
-        COMPARE_PIXEL(image, 100, 100, QColor(Qt::darkGreen));
-
-        ring.show();
-        ring.setBarStyle(RoundProgressBar::LineStyle);
-        ring.setOutlinePenWidth(8);
-        ring.setDataPenWidth(4);
-        ring.setValue(25);
-        image = TestSupport::render(ring);
-        COMPARE_PIXEL(image, 100, 100, QColor(0x1f, 0x21, 0x26));
-        COMPARE_PIXEL(image, 5, 100, m_theme->palette().color(QPalette::Mid));
-        COMPARE_PIXEL(image, 195, 98, QColor(65, 155, 249));
-        COMPARE_PIXEL(image, 195, 110, m_theme->palette().color(QPalette::Mid));
-    }
-
-    void ringOfNoLengthShowsZero()
-    {
-        Ring ring;
-        ring.show();
-        ring.setRange(7, 7);
-        TestSupport::render(ring);
-        QCOMPARE(ring.arc, 0.0);
-        QCOMPARE(ring.valueToText(7), QStringLiteral("0.0%"));
+        struct Row
+        {
+            const char *format;
+            double value;
+            const char *text;
+            const char *unitText = nullptr;
+        };
+        for (const Row &row : {Row{"%p%", 25, "25.0%", "25.0"},
+                               {"%p", 25, "25.0", "%p"},
+                               {"%v of %v", 3.75, "3.8 of 3.8"},
+                               {"%connect", 3, "3.0"},
+                               {"%v/%p%", 50, "50.0/50.0%"},
+                               {"%byte", 500, "0.5 KB/s"},
+                               {"%byte", 1023, "1.0 KB/s"},
+                               {"x %byte", 1024, "1.0 KB/s"},
+                               {"%byte", 1536, "1.5 KB/s", "1.5"},
+                               {"%byte", 3145728, "3.0 MB/s"},
+                               {"%byte", 5368709120, "5.0 GB/s"},
+                               {"%byte", 2199023255552, "2048.0 GB/s"}})
+        {
+            Ring ring;
+            ring.setFormat(row.format);
+            QCOMPARE(ring.valueToText(row.value), QString(row.text));
+            ring.setTitle(QString(), pixelFont(12), pixelFont(24), 1.0, true);
+            QVERIFY(!row.unitText || ring.valueToText(row.value) == row.unitText);
+            ring.resetFormat();
+            QCOMPARE(ring.valueToText(row.value), QString());
+        }
+        Ring empty;
+        empty.show();
+        empty.setRange(7, 7);
+        TestSupport::render(empty);
+        QCOMPARE(empty.valueToText(7), QString("0.0%"));
     }
 
     void dataColorsBecomeTheHighlightBrush()
@@ -256,74 +195,51 @@ private Q_SLOTS:
         }
     }
 
-    void barFillsValueOverMaximum_data()
-    {
-        QTest::addColumn<int>("minimum");
-        QTest::addColumn<int>("maximum");
-        QTest::addColumn<int>("value");
-        QTest::addColumn<int>("filled");
-
-        QTest::newRow("half") << 0 << 100 << 50 << 100;
-        QTest::newRow("half of the maximum") << 40 << 100 << 50 << 100;
-        QTest::newRow("full") << 0 << 100 << 100 << 200;
-        QTest::newRow("none") << 0 << 100 << 0 << 0;
-        QTest::newRow("below 0") << -50 << 100 << -10 << 0;
-        QTest::newRow("busy") << 0 << 0 << 0 << 0;
-        QTest::newRow("negative range") << -50 << -10 << -20 << 0;
-    }
-
     void barFillsValueOverMaximum()
     {
-        QFETCH(int, minimum);
-        QFETCH(int, maximum);
-        QFETCH(int, value);
-        QFETCH(int, filled);
-        ProgressBar bar;
-        bar.resize(200, 30);
-        bar.setRange(minimum, maximum);
-        bar.setValue(value);
-        const QImage image = TestSupport::render(bar);
-        const int middle = 8 + 13 / 2;
-        int blue = 0;
-        for (int x = 0; x < image.width(); ++x)
-            blue += image.pixelColor(x, middle).blue() > 120;
-        // The blur takes the last pixel or two at each end.
-        QVERIFY2(blue <= filled && blue >= filled - 6, qPrintable(QString::number(blue)));
-
-        COMPARE_PIXEL(image, 100, 7, QColor(Qt::transparent));
-        COMPARE_PIXEL(image, 100, 22, QColor(Qt::transparent));
-        if (filled < 150) {
-            const QImage groove = TestSupport::paintOn({1, 1}, Qt::transparent, [](QPainter &p) {
-                p.fillRect(0, 0, 1, 1, QColor(11, 11, 11, 128));
-            });
-            COMPARE_PIXEL(image, 150, middle, groove.pixelColor(0, 0));
-            QVERIFY(image.pixelColor(150, 21).red() > 60);
-            COMPARE_PIXEL(image, 1, 21, image.pixelColor(198, 21));
+        struct Row
+        {
+            int minimum;
+            int maximum;
+            int value;
+            int filled;
+        };
+        for (const Row &row :
+             {Row{0, 100, 50, 100}, Row{40, 100, 50, 100}, Row{0, 100, 100, 200}, Row{0, 100, 0, 0},
+              Row{-50, 100, -10, 0}, Row{0, 0, 0, 0}, Row{-50, -10, -20, 0}})
+        {
+            ProgressBar bar;
+            bar.resize(200, 30);
+            bar.setRange(row.minimum, row.maximum);
+            bar.setValue(row.value);
+            const QImage image = TestSupport::render(bar);
+            int blue = 0;
+            for (int x = 0; x < image.width(); ++x)
+                blue += image.pixelColor(x, 14).blue() > 120;
+            // The blur takes the last pixel or two at each end.
+            QVERIFY2(blue <= row.filled && blue >= row.filled - 6,
+                     qPrintable(QString::number(blue)));
+            TestSupport::compareProbes(image, "none 100,7 100,22");
+            if (row.filled < 150)
+                TestSupport::compareProbes(image, "#0b0b0b/128 150,14; #4c4c4c/128 150,21");
         }
-    }
-
-    void fullBarHasNoGroove()
-    {
-        ProgressBar bar;
-        bar.setFullSize(true);
-        bar.resize(200, 30);
-        bar.setRange(0, 100);
-        bar.setValue(50);
-        const QImage image = TestSupport::render(bar);
-        COMPARE_PIXEL(image, 50, 15, QColor(65, 155, 249));
-        COMPARE_PIXEL(image, 120, 15, QColor(Qt::transparent));
+        ProgressBar full;
+        full.setFullSize(true);
+        full.resize(200, 30);
+        full.setRange(0, 100);
+        full.setValue(50);
+        TestSupport::compareProbes(TestSupport::render(full), "#419bf9 50,15; none 120,15");
     }
 
     void indicatorTurns()
     {
         ProgressIndicator wheel;
-        QCOMPARE(wheel.sizeHint(), QSize(20, 20));
-        QVERIFY(!wheel.isAnimated());
-        wheel.setProperty("delay", 1);
+        wheel.setAnimationDelay(1);
         wheel.resize(40, 40);
         const QImage upright = TestSupport::render(wheel);
+        // The capsule at 6 o'clock is half way through the fade.
+        QVERIFY(qAbs(upright.pixelColor(19, 33).alphaF() - 0.5) < 0.01);
         wheel.startAnimation();
-        QVERIFY(wheel.isAnimated());
         QTRY_VERIFY(TestSupport::render(wheel) != upright);
         wheel.setAnimationDelay(1000000);
         QVERIFY(wheel.isAnimated());
@@ -335,41 +251,8 @@ private Q_SLOTS:
         QVERIFY(!wheel.isAnimated());
         QCOMPARE(TestSupport::render(wheel), upright);
         wheel.setDisplayedWhenStopped(false);
-        QImage nothing = TestSupport::render(wheel);
-        nothing.fill(Qt::transparent);
-        QCOMPARE(TestSupport::render(wheel), nothing);
-    }
-
-    void indicatorCapsules_data()
-    {
-        QTest::addColumn<int>("side");
-        QTest::addColumn<QRect>("capsule");
-
-        // side 20: outer 9.5, R 9, height 9 - 3 = 6, width 2; side 40: outer 19.5, R 19,
-        // height 19 - 7 = 12, width 2; side 32: outer 15.5, R 15, height 10, width 3.
-        QTest::newRow("20") << 20 << QRect(8, 0, 2, 6);
-        QTest::newRow("32") << 32 << QRect(14, 0, 3, 10);
-        QTest::newRow("40") << 40 << QRect(18, 0, 2, 12);
-    }
-
-    void indicatorCapsules()
-    {
-        QFETCH(int, side);
-        QFETCH(QRect, capsule);
-        ProgressIndicator wheel;
-        wheel.setColor(Qt::red);
-        wheel.resize(side, side);
-        const QImage image = TestSupport::render(wheel);
-        for (int x : {capsule.left() - 2, capsule.right() + 2})
-            QVERIFY(image.pixelColor(x, capsule.top() + 1).alpha() < 10);
-        for (int x = capsule.left(); x <= capsule.right(); ++x)
-            COMPARE_PIXEL(image, x, capsule.center().y(), QColor(Qt::red));
-        QCOMPARE(image.pixelColor(capsule.left(), capsule.bottom() + 1).alpha(), 0);
-        // The capsule at 6 o'clock is half way through the fade.
-        const QPoint centre = QRect(0, 0, side, side).center();
-        const QColor opposite =
-            image.pixelColor(centre.x(), 2 * centre.y() - capsule.center().y() - 1);
-        QVERIFY(qAbs(opposite.alphaF() - 0.5) < 0.01);
+        QCOMPARE(TestSupport::count(TestSupport::render(wheel), wheel.rect(), Qt::transparent),
+                 1600);
     }
 
 private:
