@@ -520,8 +520,12 @@ void Monkey::arm(Dice &dice)
             m_widget->setEnabled(false);
             break;
         case 3:
-            m_widget->setParent(nullptr);
-            m_window->layout()->addWidget(m_widget);
+            // The toolkit itself does not bear that a window ends while it is being activated.
+            if (!m_widget->isWindow()) {
+                QWidget other;
+                m_widget->setParent(&other);
+                m_window->layout()->addWidget(m_widget);
+            }
             break;
         case 4: {
             // A popup whose appearance ends a gesture is not yet fit to be closed.
