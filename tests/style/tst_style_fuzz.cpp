@@ -1,4 +1,4 @@
-#include "qtversion.h"
+#include "styleoptions.h"
 #include "stylepainting.h"
 
 #include <QtCore/QElapsedTimer>
@@ -143,7 +143,8 @@ private:
     void make()
     {
         auto option = std::make_shared<Option>();
-        pick(option->state, option->rect);
+        pickOne(option->state);
+        pickOne(option->rect);
         option->direction = below(2) ? Qt::LeftToRight : Qt::RightToLeft;
         option->palette = m_palettes.at(below(m_palettes.size()));
         option->palette.setCurrentColorGroup(static_cast<QPalette::ColorGroup>(below(3)));
@@ -151,11 +152,6 @@ private:
         m_option = option;
     }
 
-    template <typename... Values>
-    void pick(Values &...values)
-    {
-        (pickOne(values), ...);
-    }
     /// Mostly small, sometimes at an end of the range.
     void pickOne(int &value)
     {
@@ -185,91 +181,32 @@ private:
         value = QFlags<Enum>(static_cast<int>(m_generator.generate() & 0x7fffffff));
     }
 
-    template <typename... Enums>
-    void pickOfEight(Enums &...values)
+    // Enumerations with five to eight values.
+    void pickOne(QTabBar::Shape &value) { value = static_cast<QTabBar::Shape>(below(8)); }
+    void pickOne(Qt::ArrowType &value) { value = static_cast<Qt::ArrowType>(below(8)); }
+    void pickOne(Qt::ToolButtonStyle &value) { value = static_cast<Qt::ToolButtonStyle>(below(8)); }
+    void pickOne(QStyleOptionMenuItem::MenuItemType &value)
     {
-        ((values = static_cast<Enums>(below(8))), ...);
+        value = static_cast<QStyleOptionMenuItem::MenuItemType>(below(8));
     }
 
-    void fill(QStyleOption &) {}
-    void fill(QStyleOptionButton &o) { pick(o.features, o.text, o.icon, o.iconSize); }
-    void fill(QStyleOptionFrame &o) { pick(o.lineWidth, o.midLineWidth); }
-    void fill(QStyleOptionTab &o)
+    template <typename Option>
+    void fill(Option &option)
     {
-        pick(o.position, o.selectedPosition, o.features);
-        pickOfEight(o.shape);
+        StyleOptions::visitFields(option, [this](const char *, auto &field) { pickOne(field); });
+        if constexpr (std::is_base_of_v<QStyleOptionComplex, Option>)
+            option.activeSubControls = QStyle::SubControls(below(2) ? 0 : 1 << below(10));
     }
-    void fill(QStyleOptionTabWidgetFrame &o)
+    void fill(QStyleOptionProgressBar &option)
     {
-        pick(o.selectedTabRect);
-        pickOfEight(o.shape);
-    }
-    void fill(QStyleOptionTabBarBase &o)
-    {
-        pick(o.selectedTabRect, o.tabBarRect);
-        pickOfEight(o.shape);
-    }
-    void fill(QStyleOptionProgressBar &o)
-    {
-        pick(o.minimum, o.maximum, o.progress, o.text, o.invertedAppearance);
-        QtVersion::setOrientation(o, below(2) ? Qt::Horizontal : Qt::Vertical);
+        fill<QStyleOptionProgressBar>(option);
         if (below(2))
-            o.minimum = o.maximum = 0;
+            option.minimum = option.maximum = 0;
     }
-    void fill(QStyleOptionMenuItem &o)
+    void fill(QStyleOptionToolBar &option)
     {
-        pick(o.checkType, o.checked, o.text, o.icon);
-        pickOfEight(o.menuItemType);
-        o.maxIconWidth = below(60);
-        QtVersion::setShortcutWidth(o, below(200) - 50);
-    }
-    void fill(QStyleOptionHeader &o)
-    {
-        pick(o.text, o.icon, o.position, o.sortIndicator, o.orientation);
-    }
-    void fill(QStyleOptionDockWidget &o) { pick(o.title, o.verticalTitleBar); }
-    void fill(QStyleOptionToolBar &o)
-    {
-        pick(o.positionOfLine);
-        o.toolBarArea = static_cast<Qt::ToolBarArea>(1 << below(4));
-    }
-
-    void fill(QStyleOptionComplex &o)
-    {
-        pick(o.subControls);
-        o.activeSubControls = QStyle::SubControls(below(2) ? 0 : 1 << below(10));
-    }
-    void fill(QStyleOptionSlider &o)
-    {
-        fill(static_cast<QStyleOptionComplex &>(o));
-        pick(o.minimum, o.maximum, o.sliderPosition, o.sliderValue, o.singleStep, o.pageStep);
-        pick(o.orientation, o.tickInterval, o.tickPosition, o.upsideDown, o.dialWrapping);
-    }
-    void fill(QStyleOptionSpinBox &o)
-    {
-        fill(static_cast<QStyleOptionComplex &>(o));
-        pick(o.buttonSymbols, o.stepEnabled, o.frame);
-    }
-    void fill(QStyleOptionToolButton &o)
-    {
-        fill(static_cast<QStyleOptionComplex &>(o));
-        pick(o.features, o.text, o.icon, o.iconSize);
-        pickOfEight(o.arrowType, o.toolButtonStyle);
-    }
-    void fill(QStyleOptionComboBox &o)
-    {
-        fill(static_cast<QStyleOptionComplex &>(o));
-        pick(o.editable, o.currentText, o.currentIcon, o.iconSize);
-    }
-    void fill(QStyleOptionTitleBar &o)
-    {
-        fill(static_cast<QStyleOptionComplex &>(o));
-        pick(o.text, o.icon, o.titleBarState, o.titleBarFlags);
-    }
-    void fill(QStyleOptionGroupBox &o)
-    {
-        fill(static_cast<QStyleOptionComplex &>(o));
-        pick(o.text, o.textAlignment, o.lineWidth);
+        fill<QStyleOptionToolBar>(option);
+        option.toolBarArea = static_cast<Qt::ToolBarArea>(1 << below(4));
     }
 
     QRandomGenerator m_generator{seed};

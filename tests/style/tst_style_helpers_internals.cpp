@@ -17,13 +17,13 @@
 // The hidden tools that all paint functions of the style share.
 
 using namespace StylePainting;
+using namespace Nocturne;
 
 namespace {
 
 QImage arrow(const QColor &color, int rotation)
 {
-    return Nocturne::StyleHelpers::colorizedImage(Nocturne::StyleHelpers::arrowImageFileName(),
-                                                  color, rotation)
+    return StyleHelpers::colorizedImage(StyleHelpers::arrowImageFileName(), color, rotation)
         .toImage()
         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
@@ -60,15 +60,10 @@ private Q_SLOTS:
     void colorizedArrow();
     void colorizedChannels();
     void arrowDrawing();
-    void toolButtonArrows();
-
-    void titleBarButton();
 
     void dialTicks();
-    void dialTickCounts_data();
     void dialTickCounts();
     void dialPositions();
-    void dialFollowsItsRectangle();
 
 private:
     DarkUX m_theme;
@@ -77,35 +72,31 @@ private:
 void tst_StyleHelpers::derivedColors()
 {
     const QPalette palette = m_theme.palette();
-    QCOMPARE(Nocturne::StyleColors::buttonColor(palette).rgba(), qRgb(0x48, 0x48, 0x48));
-    QCOMPARE(Nocturne::StyleColors::outlineColor(palette),
-             palette.color(QPalette::Window).darker(140));
+    QCOMPARE(StyleColors::buttonColor(palette).rgba(), qRgb(0x48, 0x48, 0x48));
+    QCOMPARE(StyleColors::outlineColor(palette), palette.color(QPalette::Window).darker(140));
 
     // Grey 134 is lightened by (180 - 134) / 6 percent.
     QPalette light(palette);
     light.setColor(QPalette::Button, QColor(200, 100, 100));
     const QColor button = QColor(200, 100, 100).lighter(107);
-    QCOMPARE(Nocturne::StyleColors::buttonColor(light).hue(), button.hue());
-    QCOMPARE(Nocturne::StyleColors::buttonColor(light).value(), button.value());
-    QCOMPARE(Nocturne::StyleColors::buttonColor(light).saturation(),
-             int(button.saturation() * 0.75));
+    QCOMPARE(StyleColors::buttonColor(light).hue(), button.hue());
+    QCOMPARE(StyleColors::buttonColor(light).value(), button.value());
+    QCOMPARE(StyleColors::buttonColor(light).saturation(), int(button.saturation() * 0.75));
 
     QPalette bright(palette);
     bright.setColor(QPalette::Highlight, QColor(40, 80, 255));
-    QCOMPARE(Nocturne::StyleColors::highlightedOutlineColor(bright).lightness(), 160);
+    QCOMPARE(StyleColors::highlightedOutlineColor(bright).lightness(), 160);
     bright.setColor(QPalette::Highlight, QColor(20, 40, 100));
-    QCOMPARE(Nocturne::StyleColors::highlightedOutlineColor(bright),
-             QColor(20, 40, 100).darker(125));
+    QCOMPARE(StyleColors::highlightedOutlineColor(bright), QColor(20, 40, 100).darker(125));
 
     QPalette textured(palette);
     textured.setBrush(QPalette::Window, QBrush(QPixmap(4, 4)));
-    QCOMPARE(Nocturne::StyleColors::outlineColor(textured), QColor(0, 0, 0, 160));
-    QCOMPARE(Nocturne::StyleColors::tabFrameColor(textured), QColor(255, 255, 255, 8));
+    QCOMPARE(StyleColors::outlineColor(textured), QColor(0, 0, 0, 160));
+    QCOMPARE(StyleColors::tabFrameColor(textured), QColor(255, 255, 255, 8));
 
-    QCOMPARE(Nocturne::StyleColors::mergedColors(QColor(0x19, 0x1a, 0x1e, 40),
-                                                 QColor(0xbb, 0xbb, 0xbb), 85),
+    QCOMPARE(StyleColors::mergedColors(QColor(0x19, 0x1a, 0x1e, 40), QColor(0xbb, 0xbb, 0xbb), 85),
              QColor(49, 50, 53, 40));
-    QCOMPARE(Nocturne::StyleColors::mergedColors(QColor(200, 0, 100), QColor(0, 200, 100), 200),
+    QCOMPARE(StyleColors::mergedColors(QColor(200, 0, 100), QColor(0, 200, 100), 200),
              QColor(255, 0, 100));
 }
 
@@ -118,41 +109,37 @@ void tst_StyleHelpers::scrollBarBackground()
     areaPalette.setColor(QPalette::Base, Qt::green);
     area.setPalette(areaPalette);
     QScrollBar loose;
-    QCOMPARE(Nocturne::StyleColors::scrollBarBackgroundColor(palette, area.verticalScrollBar()),
+    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, area.verticalScrollBar()),
              QColor(Qt::green));
-    QCOMPARE(Nocturne::StyleColors::scrollBarBackgroundColor(palette, &loose), QColor(Qt::red));
-    QCOMPARE(Nocturne::StyleColors::scrollBarBackgroundColor(palette, &area), QColor(Qt::red));
-    QCOMPARE(Nocturne::StyleColors::scrollBarBackgroundColor(palette, nullptr), QColor(Qt::red));
+    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, &loose), QColor(Qt::red));
+    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, &area), QColor(Qt::red));
+    QCOMPARE(StyleColors::scrollBarBackgroundColor(palette, nullptr), QColor(Qt::red));
 }
 
+/// Whatever a drawing depends on gives it a key of its own.
 void tst_StyleHelpers::cacheKeys()
 {
     const QSize size(20, 10);
     QStyleOptionSlider option;
     option.palette = m_theme.palette();
-    const QString key = Nocturne::StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, size);
-    QCOMPARE(Nocturne::StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, size), key);
-    QVERIFY(key.startsWith(QLatin1Char('x')));
-
-    // Whatever a drawing depends on gives it a key of its own.
-    QSet<QString> keys = {
-        key, Nocturne::StyleHelpers::styleCacheKey(QStringLiteral("y"), &option, size),
-        Nocturne::StyleHelpers::styleCacheKey(QStringLiteral("x"), nullptr, size)};
-    const auto addSize = [&](const QSize &other) {
-        keys << Nocturne::StyleHelpers::styleCacheKey(QStringLiteral("x"), &option, other);
-    };
-    addSize(QSize(10, 20));
-    addSize(QSize(20 + 0x10000, 10));
-    const auto addChanged = [&](const std::function<void(QStyleOptionSlider *)> &change) {
+    const QString key = StyleHelpers::styleCacheKey("x", &option, size);
+    QCOMPARE(StyleHelpers::styleCacheKey("x", &option, size), key);
+    QVERIFY(key.startsWith('x'));
+    QSet<QString> keys = {key, StyleHelpers::styleCacheKey("y", &option, size),
+                          StyleHelpers::styleCacheKey("x", nullptr, size),
+                          StyleHelpers::styleCacheKey("x", &option, QSize(10, 20)),
+                          StyleHelpers::styleCacheKey("x", &option, QSize(20 + 0x10000, 10))};
+    const std::function<void(QStyleOptionSlider &)> changes[] = {
+        [](auto &other) { other.state = QStyle::State_Window; }, // a high bit
+        [](auto &other) { other.direction = Qt::RightToLeft; },
+        [](auto &other) { other.activeSubControls = QStyle::SC_SliderHandle; },
+        [](auto &other) { other.palette.setColor(QPalette::Text, Qt::red); },
+        [](auto &other) { other.palette.setCurrentColorGroup(QPalette::Disabled); }};
+    for (const auto &change : changes) {
         QStyleOptionSlider changed(option);
-        change(&changed);
-        keys << Nocturne::StyleHelpers::styleCacheKey(QStringLiteral("x"), &changed, size);
-    };
-    addChanged([](auto *other) { other->state = QStyle::State_Window; }); // a high bit
-    addChanged([](auto *other) { other->direction = Qt::RightToLeft; });
-    addChanged([](auto *other) { other->activeSubControls = QStyle::SC_SliderHandle; });
-    addChanged([](auto *other) { other->palette.setColor(QPalette::Text, Qt::red); });
-    addChanged([](auto *other) { other->palette.setCurrentColorGroup(QPalette::Disabled); });
+        change(changed);
+        keys << StyleHelpers::styleCacheKey("x", &changed, size);
+    }
     QCOMPARE(keys.size(), 10);
 
     keys.clear();
@@ -161,7 +148,7 @@ void tst_StyleHelpers::cacheKeys()
         spinBox.frame = i % 2;
         spinBox.stepEnabled = QAbstractSpinBox::StepEnabled(i / 2 % 4);
         spinBox.buttonSymbols = QAbstractSpinBox::ButtonSymbols(i / 8);
-        keys << Nocturne::StyleHelpers::styleCacheKey(QStringLiteral("s"), &spinBox, size);
+        keys << StyleHelpers::styleCacheKey("s", &spinBox, size);
     }
     QCOMPARE(keys.size(), 24);
 }
@@ -174,7 +161,7 @@ void tst_StyleHelpers::keptDrawings()
     const auto compare = [](const char *prefix, const QStyleOption &option, const QRect &kept,
                             const Drawing &paint) {
         const QString key =
-            Nocturne::StyleHelpers::styleCacheKey(QLatin1String(prefix), &option, kept.size());
+            StyleHelpers::styleCacheKey(QLatin1String(prefix), &option, kept.size());
         picture(paint);
         QPixmap mark;
         QVERIFY2(QPixmapCache::find(key, &mark), prefix);
@@ -218,8 +205,9 @@ void tst_StyleHelpers::keptDrawingsFollowTheScreen()
 {
     const DarkFusionStyle style;
     const auto button = makeOption<QStyleOptionButton>(QRect(2, 2, 40, 24));
-    auto titleBar = makeTitleBar(QStyle::State_Active, Qt::WindowSystemMenuHint);
-    titleBar.rect = everything;
+    auto titleBar = makeOption<QStyleOptionTitleBar>(everything);
+    titleBar.titleBarState = int(QStyle::State_Active);
+    titleBar.titleBarFlags = Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
     const auto draw = [&] {
         return picture([&](QPainter &painter) {
             style.drawComplexControl(QStyle::CC_TitleBar, &titleBar, &painter);
@@ -251,10 +239,8 @@ void tst_StyleHelpers::cachedDrawingIsPaintedOnce()
     };
     const QImage image = TestSupport::paintOn(QSize(12, 12), Qt::black, [&](QPainter &painter) {
         for (const QPoint &place : {QPoint(1, 1), QPoint(6, 6)})
-            Nocturne::StyleHelpers::drawCached(&painter, place, QStringLiteral("once"), QSize(5, 5),
-                                               paint);
-        Nocturne::StyleHelpers::drawCached(&painter, QPoint(), QStringLiteral("none"), QSize(0, 5),
-                                           paint);
+            StyleHelpers::drawCached(&painter, place, QStringLiteral("once"), QSize(5, 5), paint);
+        StyleHelpers::drawCached(&painter, QPoint(), QStringLiteral("none"), QSize(0, 5), paint);
     });
     QCOMPARE(painted, 1);
     COMPARE_PIXEL(image, 0, 0, Qt::black);
@@ -268,8 +254,7 @@ void tst_StyleHelpers::uncacheableDrawingIsPaintedInPlace()
     const auto paint = [](QPainter *painter) { painter->fillRect(0, 0, 3, 1, Qt::red); };
     const QSize huge(1000000, 1000000);
     QImage image = TestSupport::paintOn(QSize(8, 8), Qt::black, [&](QPainter &painter) {
-        Nocturne::StyleHelpers::drawCached(&painter, QPoint(2, 2), QStringLiteral("huge"), huge,
-                                           paint);
+        StyleHelpers::drawCached(&painter, QPoint(2, 2), QStringLiteral("huge"), huge, paint);
     });
     COMPARE_PIXEL(image, 2, 2, Qt::red);
 
@@ -277,8 +262,8 @@ void tst_StyleHelpers::uncacheableDrawingIsPaintedInPlace()
     image = TestSupport::paintOn(QSize(8, 8), Qt::black, [&](QPainter &painter) {
         painter.translate(8, 0);
         painter.rotate(90);
-        Nocturne::StyleHelpers::drawCachedUnlessTransformed(
-            &painter, QPoint(2, 2), QStringLiteral("turned"), QSize(3, 1), paint);
+        StyleHelpers::drawCachedUnlessTransformed(&painter, QPoint(2, 2), QStringLiteral("turned"),
+                                                  QSize(3, 1), paint);
         QVERIFY(painter.worldTransform().isRotating());
     });
     COMPARE_PIXEL(image, 5, 2, Qt::red);
@@ -310,13 +295,11 @@ void tst_StyleHelpers::colorizedArrow()
     QCOMPARE(arrow(color, -90), up.transformed(QTransform().rotate(-90)));
 
     QPixmap cached;
-    QVERIFY(QPixmapCache::find(QStringLiteral("$qt_ia-")
-                                   + Nocturne::StyleHelpers::arrowImageFileName()
+    QVERIFY(QPixmapCache::find(QStringLiteral("$qt_ia-") + StyleHelpers::arrowImageFileName()
                                    + QStringLiteral("46698cff0"),
                                &cached));
-    QVERIFY(
-        Nocturne::StyleHelpers::colorizedImage(QStringLiteral(":/no/such.png"), Qt::red).isNull());
-    QVERIFY(!QImage(Nocturne::StyleHelpers::groupBoxImageFileName()).isNull());
+    QVERIFY(StyleHelpers::colorizedImage(QStringLiteral(":/no/such.png"), Qt::red).isNull());
+    QVERIFY(!QImage(StyleHelpers::groupBoxImageFileName()).isNull());
 }
 
 void tst_StyleHelpers::colorizedChannels()
@@ -329,15 +312,13 @@ void tst_StyleHelpers::colorizedChannels()
     source.setPixelColor(2, 0, QColor(0, 0, 255, 0)); // nothing
     QVERIFY(source.save(fileName));
 
-    const QImage image =
-        Nocturne::StyleHelpers::colorizedImage(fileName, QColor(100, 50, 250)).toImage();
+    const QImage image = StyleHelpers::colorizedImage(fileName, QColor(100, 50, 250)).toImage();
     COMPARE_PIXEL(image, 0, 0, QColor(140, 90, (40 + 250) % 256));
     COMPARE_PIXEL(image, 1, 0, QColor(60, 60, 60));
     QCOMPARE(image.pixelColor(2, 0).alpha(), 0);
 
     // No channel exceeds the alpha of a translucent colour.
-    const QImage faint =
-        Nocturne::StyleHelpers::colorizedImage(fileName, QColor(100, 50, 200, 80)).toImage();
+    const QImage faint = StyleHelpers::colorizedImage(fileName, QColor(100, 50, 200, 80)).toImage();
     QCOMPARE(faint.convertToFormat(QImage::Format_ARGB32_Premultiplied).pixelColor(0, 0).alpha(),
              80);
 }
@@ -355,7 +336,7 @@ void tst_StyleHelpers::arrowDrawing()
         const auto draw = [&](const QRect &rect) {
             option.rect = rect;
             return TestSupport::paintOn(QSize(40, 24), Qt::black, [&](QPainter &painter) {
-                Nocturne::StyleHelpers::drawArrowImage(arrow.first, &painter, &option);
+                StyleHelpers::drawArrowImage(arrow.first, &painter, &option);
             });
         };
         for (const QRect &rect : {QRect(3, 4, 11, 11), QRect(2, 2, 30, 10), QRect(5, 5, 5, 5)}) {
@@ -368,75 +349,19 @@ void tst_StyleHelpers::arrowDrawing()
         for (const QRect &rect : {QRect(5, 5, 9, 1), QRect(5, 5, 1, 9), QRect()})
             QVERIFY(painted(draw(rect), Qt::black).isEmpty());
     }
-    Nocturne::StyleHelpers::drawArrowImage(QStyle::PE_IndicatorArrowUp, nullptr, nullptr);
-}
-
-void tst_StyleHelpers::toolButtonArrows()
-{
-    const Recorder style;
-    QStyleOptionToolButton option;
-    option.state = QStyle::State_MouseOver;
-    for (Qt::ArrowType type :
-         {Qt::NoArrow, Qt::UpArrow, Qt::DownArrow, Qt::LeftArrow, Qt::RightArrow}) {
-        option.arrowType = type;
-        Nocturne::StyleHelpers::drawToolButtonArrow(&style, &option, QRect(1, 2, 3, 4), nullptr,
-                                                    nullptr);
-    }
-    const QVector<QStyle::PrimitiveElement> expected = {
-        QStyle::PE_IndicatorArrowUp, QStyle::PE_IndicatorArrowDown, QStyle::PE_IndicatorArrowLeft,
-        QStyle::PE_IndicatorArrowRight};
-    QCOMPARE(style.pieces.size(), expected.size());
-    for (int i = 0; i < expected.size(); ++i) {
-        QCOMPARE(style.pieces.at(i).element, expected.at(i));
-        QCOMPARE(style.pieces.at(i).rect, QRect(1, 2, 3, 4));
-        QCOMPARE(style.pieces.at(i).state, QStyle::State(QStyle::State_MouseOver));
-    }
-}
-
-void tst_StyleHelpers::titleBarButton()
-{
-    QStyleOptionTitleBar option;
-    option.palette = m_theme.palette();
-    const QColor back(20, 40, 60);
-    const QColor highlight = option.palette.color(QPalette::Highlight);
-    const auto draw = [&](bool hover, bool sunken) {
-        return TestSupport::paintOn(QSize(24, 24), back, [&](QPainter &painter) {
-            Nocturne::StyleHelpers::drawTitleBarButton(&painter, &option, QRect(3, 3, 16, 16),
-                                                       hover, sunken);
-        });
-    };
-    QImage image = draw(false, false);
-    // The button's #3c3c3c at seven tenths, then darker by a tenth.
-    const QColor border = QColor(42, 42, 42).darker(110);
-    COMPARE_PIXEL(image, 10, 3, border);
-    COMPARE_PIXEL(image, 4, 4, border);
-    COMPARE_PIXEL(image, 3, 3, back);
-    COMPARE_PIXEL(image, 10, 10, back);
-    const QColor light = TestSupport::blended(QColor(255, 255, 255, 60), back);
-    COMPARE_PIXEL(image, 10, 4, light);
-    COMPARE_PIXEL(image, 4, 10, light);
-
-    image = draw(true, false);
-    COMPARE_PIXEL(image, 10, 10, TestSupport::blended(QColor(255, 255, 255, 20), back));
-    image = draw(true, true);
-    COMPARE_PIXEL(image, 10, 10, highlight.darker(120));
-    COMPARE_PIXEL(image, 10, 4, highlight.darker(130));
-
-    option.titleBarState = QStyle::State_Active;
-    image = draw(false, false);
-    COMPARE_PIXEL(image, 10, 3, highlight.darker(180));
+    StyleHelpers::drawArrowImage(QStyle::PE_IndicatorArrowUp, nullptr, nullptr);
 }
 
 void tst_StyleHelpers::dialTicks()
 {
     const QStyleOptionSlider option = dialOption();
-    const QVector<QLineF> lines = Nocturne::ComplexControls::dialTickLines(&option);
+    const QVector<QLineF> lines = ComplexControls::dialTickLines(&option);
     QCOMPARE(lines.size(), 11);
     const QPointF center(32.5, 32.5);
     const auto distance = [&](const QPointF &point) { return QLineF(center, point).length(); };
 
     // At 240 degrees, a long mark; the next one is short, and one unit further in.
-    QCOMPARE(Nocturne::ComplexControls::dialBigLineSize(32), 5);
+    QCOMPARE(ComplexControls::dialBigLineSize(32), 5);
     QCOMPARE(QLineF(center, lines.first().p2()).angle(), 240.0);
     QCOMPARE(distance(lines.first().p1()), 27.0);
     QCOMPARE(distance(lines.first().p2()), 32.0);
@@ -446,32 +371,24 @@ void tst_StyleHelpers::dialTicks()
     QCOMPARE(QLineF(center, lines.last().p2()).angle(), 300.0);
 }
 
-void tst_StyleHelpers::dialTickCounts_data()
-{
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<int>("maximum");
-    QTest::addColumn<int>("interval");
-    QTest::addColumn<int>("count");
-    QTest::newRow("no interval") << 0 << 100 << 0 << 0;
-    QTest::newRow("bad interval") << 0 << 100 << -5 << 0;
-    QTest::newRow("rounded up") << 0 << 100 << 30 << 5;
-    QTest::newRow("no range") << 5 << 5 << 1 << 0;
-    QTest::newRow("backwards") << 5 << 2 << 1 << 0;
-    QTest::newRow("wide range") << 0 << 5000 << 7 << (7 + 999) / 7 + 1;
-    QTest::newRow("widest range") << INT_MIN << INT_MAX << INT_MAX << 2;
-}
-
 void tst_StyleHelpers::dialTickCounts()
 {
-    QFETCH(int, minimum);
-    QFETCH(int, maximum);
-    QFETCH(int, interval);
-    QStyleOptionSlider option = dialOption();
-    option.minimum = minimum;
-    option.maximum = maximum;
-    option.tickInterval = interval;
-    option.pageStep = 0;
-    QTEST(Nocturne::ComplexControls::dialTickLines(&option).size(), "count");
+    const int rows[][4] = {// minimum, maximum, interval, number of marks
+                           {0, 100, 0, 0},
+                           {0, 100, -5, 0},
+                           {0, 100, 30, 5},
+                           {5, 5, 1, 0},
+                           {5, 2, 1, 0},
+                           {0, 5000, 7, (7 + 999) / 7 + 1},
+                           {INT_MIN, INT_MAX, INT_MAX, 2}};
+    for (const auto &row : rows) {
+        QStyleOptionSlider option = dialOption();
+        option.minimum = row[0];
+        option.maximum = row[1];
+        option.tickInterval = row[2];
+        option.pageStep = 0;
+        QCOMPARE(ComplexControls::dialTickLines(&option).size(), row[3]);
+    }
 }
 
 void tst_StyleHelpers::dialPositions()
@@ -480,12 +397,12 @@ void tst_StyleHelpers::dialPositions()
     const QPointF center(32, 32);
     const auto angle = [&](int value) {
         option.sliderPosition = value;
-        return qRound(QLineF(center, Nocturne::ComplexControls::dialRadialPos(&option, 1.0)).angle());
+        return qRound(QLineF(center, ComplexControls::dialRadialPos(&option, 1.0)).angle());
     };
     QCOMPARE(angle(0), 240);
     QCOMPARE(angle(50), 90);
     QCOMPARE(angle(100), 300);
-    QCOMPARE(QLineF(center, Nocturne::ComplexControls::dialRadialPos(&option, 0.5)).length(), 12.0);
+    QCOMPARE(QLineF(center, ComplexControls::dialRadialPos(&option, 0.5)).length(), 12.0);
 
     option.upsideDown = false;
     QCOMPARE(angle(0), 300);
@@ -493,18 +410,6 @@ void tst_StyleHelpers::dialPositions()
     QCOMPARE(angle(25), 0);
     option.minimum = option.maximum = 7;
     QCOMPARE(angle(7), 90);
-}
-
-void tst_StyleHelpers::dialFollowsItsRectangle()
-{
-    QStyleOptionSlider option = dialOption();
-    const auto draw = [&](QPainter &painter) {
-        Nocturne::ComplexControls::drawDial(&option, &painter);
-    };
-    const QImage dial = TestSupport::paintOn(QSize(64, 64), Qt::transparent, draw);
-    option.rect.moveTo(20, 10);
-    const QImage moved = TestSupport::paintOn(QSize(90, 80), Qt::transparent, draw);
-    QCOMPARE(moved.copy(20, 10, 64, 64), dial);
 }
 
 NOCTURNE_TEST_MAIN(tst_StyleHelpers)

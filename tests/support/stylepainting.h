@@ -6,6 +6,7 @@
 #include <nocturne/style/darkfusionstyle.h>
 #include <nocturne/theme/darkux.h>
 
+#include <QtCore/QMetaEnum>
 #include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QStyleOption>
 
@@ -16,48 +17,10 @@
 namespace StylePainting {
 
 constexpr QStyle::State enabled = QStyle::State_Enabled | QStyle::State_Active;
-constexpr QStyle::State keyboardFocus = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
-
 inline const QSize canvas(120, 60);
 inline const QRect everything(QPoint(), canvas);
 inline const QColor background(0x20, 0x40, 0x60);
-
-// The colours of the theme's palette, and what the style makes of them.
-inline const QColor window(0x1f, 0x21, 0x26);
-inline const QColor base(0x19, 0x1a, 0x1e);
-inline const QColor light(0x5a, 0x59, 0x59);
-inline const QColor highlight(0x67, 0x9d, 0xcd);
-inline const QColor lit(0xed, 0x6e, 0x00); // highlighted text
-inline const QColor button(0x48, 0x48, 0x48);
-inline const QColor outline = window.darker(140);
-inline const QColor contrast(255, 255, 255, 30);
-
-inline QColor withAlpha(QColor color, int alpha)
-{
-    color.setAlpha(alpha);
-    return color;
-}
-
-inline QColor shifted(const QColor &color, int shift, int alpha = 255)
-{
-    return QColor(color.red() + shift, color.green() + shift, color.blue() + shift, alpha);
-}
-
-inline QColor merged(const QColor &a, const QColor &b, int percent = 50)
-{
-    const auto channel = [percent](int x, int y) {
-        return x * percent / 100 + y * (100 - percent) / 100;
-    };
-    return QColor(channel(a.red(), b.red()), channel(a.green(), b.green()),
-                  channel(a.blue(), b.blue()));
-}
-
-/// The outline of what has the focus: the highlight, but not too bright.
-inline QColor focusOutline()
-{
-    const QColor dark = highlight.darker(125);
-    return QColor::fromHsl(dark.hue(), dark.saturation(), 160);
-}
+inline const QColor window(0x1f, 0x21, 0x26); // the theme's
 
 inline QPalette themePalette(QPalette::ColorGroup group = QPalette::Active)
 {
@@ -75,92 +38,71 @@ Option makeOption(const QRect &rect, QStyle::State state = enabled)
     option.palette =
         themePalette(state & QStyle::State_Enabled ? QPalette::Active : QPalette::Disabled);
     option.fontMetrics = QFontMetrics(QApplication::font());
+    if constexpr (std::is_base_of_v<QStyleOptionComplex, Option>)
+        option.subControls = QStyle::SC_All;
     return option;
 }
 
-template <typename Option>
-Option makeComplex(const QRect &rect, QStyle::State state = enabled)
+inline QIcon redIcon()
 {
-    auto option = makeOption<Option>(rect, state);
-    option.subControls = QStyle::SC_All;
-    return option;
-}
-
-inline QStyleOptionSlider makeSlider(Qt::Orientation orientation, int length, int thickness)
-{
-    const bool isHorizontal = orientation == Qt::Horizontal;
-    auto option = makeComplex<QStyleOptionSlider>(isHorizontal ? QRect(0, 0, length, thickness)
-                                                               : QRect(0, 0, thickness, length));
-    option.orientation = orientation;
-    option.maximum = 100;
-    option.state.setFlag(QStyle::State_Horizontal, isHorizontal);
-    return option;
-}
-
-inline QStyleOptionTitleBar makeTitleBar(int state, Qt::WindowFlags buttons)
-{
-    auto option = makeComplex<QStyleOptionTitleBar>(QRect(0, 0, 300, 24));
-    option.titleBarFlags = Qt::WindowTitleHint | buttons;
-    option.titleBarState = state;
-    return option;
-}
-
-inline QIcon redIcon(int extent = 16)
-{
-    QPixmap pixmap(extent, extent);
+    QPixmap pixmap(16, 16);
     pixmap.fill(Qt::red);
     return QIcon(pixmap);
 }
 
+inline QString nameOf(const QRect &r)
+{
+    return QStringLiteral("%1,%2,%3,%4").arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height());
+}
+
+template <typename Enum>
+QString keyOf(Enum value)
+{
+    return QString::fromLatin1(QMetaEnum::fromType<Enum>().valueToKey(value));
+}
+
 /// Stands on top of the style and notes the texts, pixmaps and primitives that are drawn through
-/// it, of which it draws none, and the controls.
+/// it, of which it draws none, and the controls: what, where, and how.
 class Recorder : public QProxyStyle
 {
 public:
-    struct Text
-    {
-        QRect rect;
-        int flags;
-        QString text;
-        QPalette::ColorRole role;
-    };
-    struct Piece
-    {
-        PrimitiveElement element;
-        QRect rect;
-        State state;
-        QPalette palette;
-    };
-
     Recorder()
         : QProxyStyle(new DarkFusionStyle)
     {}
 
     void drawItemText(QPainter *, const QRect &rect, int flags, const QPalette &, bool,
-                      const QString &text, QPalette::ColorRole role) const override
+                      const QString &, QPalette::ColorRole role) const override
     {
-        texts << Text{rect, flags, text, role};
+        const int alignment = flags & (Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask);
+        log << "text " + nameOf(rect) + " " + QString::number(alignment, 16) + " " + keyOf(role);
     }
     void drawItemPixmap(QPainter *, const QRect &rect, int, const QPixmap &) const override
     {
-        pixmapRects << rect;
+        log << "pixmap " + nameOf(rect);
     }
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *,
                        const QWidget *) const override
     {
-        pieces << Piece{element, option->rect, option->state, option->palette};
+        const QByteArray state = QMetaEnum::fromType<StateFlag>().valueToKeys(option->state);
+        QString entry = keyOf(element) + " " + nameOf(option->rect) + " "
+                        + QString::fromLatin1(state).remove("State_").replace('|', '+');
+        for (QPalette::ColorRole role : {QPalette::Button, QPalette::WindowText}) {
+            const QColor color = option->palette.color(role);
+            if (color != themePalette(option->palette.currentColorGroup()).color(role))
+                entry += " " + keyOf(role) + "=" + color.name();
+        }
+        log << entry;
     }
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
-                     const QWidget *widget) const override
+                     const QWidget *widget = nullptr) const override
     {
-        controls << element;
+        log << keyOf(element) + " " + nameOf(option->rect);
         QProxyStyle::drawControl(element, option, painter, widget);
     }
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override
     {
-        const bool isShift = metric == PM_ButtonShiftHorizontal || metric == PM_ButtonShiftVertical;
-        if (isShift)
+        if (metric == PM_ButtonShiftHorizontal || metric == PM_ButtonShiftVertical)
             return 3;
         if (metric == PM_ScrollBarExtent && scrollBarExtent > 0)
             return scrollBarExtent;
@@ -173,20 +115,10 @@ public:
                    ? isTransient
                    : QProxyStyle::styleHint(hint, option, widget, returnData);
     }
-    void forget()
-    {
-        texts.clear();
-        pixmapRects.clear();
-        pieces.clear();
-        controls.clear();
-    }
 
     bool isTransient = true;
     int scrollBarExtent = 0; // the style's
-    mutable QVector<Text> texts;
-    mutable QVector<QRect> pixmapRects;
-    mutable QVector<Piece> pieces;
-    mutable QVector<int> controls;
+    mutable QStringList log;
 };
 
 using Drawing = std::function<void(QPainter &painter)>;
@@ -202,86 +134,6 @@ inline QImage picture(const Drawing &paint)
     return picture(canvas, paint);
 }
 
-/// A drawing as the style keeps it: translucent parts of it meet before they are on the ground.
-inline QImage layer(const QSize &size, const Drawing &paint)
-{
-    return picture(size, paint, Qt::transparent);
-}
-
-inline QImage keptPicture(const QSize &size, const Drawing &paint)
-{
-    const QImage kept = layer(size, paint);
-    return picture(size, [&](QPainter &painter) { painter.drawImage(0, 0, kept); });
-}
-
-inline QImage keptPicture(const Drawing &paint)
-{
-    return keptPicture(canvas, paint);
-}
-
-inline void beginSharp(QPainter &painter)
-{
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(0.5, 0.5);
-}
-
-template <typename Rect>
-void drawBox(QPainter &painter, const Rect &rect, const QPen &pen, const QBrush &brush,
-             int radius = 0)
-{
-    painter.setPen(pen);
-    painter.setBrush(brush);
-    if (radius > 0)
-        painter.drawRoundedRect(rect, radius, radius);
-    else
-        painter.drawRect(rect);
-}
-
-template <typename Point>
-void drawDisc(QPainter &painter, const Point &centre, qreal radius, const QPen &pen,
-              const QBrush &brush)
-{
-    painter.setPen(pen);
-    painter.setBrush(brush);
-    painter.drawEllipse(QPointF(centre), radius, radius);
-}
-
-inline void drawLine(QPainter &painter, const QColor &color, int x1, int y1, int x2, int y2)
-{
-    painter.setPen(color);
-    painter.drawLine(x1, y1, x2, y2);
-}
-
-inline QLinearGradient gradientDown(const QRect &rect, const QGradientStops &stops)
-{
-    QLinearGradient gradient(rect.topLeft(), rect.bottomLeft());
-    gradient.setStops(stops);
-    return gradient;
-}
-
-/// Fills the units from \a first to \a last.
-inline void fillUnits(QPainter &painter, const QPoint &first, const QPoint &last,
-                      const QColor &color)
-{
-    painter.fillRect(QRect(first, last), color);
-}
-
-/// Fills the outermost units of \a rect.
-inline void fillRing(QPainter &painter, const QRect &rect, const QColor &color)
-{
-    for (const QRect &part : QRegion(rect) - rect.adjusted(1, 1, -1, -1))
-        painter.fillRect(part, color);
-}
-
-/// A dot of a grip at each place.
-inline void fillDots(QPainter &painter, const QVector<QPoint> &places)
-{
-    for (const QPoint &place : places) {
-        painter.fillRect(QRect(place, QSize(2, 2)), QColor(255, 255, 255, 90));
-        painter.fillRect(QRect(place, QSize(1, 1)), QColor(0, 0, 0, 60));
-    }
-}
-
 /// The colour of the unit at x, y: that of its first device pixel. Lines of one unit that are drawn
 /// without antialiasing lie half a unit higher and further left, and cover that one, too.
 inline QColor unitColor(const QImage &image, int x, int y)
@@ -290,33 +142,14 @@ inline QColor unitColor(const QImage &image, int x, int y)
     return image.pixelColor(x * ratio, y * ratio);
 }
 
-/// The units of \a image that \a isFound finds by their colour.
-template <typename Predicate>
-QRegion unitsWhere(const QImage &image, Predicate isFound)
+/// The units that are not \a ground.
+inline QRegion painted(const QImage &image, const QColor &ground = background)
 {
     const int ratio = qRound(image.devicePixelRatio());
     QRegion units;
     for (int y = 0; y < image.height() / ratio; ++y) {
         for (int x = 0; x < image.width() / ratio; ++x) {
-            if (isFound(unitColor(image, x, y)))
-                units += QRect(x, y, 1, 1);
-        }
-    }
-    return units;
-}
-
-inline QRegion painted(const QImage &image, const QColor &ground = background)
-{
-    return unitsWhere(image, [&](const QColor &color) { return color.rgba() != ground.rgba(); });
-}
-
-/// The units in which two pictures of a size differ.
-inline QRegion differingUnits(const QImage &first, const QImage &second)
-{
-    QRegion units;
-    for (int y = 0; y < first.height() / first.devicePixelRatio(); ++y) {
-        for (int x = 0; x < first.width() / first.devicePixelRatio(); ++x) {
-            if (unitColor(first, x, y) != unitColor(second, x, y))
+            if (unitColor(image, x, y).rgba() != ground.rgba())
                 units += QRect(x, y, 1, 1);
         }
     }
