@@ -10,7 +10,6 @@
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QMenu>
-#include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QStyleFactory>
 #include <QtWidgets/QStyleOptionSlider>
 
@@ -99,22 +98,6 @@ inline void addInterruptions(const QString &begin, const QString &then, const QS
 {
     for (const char *how : {"hide", "disable", "modal", "popup", "enter", "lost, move 35"})
         QTest::newRow(how) << begin + ", " + how + ", held, restore" + then << log;
-}
-
-/// Whether every pixel is the same, give or take one of 255: what shines through a smoothed corner
-/// is rounded once more when the corner was kept.
-inline bool sameImage(const QImage &a, const QImage &b)
-{
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            const QColor p = a.pixelColor(x, y);
-            const QColor q = b.pixelColor(x, y);
-            if (qAbs(p.red() - q.red()) > 1 || qAbs(p.green() - q.green()) > 1
-                || qAbs(p.blue() - q.blue()) > 1 || qAbs(p.alpha() - q.alpha()) > 1)
-                return false;
-        }
-    }
-    return a.size() == b.size();
 }
 
 /// A widget with a hand on it and a log of its signals, which the subclass connects.
@@ -278,38 +261,6 @@ public:
         }
         this->setStyle(nullptr);
         return true;
-    }
-
-    /// Whether the slider paints what \a paint does, pixel by pixel.
-    template <typename Paint>
-    bool paintsLike(Paint paint)
-    {
-        for (int ratio : {1, 2}) {
-            const auto onGray = [&](auto work) {
-                return paintOn(this->size(), Qt::darkGray, work, ratio);
-            };
-            if (!sameImage(onGray([this](QPainter &p) {
-                               this->render(&p, {}, {}, QWidget::DrawChildren);
-                           }),
-                           onGray([paint](QPainter &p) { paint(&p); })))
-                return false;
-        }
-        return true;
-    }
-};
-
-/// Fusion with a drag area of 20 units around the slider.
-class LimitedDragStyle : public QProxyStyle
-{
-public:
-    LimitedDragStyle()
-        : QProxyStyle("fusion")
-    {}
-    int pixelMetric(PixelMetric metric, const QStyleOption *option,
-                    const QWidget *widget) const override
-    {
-        return metric == PM_MaximumDragDistance ? 20
-                                                : QProxyStyle::pixelMetric(metric, option, widget);
     }
 };
 

@@ -17,6 +17,7 @@
 #include <nocturne/Widget>
 
 #include <QtCore/QStringListModel>
+#include <QtWidgets/QProxyStyle>
 
 using TestSupport::addPainting;
 using TestSupport::compareProbes;
