@@ -28,9 +28,7 @@ GalleryPreview makePreview(const GalleryPage &page)
     const std::unique_ptr<QWidget> widget(page.create(nullptr));
     const QSize shown =
         galleryPreviewSize.scaled(previewedWidth, previewedWidth, Qt::KeepAspectRatio);
-    widget->setAttribute(Qt::WA_DontShowOnScreen);
     widget->resize(widget->sizeHint().expandedTo(smallestPage));
-    widget->show();
     const bool mirrored = widget->layoutDirection() == Qt::RightToLeft;
     const QRect area(QPoint(mirrored ? widget->width() - shown.width() : 0, 0), shown);
 

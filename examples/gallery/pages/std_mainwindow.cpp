@@ -79,6 +79,7 @@ QWidget *log()
 {
     auto *text = new QPlainTextEdit;
     text->setReadOnly(true);
+    text->setFocusPolicy(Qt::ClickFocus); // one of them is behind another dock
     for (int i = 0; i < 12; ++i) {
         const QString camera = Gallery::tr("Camera %1").arg(1 + i * 5 % 6);
         text->appendPlainText(
