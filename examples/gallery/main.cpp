@@ -2,6 +2,7 @@
 #include "gallerywindow.h"
 #include "keyboardwalk.h"
 #include "screenshots.h"
+#include "trimfilm.h"
 
 #include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
@@ -83,7 +84,11 @@ int main(int argc, char *argv[])
         QStringLiteral(
             "Walks through the pages with the Tab key, films it into a PNG file, and ends."),
         QStringLiteral("file"));
-    parser.addOptions({pageOption, screenshotsOption, languageOption, walkOption});
+    const QCommandLineOption trimOption(
+        QStringLiteral("film-trim"),
+        QStringLiteral("Films the trimming of a clip into PNG files, and ends."),
+        QStringLiteral("directory"));
+    parser.addOptions({pageOption, screenshotsOption, languageOption, walkOption, trimOption});
     parser.process(app);
 
     if (parser.isSet(languageOption) && !useLanguage(parser.value(languageOption)))
@@ -98,6 +103,9 @@ int main(int argc, char *argv[])
 
     if (parser.isSet(walkOption))
         return filmKeyboardWalk(parser.value(walkOption)) ? 0 : 1;
+
+    if (parser.isSet(trimOption))
+        return filmTrim(parser.value(trimOption)) ? 0 : 1;
 
     GalleryWindow window;
     if (!page.isEmpty() && !window.showPage(page)) {
