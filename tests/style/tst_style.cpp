@@ -1,0 +1,650 @@
+#include "qtversion.h"
+#include "stylepainting.h"
+
+#include <nocturne/DarkProxyStyle>
+#include <nocturne/DarkUX>
+
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QSpinBox>
+#include <QtWidgets/QSplitter>
+
+#include <memory>
+
+// The theme, the answers that its style gives to questions about numbers, sizes, rectangles and
+// pixmaps, and the proxy for styles of the toolkit.
+
+using namespace StylePainting;
+
+namespace {
+
+constexpr QPalette::ColorGroup groups[] = {QPalette::Active, QPalette::Disabled,
+                                           QPalette::Inactive};
+
+/// A theme whose style is deleted with it, since nobody installs it.
+class Theme
+{
+public:
+    ~Theme() { delete m_theme->style(); }
+    DarkUX *get() const { return m_theme.get(); }
+    DarkUX *operator->() const { return m_theme.get(); }
+
+private:
+    std::unique_ptr<DarkUX> m_theme = std::make_unique<DarkUX>();
+};
+
+/// What this program prints when it is run with \a argument.
+QByteArray outputOf(const QString &argument, const QString &dpi,
+                    QProcess::ProcessChannel channel = QProcess::StandardOutput)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_FONT_DPI", dpi);
+    environment.remove("QT_SCALE_FACTOR");
+    QProcess process;
+    process.setReadChannel(channel);
+    process.setProcessEnvironment(environment);
+    process.start(QCoreApplication::applicationFilePath(), {argument});
+    process.waitForFinished();
+    return process.readAll().trimmed();
+}
+
+void printMetrics()
+{
+    for (QStyle::PixelMetric metric :
+         {QStyle::PM_ScrollBarExtent, QStyle::PM_DefaultFrameWidth, QStyle::PM_MaximumDragDistance,
+          QStyle::PM_MenuBarItemSpacing, QStyle::PM_SubMenuOverlap, QStyle::PM_ToolBarHandleExtent})
+        printf("%d ", DarkFusionStyle().pixelMetric(metric));
+}
+
+/// The sizes that QCommonStyle computes from the metrics of our style.
+class UnadjustedStyle : public DarkFusionStyle
+{
+public:
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                           const QWidget *widget = nullptr) const override
+    {
+        return QCommonStyle::sizeFromContents(type, option, contents, // NOLINT: passes ours over
+                                              widget);
+    }
+};
+
+} // namespace
+
+class TestTheme : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void instances();
+    void palettes();
+    void fixedFacts();
+    void temperature();
+};
+
+/// Copies are not registered.
+void TestTheme::instances()
+{
+    QVERIFY(!DarkUX::getInstancePtr());
+    {
+        const Theme theme;
+        QCOMPARE(&DarkUX::getInstance(), theme.get());
+        {
+            DarkUX copy(*theme.get());
+            QCOMPARE(DarkUX::getInstancePtr(), theme.get());
+            QCOMPARE(copy.style(), theme->style());
+            QCOMPARE(copy.backgroundColor(), theme->backgroundColor());
+            copy.setPalette(QPalette(Qt::red), true);
+            QVERIFY(copy.palette() != theme->palette());
+            copy = *theme.get();
+            QCOMPARE(copy.palette(), theme->palette());
+        }
+        QCOMPARE(DarkUX::getInstancePtr(), theme.get());
+    }
+    QVERIFY(!DarkUX::getInstancePtr());
+    const QByteArray message = outputOf("--no-theme", "96", QProcess::StandardError);
+    QVERIFY2(message.contains("no DarkUX exists"), message.constData());
+    QCOMPARE(message.count('\n'), 0);
+}
+
+/// Window and Base alone are tinted.
+void TestTheme::palettes()
+{
+    const Theme theme;
+    const QPalette themed = theme->palette();
+    const QPalette plain = theme->defaultPalette();
+    const QHash<QPalette::ColorRole, QVector<QRgb>> tinted = {
+        {QPalette::Window,
+         {0xff1f2126, 0xff1c1e22, 0xff1f2126, 0xff262626, 0xff222222, 0xff262626}},
+        {QPalette::Base, {0xff191a1e, 0xff15161a, 0xff191a1e, 0xff1e1e1e, 0xff1a1a1a, 0xff1e1e1e}}};
+    for (int i = 0; i < QPalette::NColorRoles; ++i) {
+        const auto role = static_cast<QPalette::ColorRole>(i);
+        for (int group = 0; group < 3; ++group) {
+            const QRgb color = themed.color(groups[group], role).rgba();
+            const QRgb untinted = plain.color(groups[group], role).rgba();
+            if (tinted.contains(role)) {
+                QCOMPARE(color, tinted[role][group]);
+                QCOMPARE(untinted, tinted[role][3 + group]);
+            } else {
+                QCOMPARE(color, untinted);
+            }
+        }
+    }
+    for (bool flag : {true, false}) {
+        theme->setPalette(QPalette(Qt::green), flag);
+        QCOMPARE(theme->palette(), QPalette(Qt::green));
+        QCOMPARE(theme->defaultPalette(), plain);
+        theme->initialize();
+        QCOMPARE(theme->palette(), themed);
+    }
+}
+
+void TestTheme::fixedFacts()
+{
+    const Theme theme;
+    const QMap<int, QColor> backgrounds = {{0, 0x202228}, {1, 0x131418}};
+    QCOMPARE(theme->backgroundColor(), backgrounds);
+    QCOMPARE(theme->moduleVersion(), QStringLiteral("libnocturne 4.0.0.12026 b03a92d4"));
+    QCOMPARE(theme->style()->objectName(), QStringLiteral("DarkFusion"));
+}
+
+void TestTheme::temperature()
+{
+    const QPair<unsigned int, QColor> whites[] = {
+        {9500, QColor(205, 220, 255)},  {8500, QColor(214, 225, 255)},
+        {6600, QColor(255, 255, 255)},  {6699, QColor(255, 255, 255)},
+        {40000, QColor(151, 185, 255)}, {50000, QColor(151, 185, 255)},
+        {~0u, QColor(151, 185, 255)},   {0, QColor(255, 0, 0)}};
+    int red = -1;
+    int green = -1;
+    int blue = -1;
+    for (const auto &white : whites) {
+        QCOMPARE(DarkUX::colorCalc(Qt::white, static_cast<int>(white.first)), white.second);
+        DarkUX::getRGBfromTemperature(red, green, blue, white.first);
+        QCOMPARE(QColor(red, qMax(0, green), blue), white.second);
+    }
+    for (unsigned int kelvin : {0u, 99u, 100u, 599u, 1999u}) {
+        DarkUX::getRGBfromTemperature(red, green, blue = -1, kelvin);
+        QCOMPARE(blue, 0);
+    }
+    QCOMPARE(DarkUX::colorCalc(QColor(10, 20, 30, 40), 6600), QColor(10, 20, 30, 255));
+}
+
+class TestStyle : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void numbers();
+    void numbersElsewhere();
+    void windowFrameMask();
+    void contentSizes();
+    void pushButtonSizes();
+    void menuItemSizes();
+    void dockWidgetTitle();
+    void standardPixmaps();
+    void standardIcons();
+    void polishing();
+    void palettes();
+    void itemText();
+
+private:
+    /// What the style adds to the size that QCommonStyle finds.
+    QSize addedSize(QStyle::ContentsType type, const QStyleOption &option, const QSize &contents,
+                    const QWidget *widget = nullptr) const
+    {
+        return m_style.sizeFromContents(type, &option, contents, widget)
+               - m_unadjusted.sizeFromContents(type, &option, contents, widget);
+    }
+
+    DarkFusionStyle m_style;
+    UnadjustedStyle m_unadjusted;
+    QCommonStyle m_common;
+};
+
+void TestStyle::numbers()
+{
+    QFile file(QStringLiteral(NOCTURNE_SOURCE_DIR "/tests/style/data/numbers.txt"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    for (const QString &line : QString::fromUtf8(file.readAll()).split('\n')) {
+        const QStringList words = line.split(' ', Qt::SkipEmptyParts);
+        for (const QString &name : line.startsWith('#') ? QStringList() : words.mid(1)) {
+            const bool isHint = name.startsWith("SH_");
+            const int value = QStyle::staticMetaObject
+                                  .enumerator(QStyle::staticMetaObject.indexOfEnumerator(
+                                      isHint ? "StyleHint" : "PixelMetric"))
+                                  .keyToValue(name.toLatin1());
+            const auto answerOf = [&](const QStyle &style) {
+                return isHint ? style.styleHint(QStyle::StyleHint(value))
+                              : style.pixelMetric(QStyle::PixelMetric(value));
+            };
+            const int expected = words[0] == "common" ? answerOf(m_common) : words[0].toInt();
+            QCOMPARE(name + " " + QString::number(answerOf(m_style)),
+                     name + " " + QString::number(expected));
+        }
+    }
+    const auto custom = QStyle::PixelMetric(QStyle::PM_CustomBase + 3);
+    QCOMPARE(m_style.pixelMetric(custom), m_common.pixelMetric(custom));
+}
+
+/// On dense screens, below a proxy, and with an option.
+void TestStyle::numbersElsewhere()
+{
+    QCOMPARE(outputOf("--print-metrics", "192"), QByteArray("28 1 -1 12 -2 18"));
+    // Towards zero: 14, 6, -1 and 9 times 1.25.
+    QCOMPARE(outputOf("--print-metrics", "120"), QByteArray("17 1 -1 7 -1 11"));
+
+    Recorder proxy;
+    proxy.scrollBarExtent = 99;
+    QCOMPARE(proxy.pixelMetric(QStyle::PM_ScrollView_ScrollBarOverlap, nullptr, nullptr), 99);
+    proxy.isTransient = false;
+    QCOMPARE(proxy.pixelMetric(QStyle::PM_ScrollView_ScrollBarOverlap, nullptr, nullptr), 0);
+
+    QStyleOptionComboBox comboBox;
+    QCOMPARE(m_style.styleHint(QStyle::SH_ComboBox_Popup, &comboBox), 1);
+    comboBox.editable = true;
+    QCOMPARE(m_style.styleHint(QStyle::SH_ComboBox_Popup, &comboBox), 0);
+    QStyleOption option;
+    option.palette.setColor(QPalette::Window, QColor(120, 60, 240));
+    QCOMPARE(QRgb(m_style.styleHint(QStyle::SH_Table_GridLineColor, &option)),
+             QColor(120, 60, 240).darker(120).rgb());
+}
+
+void TestStyle::windowFrameMask()
+{
+    QStyleOption option;
+    option.rect = QRect(10, 20, 40, 30);
+    QStyleHintReturnMask mask;
+    QCOMPARE(m_style.styleHint(QStyle::SH_WindowFrame_Mask, &option, nullptr, &mask), 1);
+    const QStringList corner = {".....#", "...###", "..####", ".#####", ".#####", "######"};
+    for (int y = 0; y < corner.size(); ++y) {
+        for (int x = 0; x < corner.at(y).size(); ++x) {
+            const bool inside = corner.at(y).at(x) == '#';
+            QCOMPARE(mask.region.contains(QPoint(10 + x, 20 + y)), inside);
+            QCOMPARE(mask.region.contains(QPoint(49 - x, 20 + y)), inside);
+        }
+    }
+    QVERIFY(mask.region.contains(QPoint(10, 49)));
+    QCOMPARE(mask.region.boundingRect(), option.rect);
+
+    // Nothing to fill in, nothing to fill it from.
+    m_style.styleHint(QStyle::SH_WindowFrame_Mask, &option);
+    m_style.styleHint(QStyle::SH_WindowFrame_Mask, nullptr, nullptr, &mask);
+}
+
+void TestStyle::contentSizes()
+{
+    const QVector<QPair<QStyle::ContentsType, QSize>> added = {
+        {QStyle::CT_CheckBox, QSize(0, 1)},    {QStyle::CT_RadioButton, QSize(0, 1)},
+        {QStyle::CT_ToolButton, QSize(2, 2)},  {QStyle::CT_ComboBox, QSize(28, 8)},
+        {QStyle::CT_MenuBarItem, QSize(8, 5)}, {QStyle::CT_LineEdit, QSize(0, 4)},
+        {QStyle::CT_SpinBox, QSize(0, -3)},    {QStyle::CT_SizeGrip, QSize(4, 4)},
+        {QStyle::CT_ProgressBar, QSize(0, 0)}, {QStyle::CT_Slider, QSize(0, 0)}};
+    for (const auto &size : added)
+        QCOMPARE(qMakePair(size.first, addedSize(size.first, QStyleOption(), QSize(50, 20))), size);
+
+    QStyleOptionGroupBox groupBox;
+    QFont large(qApp->font());
+    large.setPixelSize(40);
+    groupBox.fontMetrics = QFontMetrics(large);
+    QCOMPARE(addedSize(QStyle::CT_GroupBox, groupBox, QSize(100, 50)),
+             QSize(10, groupBox.fontMetrics.height() + 3));
+
+    QStyleOptionComplex mdi;
+    const auto mdiSize = [&](const QStyleOption *option) {
+        return m_style.sizeFromContents(QStyle::CT_MdiControls, option, QSize(1, 1));
+    };
+    mdi.subControls = QStyle::SC_MdiCloseButton | QStyle::SC_MdiMinButton;
+    QCOMPARE(mdiSize(&mdi), QSize(40, 19));
+    mdi.subControls = QStyle::SC_None;
+    QCOMPARE(mdiSize(&mdi), QSize(0, 19));
+    QCOMPARE(mdiSize(nullptr), QSize(60, 19));
+}
+
+void TestStyle::pushButtonSizes()
+{
+    QStyleOptionButton option;
+    const auto added = [&](int width) {
+        return addedSize(QStyle::CT_PushButton, option, QSize(width, 20));
+    };
+    QCOMPARE(added(10), QSize(0, 3));
+    option.text = QStringLiteral("OK");
+    QCOMPARE(m_style.sizeFromContents(QStyle::CT_PushButton, &option, QSize(10, 20)).width(), 60);
+    QCOMPARE(added(100), QSize(0, 3));
+    option.iconSize = QSize(16, 17);
+    QCOMPARE(added(100), QSize(0, 3)); // no icon of that size
+    option.icon = redIcon();
+    QCOMPARE(added(100), QSize(0, 1));
+    option.iconSize = QSize(40, 16);
+    QCOMPARE(added(100), QSize(0, 3));
+}
+
+void TestStyle::menuItemSizes()
+{
+    QStyleOptionMenuItem option;
+    option.text = QStringLiteral("A rather long text for a menu item");
+    option.font = qApp->font();
+    const auto added = [&] { return addedSize(QStyle::CT_MenuItem, option, QSize(300, 20)); };
+    constexpr int plain = 12 + 25 + 12;
+    QCOMPARE(added(), QSize(plain, 0));
+    option.maxIconWidth = 30;
+    QCOMPARE(added(), QSize(plain + 18, 0));
+    option.maxIconWidth = 5;
+    QCOMPARE(added(), QSize(plain, 0));
+    option.menuItemType = QStyleOptionMenuItem::SubMenu;
+    QCOMPARE(added(), QSize(plain + 12, 0));
+    option.menuItemType = QStyleOptionMenuItem::DefaultItem;
+    QFont bold(option.font);
+    bold.setBold(true);
+    const int bolder = QFontMetrics(bold).horizontalAdvance(option.text)
+                       - QFontMetrics(option.font).horizontalAdvance(option.text);
+    QVERIFY(bolder > 0);
+    QCOMPARE(added(), QSize(plain + bolder, 0));
+    // Room for a shortcut is room for all else.
+    option.text += QStringLiteral("\tCtrl+O");
+    QCOMPARE(added(), QSize(plain + 20, 0));
+
+    option.menuItemType = QStyleOptionMenuItem::Normal;
+    option.text = QStringLiteral("x");
+    const auto size = [&](int width, const QWidget *widget = nullptr) {
+        return m_style.sizeFromContents(QStyle::CT_MenuItem, &option, QSize(width, 20), widget);
+    };
+    QCOMPARE(size(5).width(), 120);
+    QComboBox comboBox;
+    comboBox.setIconSize(QSize(40, 40));
+    QVERIFY(size(300, &comboBox).height() < 42);
+    option.icon = redIcon();
+    QVERIFY(size(300).height() < 42);
+    QCOMPARE(size(300, &comboBox).height(), 42);
+    option.menuItemType = QStyleOptionMenuItem::Separator;
+    QCOMPARE(size(300, &comboBox).height(), option.fontMetrics.height());
+}
+
+void TestStyle::dockWidgetTitle()
+{
+    const QRect rect(7, 9, 120, 30);
+    QStyleOptionProgressBar bar;
+    bar.rect = rect;
+    for (QStyle::SubElement element : {QStyle::SE_ProgressBarGroove, QStyle::SE_ProgressBarContents,
+                                       QStyle::SE_ProgressBarLabel})
+        QCOMPARE(m_style.subElementRect(element, &bar), rect);
+
+    QStyleOptionDockWidget dock;
+    dock.rect = rect;
+    const auto text = [&] {
+        return m_style.subElementRect(QStyle::SE_DockWidgetTitleBarText, &dock);
+    };
+    const QRect leftToRight = text();
+    QVERIFY(leftToRight.left() >= rect.left() + 4);
+    dock.direction = Qt::RightToLeft;
+    QCOMPARE(text(), QStyle::visualRect(Qt::RightToLeft, rect, leftToRight));
+    // In a vertical bar the text reads upwards from four units above the bottom.
+    dock.direction = Qt::LeftToRight;
+    dock.verticalTitleBar = true;
+    QVERIFY(text().bottom() <= rect.bottom() - 4);
+    QVERIFY(text().left() < leftToRight.left());
+}
+
+void TestStyle::standardPixmaps()
+{
+    const QImage close = m_style.standardPixmap(QStyle::SP_TitleBarCloseButton).toImage();
+    const QImage restore = m_style.standardPixmap(QStyle::SP_TitleBarNormalButton).toImage();
+    const QImage minimize = m_style.standardPixmap(QStyle::SP_TitleBarMinButton).toImage();
+    QCOMPARE(m_style.standardPixmap(QStyle::SP_DockWidgetCloseButton).toImage(), close);
+    for (const QImage &image : {close, restore, minimize}) {
+        QCOMPARE(image.size(), QSize(11, 13));
+        QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
+        COMPARE_PIXEL(image, 1, 1, QColor(0x8f, 0x8b, 0x88));
+        COMPARE_PIXEL(image, 5, 1, QColor(0x6c, 0x6a, 0x67));
+        COMPARE_PIXEL(image, 1, 2, QColor(0xab, 0xa6, 0xa3));
+        COMPARE_PIXEL(image, 1, 10, QColor(0xa4, 0xa0, 0x9d));
+    }
+    COMPARE_PIXEL(close, 2, 3, QColor(0xb5, 0xb0, 0xac));
+    COMPARE_PIXEL(close, 5, 6, QColor(0x6c, 0x6a, 0x67));
+    QCOMPARE(restore.pixelColor(5, 7).alpha(), 0);
+    COMPARE_PIXEL(restore, 4, 3, QColor(0xab, 0xa6, 0xa3));
+    COMPARE_PIXEL(minimize, 5, 7, QColor(0x6c, 0x6a, 0x67));
+
+    QVERIFY(!m_style.standardPixmap(QStyle::SP_DirIcon).isNull());
+    QVERIFY(!m_style.standardIcon(QStyle::SP_DialogCloseButton).isNull());
+}
+
+/// The icons of the window buttons are their pixmaps, each pixel a square of device pixels.
+void TestStyle::standardIcons()
+{
+    QtVersion::setHighDpiPixmaps(true);
+    for (QStyle::StandardPixmap button :
+         {QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton,
+          QStyle::SP_TitleBarCloseButton, QStyle::SP_DockWidgetCloseButton})
+    {
+        const QIcon icon = m_style.standardIcon(button);
+        const QPixmap expected = m_style.standardPixmap(button);
+        const auto draw = [&](const QPixmap &pixmap) {
+            return picture([&](QPainter &painter) {
+                m_style.drawItemPixmap(&painter, QRect(2, 2, 16, 16), Qt::AlignCenter, pixmap);
+            });
+        };
+        QCOMPARE(draw(icon.pixmap(16, 16)), draw(expected));
+        QCOMPARE(picture([&](QPainter &painter) { icon.paint(&painter, QRect(2, 2, 16, 16)); }),
+                 draw(expected));
+        QCOMPARE(icon.actualSize(QSize(16, 16)), QSize(11, 13));
+        QVERIFY(icon.pixmap(8, 8).width() <= 8 * qApp->devicePixelRatio());
+        QVERIFY(draw(icon.pixmap(16, 16, QIcon::Disabled)) != draw(expected));
+    }
+    QtVersion::setHighDpiPixmaps(false);
+}
+
+void TestStyle::polishing()
+{
+    QPushButton button;
+    QComboBox comboBox;
+    QProgressBar progressBar;
+    QScrollBar scrollBar;
+    QSplitter splitter;
+    splitter.addWidget(new QWidget);
+    splitter.addWidget(new QWidget);
+    QSlider slider;
+    QSpinBox spinBox;
+    for (QWidget *widget : std::initializer_list<QWidget *>{
+             &button, &comboBox, &progressBar, &scrollBar, splitter.handle(1), &slider, &spinBox})
+    {
+        widget->setAttribute(Qt::WA_Hover, false);
+        widget->setAttribute(Qt::WA_OpaquePaintEvent, true);
+        m_style.polish(widget);
+        QVERIFY2(widget->testAttribute(Qt::WA_Hover), widget->metaObject()->className());
+        QVERIFY(!widget->testAttribute(Qt::WA_OpaquePaintEvent));
+        m_style.unpolish(widget);
+        QVERIFY(!widget->testAttribute(Qt::WA_Hover));
+    }
+    QLabel label;
+    label.setAttribute(Qt::WA_OpaquePaintEvent);
+    m_style.polish(&label);
+    QVERIFY(!label.testAttribute(Qt::WA_Hover));
+    QVERIFY(label.testAttribute(Qt::WA_OpaquePaintEvent));
+
+    m_style.polish(static_cast<QWidget *>(nullptr));
+    m_style.unpolish(static_cast<QWidget *>(nullptr));
+}
+
+void TestStyle::palettes()
+{
+    // The style alone leaves the light palette; the dark one is the theme's.
+    QVERIFY(m_style.standardPalette().color(QPalette::Window).lightness() > 200);
+    QPalette palette(Qt::red);
+    const QPalette before = palette;
+    m_style.polish(palette);
+    QCOMPARE(palette, before);
+}
+
+void TestStyle::itemText()
+{
+    QPalette palette;
+    palette.setColor(QPalette::ButtonText, Qt::red);
+    const QPen pen(Qt::green, 2);
+    const auto draw = [&](QPalette::ColorRole role, bool isEnabled) {
+        return picture([&](QPainter &painter) {
+            painter.setPen(pen);
+            m_style.drawItemText(&painter, everything, Qt::AlignCenter, palette, isEnabled,
+                                 QStringLiteral("MMM"), role);
+            QCOMPARE(painter.pen(), pen);
+        });
+    };
+    const auto drawn = [](const QColor &color) {
+        return picture([&](QPainter &painter) {
+            painter.setPen(color);
+            painter.drawText(everything, Qt::AlignCenter, QStringLiteral("MMM"));
+        });
+    };
+    QCOMPARE(draw(QPalette::ButtonText, true), drawn(Qt::red));
+    QCOMPARE(draw(QPalette::ButtonText, false), drawn(Qt::red));
+    QCOMPARE(draw(QPalette::NoRole, true), drawn(Qt::green));
+}
+
+namespace {
+
+/// A base style that notes what menu items it is asked to draw, and draws none.
+class RecordingStyle : public QProxyStyle
+{
+public:
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+        if (element == CE_MenuItem && item)
+            items << item->text + " at " + nameOf(item->rect);
+        else
+            QProxyStyle::drawControl(element, option, painter, widget);
+    }
+
+    mutable QStringList items;
+};
+
+} // namespace
+
+class TestProxyStyle : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_style = std::make_unique<DarkProxyStyle>(QStringLiteral("Fusion"));
+        m_base = new RecordingStyle;
+        m_style->setBaseStyle(m_base);
+    }
+    void baseStyle();
+    void menuItemTexts_data();
+    void menuItemTexts();
+    void badge();
+    void whatIsNoMenuItem();
+
+private:
+    QImage drawItem(const QString &text) const;
+
+    std::unique_ptr<DarkProxyStyle> m_style;
+    RecordingStyle *m_base = nullptr;
+};
+
+QImage TestProxyStyle::drawItem(const QString &text) const
+{
+    QStyleOptionMenuItem option;
+    option.rect = QRect(5, 4, 90, 22);
+    option.text = text;
+    return TestSupport::paintOn(QSize(100, 30), Qt::black, [&](QPainter &painter) {
+        painter.setPen(Qt::green);
+        m_style->drawControl(QStyle::CE_MenuItem, &option, &painter);
+        QCOMPARE(painter.pen().color(), QColor(Qt::green));
+        QCOMPARE(painter.backgroundMode(), Qt::TransparentMode);
+    });
+}
+
+void TestProxyStyle::baseStyle()
+{
+    QVERIFY(DarkProxyStyle(QStringLiteral("windows")).baseStyle()->inherits("QWindowsStyle"));
+    QVERIFY(DarkProxyStyle(QStringLiteral("no such style")).baseStyle());
+    QCOMPARE(m_base->styleHint(QStyle::SH_ScrollBar_Transient), 0);
+    QCOMPARE(m_style->styleHint(QStyle::SH_ScrollBar_Transient), 1);
+}
+
+void TestProxyStyle::menuItemTexts_data()
+{
+    QTest::addColumn<QString>("drawn");
+    QTest::newRow("&3;Open\tCtrl+O") << "Open";
+    QTest::newRow("&12;Open") << "Open";
+    QTest::newRow("&Open") << "&Open";
+    QTest::newRow("Open &3;") << "Open &3;";
+    QTest::newRow("&1;&2;Open") << "&2;Open";
+    QTest::newRow("Open\tCtrl+O\nand\tmore") << "Open";
+    QTest::newRow("&7;") << "";
+    QTest::newRow("&;Open") << "&;Open";
+    QTest::newRow("") << "";
+}
+
+void TestProxyStyle::menuItemTexts()
+{
+    QFETCH(QString, drawn);
+    drawItem(QString::fromLatin1(QTest::currentDataTag()));
+    QCOMPARE(m_base->items, QStringList(drawn + " at 23,4,72,22"));
+}
+
+/// 1 right and 3 down of the item, 16 wide and high, and rounded off.
+void TestProxyStyle::badge()
+{
+    const QImage plain = drawItem(QStringLiteral("Open"));
+    TestSupport::comparePixels(plain, Qt::blue, {{14, 8}, {14, 22}, {21, 15}});
+    TestSupport::comparePixels(plain, Qt::black, {{6, 7}, {14, 6}, {22, 15}});
+    QCOMPARE(drawItem(QStringLiteral("&12;Open")), plain);
+    const QImage three = drawItem(QStringLiteral("&3;Open"));
+    QVERIFY(three != plain);
+    QVERIFY(three != drawItem(QStringLiteral("&4;Open")));
+    QVERIFY(TestSupport::count(three, QRect(10, 10, 8, 10), Qt::red) > 0); // behind the digit
+}
+
+void TestProxyStyle::whatIsNoMenuItem()
+{
+    QWidget widget;
+    widget.resize(20, 10);
+    QStyleOptionMenuItem area;
+    QStyleOptionButton button;
+    area.rect = button.rect = QRect(0, 0, 30, 30);
+    const QImage image = TestSupport::paintOn(QSize(30, 30), Qt::black, [&](QPainter &painter) {
+        m_style->drawControl(QStyle::CE_MenuEmptyArea, &area, &painter, &widget);
+        painter.translate(0, 15);
+        m_style->drawControl(QStyle::CE_MenuEmptyArea, &area, &painter);
+        m_style->drawControl(QStyle::CE_MenuItem, &button, &painter);
+        m_style->drawControl(QStyle::CE_MenuItem, nullptr, &painter);
+    });
+    TestSupport::comparePixels(image, Qt::yellow, {{0, 0}, {19, 9}});
+    TestSupport::comparePixels(image, Qt::black, {{20, 9}, {0, 15}, {5, 23}});
+    QVERIFY(m_base->items.isEmpty());
+}
+
+int main(int argc, char *argv[])
+{
+    const QByteArray argument(argc > 1 ? argv[1] : "");
+    if (argument == "--no-theme") {
+        DarkUX::getInstance();
+        fputs("\ngoes on without a theme", stderr);
+        return 0;
+    }
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (argument != "--print-metrics")
+        qputenv("QT_FONT_DPI", "96");
+    QApplication app(argc, argv);
+    if (argument == "--print-metrics") {
+        printMetrics();
+        return 0;
+    }
+    TestTheme theme;
+    TestStyle style;
+    TestProxyStyle proxyStyle;
+    int failures = 0;
+    for (QObject *test : std::initializer_list<QObject *>{&theme, &style, &proxyStyle})
+        failures += QTest::qExec(test, argc, argv);
+    return failures;
+}
+
+#include "tst_style.moc"
