@@ -18,16 +18,17 @@
 
 namespace {
 
-/// Something to be seen on a control. Painted with it and without it, the pixels tell how well.
+/// Something to be seen on a control, a row of data/samples.txt.
 struct Sample
 {
-    const char *control;
-    const char *part; ///< text, or a mark of another kind
-    QWidget *(*create)(QWidget *parent);
-    const char *properties; ///< set beforehand, as in "value=50 checkable=1"
-    const char *toggled;    ///< shows and hides the part, as in "value=60:0", or a name of toggle()
+    QString control;
+    QString part;
+    QString type;
+    QString properties;
+    QString toggled;
 
-    bool isText() const { return QByteArray(part).endsWith("text"); }
+    bool isText() const { return part.endsWith("text"); }
+    QString name() const { return control + ": " + part; }
 };
 
 template <typename W>
@@ -43,7 +44,7 @@ QWidget *make<QTableWidget>(QWidget *parent)
     table->setAlternatingRowColors(true);
     table->verticalHeader()->setDefaultSectionSize(20);
     for (int row = 0; row < 3; ++row)
-        table->setItem(row, 0, new QTableWidgetItem(QStringLiteral(" ")));
+        table->setItem(row, 0, new QTableWidgetItem(" "));
     table->setCurrentCell(2, 0, QItemSelectionModel::NoUpdate);
     return table;
 }
@@ -52,7 +53,7 @@ template <>
 QWidget *make<QMenu>(QWidget *parent)
 {
     auto *menu = new QMenu(parent);
-    menu->addAction(QStringLiteral(" "));
+    menu->addAction(" ");
     return menu;
 }
 
@@ -61,7 +62,7 @@ QWidget *make<QTabBar>(QWidget *parent)
 {
     auto *bar = new QTabBar(parent);
     for (int i = 0; i < 2; ++i)
-        bar->addTab(QStringLiteral("WWWWW"));
+        bar->addTab("WWWWW");
     return bar;
 }
 
@@ -69,7 +70,7 @@ template <>
 QWidget *make<QComboBox>(QWidget *parent)
 {
     auto *box = new QComboBox(parent);
-    box->addItem(QStringLiteral(" "));
+    box->addItem(" ");
     return box;
 }
 
@@ -81,82 +82,51 @@ QWidget *make<QMdiSubWindow>(QWidget *parent)
     return area->addSubWindow(new QWidget);
 }
 
-const Sample samples[] = {
-    {"label", "text", make<QLabel>, "", "text"},
-    {"push button", "text", make<QPushButton>, "", "text"},
-    {"push button, checked", "text", make<QPushButton>, "checkable=1 checked=1", "text"},
-    {"tool button", "text", make<QToolButton>, "", "text"},
-    {"check box", "text", make<QCheckBox>, "", "text"},
-    {"radio button", "text", make<QRadioButton>, "", "text"},
-    {"line edit", "text", make<QLineEdit>, "", "text"},
-    {"line edit", "hint text", make<QLineEdit>, "", "placeholderText"},
-    {"line edit", "selected text", make<QLineEdit>, "", "all"},
-    {"text edit", "text", make<QTextEdit>, "", "plainText"},
-    {"text edit", "selected text", make<QTextEdit>, "", "all"},
-    {"group box", "text", make<QGroupBox>, "", "title"},
-    {"combo box", "text", make<QComboBox>, "", "words"},
-    {"combo box, editable", "text", make<QComboBox>, "editable=1", "currentText"},
-    {"spin box", "text", make<QSpinBox>, "", "specialValueText"},
-    {"tab bar", "text", make<QTabBar>, "", "words"},
-    {"progress bar", "text", make<QProgressBar>, "value=50", "format"},
-    {"progress bar, inverted", "text", make<QProgressBar>, "value=30 invertedAppearance=1",
-     "format"},
-    {"view", "text", make<QTableWidget>, "", "words"},
-    {"view", "selected text", make<QTableWidget>, "", "chosen words"},
-    {"view", "header text", make<QTableWidget>, "", "header"},
-    {"menu", "text", make<QMenu>, "", "words"},
-    {"menu", "chosen text", make<QMenu>, "", "chosen words"},
-    {"sub-window", "title text", make<QMdiSubWindow>, "", "windowTitle"},
-    {"dock widget", "title text", make<QDockWidget>, "", "windowTitle"},
+const QHash<QString, QWidget *(*)(QWidget *parent)> makers = {
+    {"QLabel", make<QLabel>},
+    {"QPushButton", make<QPushButton>},
+    {"QToolButton", make<QToolButton>},
+    {"QCheckBox", make<QCheckBox>},
+    {"QRadioButton", make<QRadioButton>},
+    {"QLineEdit", make<QLineEdit>},
+    {"QTextEdit", make<QTextEdit>},
+    {"QGroupBox", make<QGroupBox>},
+    {"QComboBox", make<QComboBox>},
+    {"QSpinBox", make<QSpinBox>},
+    {"QTabBar", make<QTabBar>},
+    {"QProgressBar", make<QProgressBar>},
+    {"QTableWidget", make<QTableWidget>},
+    {"QMenu", make<QMenu>},
+    {"QMdiSubWindow", make<QMdiSubWindow>},
+    {"QDockWidget", make<QDockWidget>},
+    {"QSlider", make<QSlider>},
+    {"QDial", make<QDial>},
+    {"QScrollBar", make<QScrollBar>},
+    {"QSizeGrip", make<QSizeGrip>},
+    {"RangeSlider", make<RangeSlider>},
+    {"CheckBox", make<CheckBox>}};
 
-    {"check box", "box", make<QCheckBox>, "", "visible"},
-    {"check box", "mark", make<QCheckBox>, "", "checked"},
-    {"radio button", "ring", make<QRadioButton>, "", "visible"},
-    {"radio button", "dot", make<QRadioButton>, "autoExclusive=0", "checked"},
-    {"group box", "box", make<QGroupBox>, "", "checkable"},
-    {"push button", "checked line", make<QPushButton>, "checkable=1", "checked"},
-    {"tool button", "checked line", make<QToolButton>, "checkable=1", "checked"},
-    {"menu", "box", make<QMenu>, "", "checkable"},
-    {"menu", "mark", make<QMenu>, "", "checked"},
-    {"menu", "chosen row", make<QMenu>, "", "chosen"},
-    {"view", "box", make<QTableWidget>, "", "check"},
-    {"view", "selected row", make<QTableWidget>, "", "chosen"},
-    {"tab bar", "chosen line", make<QTabBar>, "", "currentIndex=0:1"},
-    {"tab bar", "close symbol", make<QTabBar>, "", "tabsClosable"},
-    {"spin box", "arrows", make<QSpinBox>, "", "buttonSymbols=0:2"},
-    {"tool button", "arrow", make<QToolButton>, "", "arrowType=2:0"},
-    {"slider", "handle", make<QSlider>, "orientation=Horizontal", "value=60:0"},
-    {"slider, vertical", "handle", make<QSlider>, "", "value=60:0"},
-    {"slider", "marks", make<QSlider>, "orientation=Horizontal tickInterval=10",
-     "tickPosition=3:0"},
-    {"dial", "knob", make<QDial>, "", "value=60:0"},
-    {"dial", "marks", make<QDial>, "", "notchesVisible"},
-    {"scroll bar", "handle", make<QScrollBar>, "orientation=Horizontal", "value=60:0"},
-    {"progress bar", "bar", make<QProgressBar>, "textVisible=0", "value=60:0"},
-    {"size grip", "grip", make<QSizeGrip>, "", "visible"},
-    {"dock widget", "symbols", make<QDockWidget>, "", "features=7:0"},
-
-    {"push button", "focus frame", make<QPushButton>, "", "focus"},
-    {"tool button", "focus frame", make<QToolButton>, "focusPolicy=StrongFocus", "focus"},
-    {"check box", "focus frame", make<QCheckBox>, "text=A", "focus"},
-    {"radio button", "focus frame", make<QRadioButton>, "text=A", "focus"},
-    {"group box", "focus frame", make<QGroupBox>, "checkable=1 title=A", "focus"},
-    {"line edit", "focus frame", make<QLineEdit>, "readOnly=1", "focus"},
-    {"text edit", "focus frame", make<QTextEdit>, "readOnly=1", "focus"},
-    {"combo box", "focus frame", make<QComboBox>, "", "focus"},
-    {"combo box, editable", "focus frame", make<QComboBox>, "editable=1", "focus"},
-    {"spin box", "focus frame", make<QSpinBox>, "readOnly=1", "focus"},
-    {"slider", "focus frame", make<QSlider>, "orientation=Horizontal", "focus"},
-    {"dial", "focus frame", make<QDial>, "", "focus"},
-    {"tab bar", "focus frame", make<QTabBar>, "", "focus"},
-    {"view", "focus frame", make<QTableWidget>, "", "focus"},
-    {"RangeSlider", "focus frame", make<RangeSlider>, "focusPolicy=StrongFocus", "focus"},
-    {"CheckBox", "focus frame", make<CheckBox>, "", "focus"},
-};
+const QVector<Sample> &samples()
+{
+    static const QVector<Sample> rows = [] {
+        QVector<Sample> found;
+        QFile file(NOCTURNE_SOURCE_DIR "/tests/style/data/samples.txt");
+        if (!file.open(QIODevice::ReadOnly))
+            qFatal("%s is missing", qPrintable(file.fileName()));
+        for (const QString &line : QString::fromUtf8(file.readAll()).split('\n')) {
+            const QStringList cells = line.split('|');
+            if (!line.startsWith('#') && cells.size() == 5)
+                found.append({cells[0].trimmed(), cells[1].trimmed(), cells[2].trimmed(),
+                              cells[3].trimmed(), cells[4].trimmed()});
+        }
+        return found;
+    }();
+    return rows;
+}
 
 QString words(bool on)
 {
-    return on ? QStringLiteral("MWHNE") : QString(5, QChar(QChar::Nbsp));
+    return on ? "MWHNE" : QString(5, QChar(QChar::Nbsp));
 }
 
 /// Shows the part of a sample that \a name stands for, or hides it.
@@ -165,8 +135,8 @@ void toggle(QWidget *widget, const QString &name, bool on)
     auto *table = qobject_cast<QTableWidget *>(widget);
     auto *menu = qobject_cast<QMenu *>(widget);
     auto *bar = qobject_cast<QTabBar *>(widget);
-    const bool hasWords = name.contains(QLatin1String("words"));
-    if (name.contains(QLatin1String("chosen"))) {
+    const bool hasWords = name.contains("words");
+    if (name.contains("chosen")) {
         if (table)
             table->item(1, 0)->setSelected(on || hasWords);
         else
@@ -180,21 +150,21 @@ void toggle(QWidget *widget, const QString &name, bool on)
         menu->actions().first()->setText(words(on));
     } else if (hasWords) {
         static_cast<QComboBox *>(widget)->setItemText(0, words(on));
-    } else if (name == QLatin1String("focus")) {
+    } else if (name == "focus") {
         on ? widget->setFocus(Qt::TabFocusReason) : widget->clearFocus();
-    } else if (name == QLatin1String("all")) {
+    } else if (name == "all") {
         widget->setProperty(widget->inherits("QLineEdit") ? "text" : "plainText", words(on));
         QMetaObject::invokeMethod(widget, "selectAll");
-    } else if (name == QLatin1String("header")) {
+    } else if (name == "header") {
         table->setHorizontalHeaderLabels({words(on)});
-    } else if (table && name == QLatin1String("check")) {
+    } else if (table && name == "check") {
         table->item(0, 0)->setData(Qt::CheckStateRole, on ? QVariant(Qt::Unchecked) : QVariant());
     } else if (menu) {
         QAction *action = menu->actions().first();
-        action->setCheckable(on || name == QLatin1String("checked"));
-        action->setChecked(on && name == QLatin1String("checked"));
+        action->setCheckable(on || name == "checked");
+        action->setChecked(on && name == "checked");
     } else {
-        const QStringList parts = name.split(QRegularExpression(QStringLiteral("[=:]")));
+        const QStringList parts = name.split(QRegularExpression("[=:]"));
         const QByteArray property = parts.first().toLatin1();
         const bool isSwitch = widget->property(property).userType() == QMetaType::Bool;
         widget->setProperty(property, parts.size() > 1 ? QVariant(parts.at(on ? 1 : 2).toInt())
@@ -252,15 +222,13 @@ public:
     explicit Stage(const Sample &sample, State state = State::Normal,
                    Qt::LayoutDirection direction = Qt::LeftToRight)
         : m_sample(sample)
-        , m_control(sample.create(this))
+        , m_control(makers[sample.type](this))
     {
         setFixedSize(220, 120);
         setLayoutDirection(direction);
-        for (const QString &setting :
-             QString::fromLatin1(sample.properties).split(QLatin1Char(' '), Qt::SkipEmptyParts))
-        {
-            const QString name = setting.section(QLatin1Char('='), 0, 0);
-            m_control->setProperty(name.toLatin1(), setting.section(QLatin1Char('='), 1));
+        for (const QString &setting : sample.properties.split(' ', Qt::SkipEmptyParts)) {
+            const QString name = setting.section('=', 0, 0);
+            m_control->setProperty(name.toLatin1(), setting.section('=', 1));
         }
         m_control->setGeometry(12, 12, 190, qBound(14, m_control->sizeHint().height(), 90));
         m_control->setEnabled(state != State::Disabled);
@@ -279,7 +247,7 @@ public:
 
     QImage picture(bool on)
     {
-        toggle(m_control, QLatin1String(m_sample.toggled), on);
+        toggle(m_control, m_sample.toggled, on);
         QCoreApplication::processEvents();
         return m_control->isWindow() ? m_control->grab().toImage() : grab().toImage();
     }
@@ -292,7 +260,7 @@ private:
 Result measure(const Sample &sample)
 {
     Result result;
-    const bool isFocus = qstrcmp(sample.toggled, "focus") == 0;
+    const bool isFocus = sample.toggled == "focus";
     for (State state : {State::Normal, State::Hovered, State::Pressed, State::Focused,
                         State::Inactive, State::Disabled})
     {
@@ -328,16 +296,17 @@ void printTable()
     QVector<Result> results[2];
     for (int face : {0, 1}) {
         showFace(face == 1);
-        for (const Sample &sample : samples)
+        for (const Sample &sample : samples())
             results[face] << measure(sample);
     }
     int row = 0;
-    for (const Sample &sample : samples) {
+    for (const Sample &sample : samples()) {
         const Result &exact = results[0].at(row);
         const Result &readable = results[1].at(row++);
-        std::printf("| %s | %s | %s | %s | %s | %s |\n", sample.control, sample.part,
-                    cell(exact.enabled).constData(), cell(exact.disabled).constData(),
-                    cell(readable.enabled).constData(), cell(readable.disabled).constData());
+        std::printf("| %s | %s | %s | %s | %s | %s |\n", qPrintable(sample.control),
+                    qPrintable(sample.part), cell(exact.enabled).constData(),
+                    cell(exact.disabled).constData(), cell(readable.enabled).constData(),
+                    cell(readable.disabled).constData());
     }
 }
 
@@ -355,11 +324,10 @@ public:
     mutable QHash<int, int> counts;
 };
 
-const Sample &sampleNamed(const char *control, const char *part)
+const Sample &sampleNamed(const QString &name)
 {
-    return *std::find_if(std::begin(samples), std::end(samples), [&](const Sample &sample) {
-        return !qstrcmp(sample.control, control) && !qstrcmp(sample.part, part);
-    });
+    return *std::find_if(samples().begin(), samples().end(),
+                         [&](const Sample &sample) { return sample.name() == name; });
 }
 
 } // namespace
@@ -387,14 +355,14 @@ void tst_Readable::contrasts_data()
 {
     QTest::addColumn<int>("index");
     int index = 0;
-    for (const Sample &sample : samples)
-        QTest::addRow("%s: %s", sample.control, sample.part) << index++;
+    for (const Sample &sample : samples())
+        QTest::newRow(qPrintable(sample.name())) << index++;
 }
 
 void tst_Readable::contrasts()
 {
     QFETCH(int, index);
-    const Sample &sample = samples[index];
+    const Sample &sample = samples()[index];
     const Result result = measure(sample);
     const QByteArray message = "enabled " + QByteArray::number(result.enabled) + ", disabled "
                                + QByteArray::number(result.disabled);
@@ -432,7 +400,7 @@ void tst_Readable::exactFaceBeside()
 {
     DarkFusionStyle exact;
     const auto picture = [&](QStyle *style) {
-        Stage stage(sampleNamed("combo box, editable", "text"), State::Hovered, Qt::RightToLeft);
+        Stage stage(sampleNamed("combo box, editable: text"), State::Hovered, Qt::RightToLeft);
         stage.control()->setStyle(style);
         return stage.picture(true);
     };
@@ -446,7 +414,7 @@ void tst_Readable::exactFaceBeside()
 void tst_Readable::focusByKeyboardOnly()
 {
     QWidget window;
-    QPushButton first(QStringLiteral("First"), &window);
+    QPushButton first("First", &window);
     QLineEdit second(&window);
     second.move(0, 40);
     window.show();
@@ -497,7 +465,7 @@ void tst_Readable::listsOfComboBoxesBelowAHostsProxy()
     Counter host(new DarkReadableStyle);
     QComboBox box;
     box.setStyle(&host);
-    box.addItems({QStringLiteral("A"), QStringLiteral("B")});
+    box.addItems({"A", "B"});
     box.show();
     box.showPopup();
     const QImage plain = box.view()->grab().toImage();
@@ -511,7 +479,7 @@ void tst_Readable::listsOfComboBoxesBelowAHostsProxy()
 void tst_Readable::rightToLeft()
 {
     for (const char *control : {"combo box, editable", "combo box"}) {
-        const Sample &sample = sampleNamed(control, "focus frame");
+        const Sample &sample = sampleNamed(QString(control) + ": focus frame");
         const QImage left = Stage(sample).picture(false);
         const QImage right = Stage(sample, State::Normal, Qt::RightToLeft).picture(false);
         const QRect frame(12, 12, 190, 24); // within the window, which is wider on the other side
@@ -519,7 +487,7 @@ void tst_Readable::rightToLeft()
     }
 
     // A third is done, at the right end: the text in the middle has the colour for the ground.
-    const Sample &bar = sampleNamed("progress bar, inverted", "text");
+    const Sample &bar = sampleNamed("progress bar, inverted: text");
     Stage stage(bar, State::Normal, Qt::LeftToRight);
     QVERIFY(stage.picture(true) != stage.picture(false));
     const auto count = [&](QPalette::ColorRole role) {
@@ -562,17 +530,16 @@ void tst_Readable::looksOfStates()
             sum += luminance(image.pixelColor(i % image.width(), i / image.width()));
         return sum;
     };
-    const std::pair<const char *, const char *> looks[] = {
-        {"slider", "handle"},  {"dial", "knob"},        {"scroll bar", "handle"},
-        {"check box", "mark"}, {"push button", "text"}, {"combo box", "text"}};
-    for (const auto &look : looks) {
-        const Sample &sample = sampleNamed(look.first, look.second);
+    for (const char *name : {"slider: handle", "dial: knob", "scroll bar: handle",
+                             "check box: mark", "push button: text", "combo box: text"})
+    {
+        const Sample &sample = sampleNamed(name);
         const double normal = light(sample, State::Normal);
-        QVERIFY2(light(sample, State::Disabled) < 0.98 * normal, look.first);
+        QVERIFY2(light(sample, State::Disabled) < 0.98 * normal, name);
         if (sample.isText())
-            QVERIFY2(light(sample, State::Hovered) > 1.05 * normal, look.first);
+            QVERIFY2(light(sample, State::Hovered) > 1.05 * normal, name);
     }
-    Stage tabs(sampleNamed("tab bar", "text"));
+    Stage tabs(sampleNamed("tab bar: text"));
     const QImage resting = tabs.picture(true);
     QHoverEvent enter(QEvent::HoverEnter, QPoint(100, 12), QPoint(-1, -1));
     QApplication::sendEvent(tabs.control(), &enter);
@@ -607,11 +574,11 @@ int main(int argc, char *argv[])
     qputenv("QT_FONT_DPI", "96");
     QApplication app(argc, argv);
     QApplication::setCursorFlashTime(0);
-    QFont fixed(QStringLiteral("DejaVu Sans Mono")); // in which blanks are as wide as letters
+    QFont fixed("DejaVu Sans Mono"); // in which blanks are as wide as letters
     fixed.setStyleHint(QFont::TypeWriter);
     QApplication::setFont(fixed);
     DarkUX theme;
-    if (app.arguments().contains(QLatin1String("--table"))) {
+    if (app.arguments().contains("--table")) {
         printTable();
         return 0;
     }
