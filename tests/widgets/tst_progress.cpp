@@ -88,7 +88,7 @@ private Q_SLOTS:
         // height 19 - 7 = 12, width 2; side 32: outer 15.5, R 15, height 10, width 3.
         addPainting("wheel 20", wheel(20), "red 8,2 9,2; none 8,6", "");
         addPainting("wheel 32", wheel(32), "red 14,4 16,4; none 14,10", "");
-        addPainting("wheel 40", wheel(40), "red 18,5 19,5; none 18,12", "");
+        addPainting("wheel 40", wheel(40), "red 18,5 19,5 18,10; none 18,12", "");
     }
 
     void paints() { TestSupport::comparePainting(); }
