@@ -2,11 +2,13 @@
 
 #include <QtCore/QCache>
 #include <QtCore/QThread>
+#include <QtCore/QtMath>
 #include <QtGui/QFontMetrics>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPaintEngine>
 #include <QtGui/QPainter>
 #include <QtGui/QTextLayout>
+#include <private/qtextengine_p.h>
 
 #include <algorithm>
 #include <memory>
@@ -52,9 +54,26 @@ struct Line
 {
     std::unique_ptr<QTextLayout> layout;
     qreal advance = 0.0; ///< what alignment goes by
-    qreal width = 0.0;   ///< what is covered, overhanging glyphs included
+    qreal width = 0.0;   ///< up to the end of the last glyph, should it hang over
     qreal height = 0.0;
 };
+
+struct ElidedKey
+{
+    LineKey line;
+    Qt::TextElideMode mode;
+    int width;
+};
+
+bool operator==(const ElidedKey &a, const ElidedKey &b)
+{
+    return a.width == b.width && a.mode == b.mode && a.line == b.line;
+}
+
+uint qHash(const ElidedKey &key, uint seed = 0)
+{
+    return qHash(key.line, seed) ^ uint(key.width) << 12 ^ uint(key.mode) << 28;
+}
 
 enum class Measure : quint8 { BoundingRect, Advance, Elided };
 
@@ -92,6 +111,12 @@ QCache<LineKey, Line> &lines()
     return cache;
 }
 
+QCache<ElidedKey, QString> &elidedLines()
+{
+    static QCache<ElidedKey, QString> cache(keptMeasures);
+    return cache;
+}
+
 QCache<MeasureKey, Measured> &measures()
 {
     static QCache<MeasureKey, Measured> cache(keptMeasures);
@@ -101,6 +126,7 @@ QCache<MeasureKey, Measured> &measures()
 void forget()
 {
     lines().clear();
+    elidedLines().clear();
     measures().clear();
 }
 
@@ -182,24 +208,24 @@ std::unique_ptr<Line> shapedLine(const LineKey &key)
         return line;
     const QTextLine only = line->layout->lineAt(0);
     line->advance = only.horizontalAdvance();
-    line->width = qMax(only.naturalTextWidth(), line->advance);
+    line->width = only.naturalTextWidth();
     line->height = only.height();
     return line;
 }
 
-/// Null for a text that \a painter had better shape itself. Whoever wants the line must draw it
-/// before asking for the next.
-const Line *keptLine(const QPainter &painter, const QString &text, Qt::LayoutDirection direction,
+int fontDpi(const QFont &font)
+{
+    return qRound(QFontMetricsF(font).fontDpi());
+}
+
+/// Null for a text that can't be kept. Whoever wants the line must be done with it before asking
+/// for the next.
+const Line *keptLine(const QFont &font, const QString &text, Qt::LayoutDirection direction,
                      Mnemonic mnemonic)
 {
-    const QPaintEngine *engine = painter.paintEngine();
-    if (text.isEmpty() || text.size() > longestKept || !engine
-        || engine->type() != QPaintEngine::Raster
-        || painter.deviceTransform().type() > QTransform::TxScale
-        || painter.backgroundMode() != Qt::TransparentMode || !isGuiThread())
+    if (text.isEmpty() || text.size() > longestKept || !isGuiThread())
         return nullptr;
-
-    const LineKey key{text, painter.font(), painter.device()->logicalDpiY(), direction, mnemonic};
+    const LineKey key{text, font, fontDpi(font), direction, mnemonic};
     const Line *line = lines().object(key);
     if (!line) {
         forgetWithFonts();
@@ -210,18 +236,28 @@ const Line *keptLine(const QPainter &painter, const QString &text, Qt::LayoutDir
     return line->layout ? line : nullptr;
 }
 
+/// \a line without what exceeds \a width.
+QString elidedText(const LineKey &key, const Line &line, Qt::TextElideMode mode, int width)
+{
+    const ElidedKey elidedKey{key, mode, width};
+    if (const QString *known = elidedLines().object(elidedKey))
+        return *known;
+    const QString text = line.layout->engine()->elidedText(mode, width);
+    elidedLines().insert(elidedKey, new QString(text));
+    return text;
+}
+
+/// The same, and null for a painter that had better shape the text itself.
+const Line *keptLine(const QPainter &painter, const QString &text, Qt::LayoutDirection direction,
+                     Mnemonic mnemonic)
+{
+    return takesKept(painter) ? keptLine(painter.font(), text, direction, mnemonic) : nullptr;
+}
+
 constexpr int keptFlags = Qt::AlignLeft | Qt::AlignRight | Qt::AlignHCenter | Qt::AlignTop
                           | Qt::AlignBottom | Qt::AlignVCenter | Qt::AlignAbsolute
                           | Qt::TextSingleLine | Qt::TextDontClip | Qt::TextShowMnemonic
                           | Qt::TextHideMnemonic;
-
-/// No flags but those of a single line, and one alignment along each axis at most.
-bool areKept(int flags)
-{
-    const auto atMostOne = [flags](int mask) { return !(flags & mask & ((flags & mask) - 1)); };
-    return !(flags & ~keptFlags) && atMostOne(Qt::AlignHorizontal_Mask & ~Qt::AlignAbsolute)
-           && atMostOne(Qt::AlignVertical_Mask);
-}
 
 Mnemonic mnemonic(int flags)
 {
@@ -246,7 +282,15 @@ qreal verticalShare(int flags)
     return flags & Qt::AlignBottom ? 1.0 : 0.0;
 }
 
-void drawLine(QPainter *painter, const QRectF &rect, const Line &line, int flags, bool mirrored)
+/// Where a height of whole units begins in \a rect.
+int wholeTop(const QRect &rect, int height, int flags)
+{
+    if (flags & Qt::AlignVCenter)
+        return rect.top() + rect.height() / 2 - height / 2;
+    return flags & Qt::AlignBottom ? rect.bottom() + 1 - height : rect.top();
+}
+
+void drawInside(QPainter *painter, const QRectF &rect, const Line &line, int flags, bool mirrored)
 {
     const QPointF room(rect.width() - line.advance, rect.height() - line.height);
     const QPointF offset(room.x() * horizontalShare(flags, mirrored),
@@ -256,7 +300,7 @@ void drawLine(QPainter *painter, const QRectF &rect, const Line &line, int flags
 
 bool fits(const Line &line, const QRectF &rect)
 {
-    return line.width <= rect.width() && line.height <= rect.height();
+    return qMax(line.width, line.advance) <= rect.width() && line.height <= rect.height();
 }
 
 template <typename Take>
@@ -277,13 +321,28 @@ Measured measured(MeasureKey key, Take take)
 
 } // namespace
 
+bool areKept(int flags)
+{
+    const auto atMostOne = [flags](int mask) { return !(flags & mask & ((flags & mask) - 1)); };
+    return !(flags & ~keptFlags) && atMostOne(Qt::AlignHorizontal_Mask & ~Qt::AlignAbsolute)
+           && atMostOne(Qt::AlignVertical_Mask);
+}
+
+bool takesKept(const QPainter &painter)
+{
+    const QPaintEngine *engine = painter.paintEngine();
+    return engine && engine->type() == QPaintEngine::Raster
+           && painter.deviceTransform().type() <= QTransform::TxScale
+           && painter.backgroundMode() == Qt::TransparentMode;
+}
+
 void draw(QPainter *painter, const QRectF &rect, int flags, const QString &text)
 {
     const Qt::LayoutDirection direction = painter->layoutDirection();
     const Line *line =
         areKept(flags) ? keptLine(*painter, text, direction, mnemonic(flags)) : nullptr;
     if (line && (flags & Qt::TextDontClip || fits(*line, rect)))
-        drawLine(painter, rect, *line, flags, direction == Qt::RightToLeft);
+        drawInside(painter, rect, *line, flags, direction == Qt::RightToLeft);
     else
         painter->drawText(rect, flags, text);
 }
@@ -295,9 +354,36 @@ void drawAligned(QPainter *painter, const QRectF &rect, Qt::Alignment alignment,
     const Line *line =
         areKept(flags) ? keptLine(*painter, text, Qt::LeftToRight, Mnemonic::Literal) : nullptr;
     if (line && fits(*line, rect))
-        drawLine(painter, rect, *line, flags, false);
+        drawInside(painter, rect, *line, flags, false);
     else
         painter->drawText(rect, text, QTextOption(alignment));
+}
+
+QSize lineSize(const QFont &font, const QString &text)
+{
+    const Qt::LayoutDirection direction = text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+    const Line *line = keptLine(font, text, direction, Mnemonic::Literal);
+    return line ? QSize(qCeil(line->width), qCeil(line->height)) : QSize();
+}
+
+void drawElidedLine(QPainter *painter, const QRect &rect, Qt::Alignment alignment,
+                    const QFont &font, const QString &text, Qt::LayoutDirection direction,
+                    Qt::TextElideMode mode)
+{
+    const Line *line = keptLine(font, text, direction, Mnemonic::Literal);
+    if (!line)
+        return;
+    const int height = qCeil(line->height);
+    if (qCeil(line->width) > rect.width()) {
+        const QString elided = elidedText({text, font, fontDpi(font), direction, Mnemonic::Literal},
+                                          *line, mode, rect.width());
+        line = keptLine(font, elided, direction, Mnemonic::Literal);
+    }
+    if (!line)
+        return;
+    const qreal x = (rect.width() - line->advance)
+                    * horizontalShare(int(alignment), direction == Qt::RightToLeft);
+    line->layout->draw(painter, QPointF(rect.x() + x, wholeTop(rect, height, int(alignment))));
 }
 
 QRect boundingRect(const QFontMetrics &metrics, const QString &text)

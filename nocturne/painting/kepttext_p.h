@@ -2,6 +2,7 @@
 #define NOCTURNE_KEPTTEXT_P_H
 
 #include <QtCore/QRectF>
+#include <QtCore/QSize>
 #include <QtCore/QString>
 
 class QFont;
@@ -23,6 +24,21 @@ void draw(QPainter *painter, const QRectF &rect, int flags, const QString &text)
 /// QPainter::drawText(rect, text, QTextOption(alignment)).
 void drawAligned(QPainter *painter, const QRectF &rect, Qt::Alignment alignment,
                  const QString &text);
+
+/// Whether \a flags place a single line, with one alignment along each axis at most.
+bool areKept(int flags);
+
+/// Whether \a painter shows kept glyphs as it shows text that it shapes itself.
+bool takesKept(const QPainter &painter);
+
+/// The size of \a text in one line, in whole units; invalid when the text can't be kept.
+QSize lineSize(const QFont &font, const QString &text);
+
+/// Draws a text that has a lineSize() as the items of views show it, on a painter that takesKept()
+/// and in its pen: shortened to the width of \a rect, whose height it may exceed.
+void drawElidedLine(QPainter *painter, const QRect &rect, Qt::Alignment alignment,
+                    const QFont &font, const QString &text, Qt::LayoutDirection direction,
+                    Qt::TextElideMode mode);
 
 /// QFontMetrics::boundingRect(text).
 QRect boundingRect(const QFontMetrics &metrics, const QString &text);

@@ -36,6 +36,10 @@ void DarkFusionStyle::drawControl(ControlElement element, const QStyleOption *op
     if (!option || !painter)
         return;
     const Nocturne::PaintCall call{this, option, painter, widget};
-    if (!Nocturne::StylePaint::paintElement(controlFunctions, element, call))
+    const bool isPainted =
+        element == CE_ItemViewItem
+            ? Nocturne::StylePaint::paintItemViewItem(call)
+            : Nocturne::StylePaint::paintElement(controlFunctions, element, call);
+    if (!isPainted)
         QCommonStyle::drawControl(element, option, painter, widget);
 }

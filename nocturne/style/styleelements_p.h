@@ -94,6 +94,9 @@ void paintSizeGrip(const PaintCall &call);
 void paintSplitter(const PaintCall &call);
 void paintToolBar(const PaintCall &call);
 
+// Items of views. False, with nothing painted, when the item is left to the common style.
+bool paintItemViewItem(const PaintCall &call);
+
 // Complex controls
 void paintComboBox(const PaintCall &call);
 void paintDial(const PaintCall &call);

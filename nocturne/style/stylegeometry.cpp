@@ -1,4 +1,5 @@
 #include "darkfusionstyle.h"
+#include "itemview_p.h"
 
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QStyleOption>
@@ -79,11 +80,22 @@ bool needsWidget(QStyle::SubElement element)
            || element == QStyle::SE_TabBarScrollRightButton;
 }
 
+bool isItemElement(QStyle::SubElement element)
+{
+    return element == QStyle::SE_ItemViewItemCheckIndicator
+           || element == QStyle::SE_ItemViewItemDecoration || element == QStyle::SE_ItemViewItemText
+           || element == QStyle::SE_ItemViewItemFocusRect;
+}
+
 } // namespace
 
 QSize DarkFusionStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
                                         const QSize &contents, const QWidget *widget) const
 {
+    if (type == CT_ItemViewItem) {
+        if (const auto *item = Nocturne::ItemView::plainItem(option))
+            return Nocturne::ItemView::size(this, *item, widget);
+    }
     const QSize size = QCommonStyle::sizeFromContents(type, option, contents, widget);
     switch (type) {
     case CT_PushButton:
@@ -125,6 +137,10 @@ QRect DarkFusionStyle::subElementRect(SubElement element, const QStyleOption *op
 {
     if (!option || (!widget && needsWidget(element)))
         return QRect();
+    if (isItemElement(element)) {
+        if (const auto *item = Nocturne::ItemView::plainItem(option))
+            return Nocturne::ItemView::elementRect(this, element, *item, widget);
+    }
     const QRect rect = QCommonStyle::subElementRect(element, option, widget);
     switch (element) {
     case SE_PushButtonFocusRect:

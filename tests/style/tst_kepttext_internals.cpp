@@ -1,11 +1,13 @@
 #include "testsupport.h"
 
 #include <nocturne/painting/kepttext_p.h>
+#include <nocturne/style/darkfusionstyle.h>
 
 #include <QtCore/QRandomGenerator>
 #include <QtGui/QPainter>
 #include <QtGui/QTextOption>
 #include <QtTest/QTest>
+#include <QtWidgets/QStyleOption>
 
 // Text that was shaped earlier must look as if it was shaped on the spot: random labels are drawn
 // both ways, twice each, and every pixel is compared.
@@ -161,6 +163,62 @@ struct Setting
     QTransform transform;
 };
 
+/// The style with the common style's items.
+class CommonItems : public DarkFusionStyle
+{
+public:
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        QCommonStyle::drawControl(element, option, painter, widget);
+    }
+    QRect subElementRect(SubElement element, const QStyleOption *option,
+                         const QWidget *widget) const override
+    {
+        return QCommonStyle::subElementRect(element, option, widget);
+    }
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                           const QWidget *widget) const override
+    {
+        return QCommonStyle::sizeFromContents(type, option, size, widget);
+    }
+};
+
+QStyleOptionViewItem randomItem(Random &random)
+{
+    using Item = QStyleOptionViewItem;
+    static const QIcon icon = QApplication::style()->standardIcon(QStyle::SP_FileIcon);
+    Item item;
+    item.rect.setRect(random.below(20), random.below(20), random.below(180), random.below(50));
+    item.direction = Qt::LayoutDirection(random.below(2));
+    item.text = random.oneIn(3) ? QStringLiteral("Item 12") : randomText(random);
+    item.font = randomFont(random);
+    item.fontMetrics = QFontMetrics(item.font);
+    item.features = Item::ViewItemFeatures(
+        random.anyOf({Item::WrapText, Item::Alternate})
+        | random.oneOf<int>({0, Item::HasCheckIndicator}) | random.oneOf<int>({0, Item::HasDisplay})
+        | random.oneOf<int>({0, Item::HasDisplay, Item::HasDecoration}));
+    item.checkState = Qt::CheckState(random.below(3));
+    if (item.features & Item::HasDecoration)
+        item.icon = icon;
+    item.decorationSize =
+        random.oneIn(3) ? QSize(random.below(30), random.below(30)) : QSize(16, 16);
+    item.decorationPosition = Item::Position(random.below(4));
+    item.decorationAlignment = Qt::Alignment(randomFlags(random) & 0xff);
+    item.displayAlignment = Qt::Alignment(randomFlags(random) & 0xff);
+    item.showDecorationSelected = random.oneIn(2);
+    item.textElideMode = Qt::TextElideMode(random.below(4));
+    item.viewItemPosition = Item::ViewItemPosition(random.below(5));
+    item.backgroundBrush = random.oneIn(5) ? QBrush(Qt::darkGreen) : QBrush();
+    for (QStyle::State flag : {QStyle::State_Enabled, QStyle::State_Active, QStyle::State_Selected,
+                               QStyle::State_HasFocus, QStyle::State_Open, QStyle::State_MouseOver,
+                               QStyle::State_KeyboardFocusChange})
+        item.state.setFlag(QStyle::StateFlag(int(flag)), random.oneIn(2));
+    item.state.setFlag(QStyle::State_Editing, random.oneIn(20));
+    item.palette.setCurrentColorGroup(QPalette::ColorGroup(random.below(3)));
+    return item;
+}
+
 /// More of them are tried by hand: NOCTURNE_SEEDS=100 tst_kepttext_internals
 quint32 seeds()
 {
@@ -176,6 +234,7 @@ class KeptTextTest : public QObject
 private Q_SLOTS:
     void drawsWhatTheToolkitDraws();
     void measuresWhatTheToolkitMeasures();
+    void showsItemsAsTheCommonStyleDoes();
 };
 
 void KeptTextTest::drawsWhatTheToolkitDraws()
@@ -225,6 +284,48 @@ void KeptTextTest::measuresWhatTheToolkitMeasures()
             QCOMPARE(KeptText::horizontalAdvance(metrics, text), metrics.horizontalAdvance(text));
             QCOMPARE(KeptText::elided(metrics, text, mode, width),
                      metrics.elidedText(text, mode, width));
+        }
+    }
+}
+
+void KeptTextTest::showsItemsAsTheCommonStyleDoes()
+{
+    const DarkFusionStyle keptStyle;
+    const CommonItems commonStyle;
+    const QStyle &kept = keptStyle;
+    const QStyle &common = commonStyle;
+    for (quint32 seed = 0; seed < seeds(); ++seed) {
+        Random random(seed);
+        for (int round = 0; round < rounds; ++round) {
+            const QStyleOptionViewItem item = randomItem(random);
+            const Setting setting(random);
+            const bool clipped = random.oneIn(5);
+            const auto picture = [&](const QStyle &style) {
+                return setting.picture([&](QPainter *painter) {
+                    painter->save();
+                    if (clipped)
+                        painter->setClipRect(30, 0, 60, 40);
+                    style.drawControl(QStyle::CE_ItemViewItem, &item, painter);
+                    painter->restore();
+                });
+            };
+            const QString what = QStringLiteral("seed %1, round %2: %3 in %4, features %5")
+                                     .arg(seed)
+                                     .arg(round)
+                                     .arg(item.text, item.font.toString())
+                                     .arg(int(item.features));
+            for (QStyle::SubElement element :
+                 {QStyle::SE_ItemViewItemCheckIndicator, QStyle::SE_ItemViewItemDecoration,
+                  QStyle::SE_ItemViewItemText, QStyle::SE_ItemViewItemFocusRect})
+                QVERIFY2(kept.subElementRect(element, &item)
+                             == common.subElementRect(element, &item),
+                         qPrintable(what));
+            QVERIFY2(kept.sizeFromContents(QStyle::CT_ItemViewItem, &item, QSize())
+                         == common.sizeFromContents(QStyle::CT_ItemViewItem, &item, QSize()),
+                     qPrintable(what));
+            const QImage image = picture(kept);
+            QVERIFY(!image.isNull());
+            QVERIFY2(image == picture(common), qPrintable(what));
         }
     }
 }
