@@ -113,11 +113,11 @@ struct Setter
         settings.removeOne(found.first());
         const QString text = found.first().section('=', 1);
         if constexpr (std::is_same_v<Field, QString>)
-            value = text;
+            value = QString(text).replace("\\t", "\t");
         else if constexpr (std::is_same_v<Field, QIcon>)
             value = redIcon();
         else if constexpr (std::is_same_v<Field, QSize>)
-            value = QSize(text.toInt(), text.toInt());
+            value = rect("0,0," + text).size();
         else if constexpr (std::is_same_v<Field, QRect>)
             value = rect(text);
         else
@@ -147,6 +147,7 @@ const QHash<QString, decltype(&build<QStyleOption>)> builders = {
     {"Option", build<QStyleOption>},
     {"Button", build<QStyleOptionButton>},
     {"ComboBox", build<QStyleOptionComboBox>},
+    {"Complex", build<QStyleOptionComplex>},
     {"DockWidget", build<QStyleOptionDockWidget>},
     {"FocusRect", build<QStyleOptionFocusRect>},
     {"Frame", build<QStyleOptionFrame>},
@@ -189,6 +190,7 @@ private Q_SLOTS:
 
 private:
     void draw(const QStyle &style, QPainter &painter) const;
+    QString contentSize() const;
     QString fault(const QImage &image, const QString &expectation) const;
     QImage paint(QStyle::PrimitiveElement element, const QStyleOption &option) const
     {
@@ -232,13 +234,15 @@ void TestStyleElements::initTestCase()
     checked->setCheckable(true);
     checked->setChecked(true);
     auto *child = new QWidget(new QWidget(&m_mainWindow));
+    auto *comboBox = new QComboBox(&m_mainWindow);
+    comboBox->setIconSize(QSize(40, 40));
     m_widgets = {{"search", new SearchLineEdit},
                  {"popup", new QComboBoxPrivateContainer},
                  {"titlebutton", new QDockWidgetTitleButton},
                  {"toolbutton", new QToolButton(&m_mainWindow)},
                  {"pushbutton", new QPushButton(&m_mainWindow)},
                  {"checked", checked},
-                 {"combobox", new QComboBox(&m_mainWindow)},
+                 {"combobox", comboBox},
                  {"docked", new QWidget(&m_mainWindow)},
                  {"child", child},
                  {"top", &m_mainWindow}};
@@ -272,6 +276,22 @@ void TestStyleElements::draw(const QStyle &style, QPainter &painter) const
         style.drawComplexControl(QStyle::ComplexControl(element),
                                  static_cast<QStyleOptionComplex *>(m_option.get()), &painter,
                                  m_widget);
+}
+
+/// The size for contents as large as the option, and what the common style lacks of it.
+QString TestStyleElements::contentSize() const
+{
+    const auto type = QStyle::ContentsType(number(m_element));
+    const auto sizeBy = [&](const QStyle &style) {
+        return style.sizeFromContents(type, m_option.get(), m_option->rect.size(), m_widget);
+    };
+    const QSize size = sizeBy(*m_style);
+    const QSize added = size - sizeBy(UnadjustedStyle());
+    return QStringLiteral(" width %1 height %2 adds %3,%4 ")
+        .arg(size.width())
+        .arg(size.height())
+        .arg(added.width())
+        .arg(added.height());
 }
 
 /// What is wrong with \a image, or nothing.
@@ -331,6 +351,10 @@ void TestStyleElements::elements()
     m_option = builders[words[1]](rect(words[2]), state, settings);
     m_option->direction = isMirrored ? Qt::RightToLeft : Qt::LeftToRight;
 
+    if (m_element.startsWith("CT_")) {
+        QVERIFY2(contentSize().contains(columns[2] + " "), qPrintable(contentSize()));
+        return;
+    }
     const QSize size = canvas.expandedTo(m_option->rect.size());
     const auto paintBy = [&](const QStyle &style) {
         return picture(size, [&](QPainter &painter) { draw(style, painter); });
