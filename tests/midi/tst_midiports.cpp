@@ -212,17 +212,18 @@ private Q_SLOTS:
 
     void routesErrors()
     {
-        for (RtMidiError::Type type :
-             {RtMidiError::DEBUG_WARNING, RtMidiError::WARNING, RtMidiError::UNSPECIFIED,
-              RtMidiError::DRIVER_ERROR, RtMidiError::THREAD_ERROR})
+        for (auto type : {RtMidiError::DEBUG_WARNING, RtMidiError::WARNING,
+                          RtMidiError::UNSPECIFIED, RtMidiError::DRIVER_ERROR})
         {
             const Diagnostics diagnostics;
             Nocturne::MidiPort::report(type, "100% of it %s failed");
-            const bool written = type != RtMidiError::DEBUG_WARNING;
-            const bool logged = written && type != RtMidiError::WARNING;
-            QCOMPARE(diagnostics.standardError(),
-                     QString(written ? "\n100% of it %s failed\n\n" : ""));
-            QCOMPARE(warnings, logged ? QStringList{"100% of it %s failed"} : QStringList());
+            const QString written = diagnostics.standardError();
+            QCOMPARE(
+                written,
+                QString(type == RtMidiError::DEBUG_WARNING ? "" : "\n100% of it %s failed\n\n"));
+            QCOMPARE(warnings, type < RtMidiError::UNSPECIFIED
+                                   ? QStringList()
+                                   : QStringList{"100% of it %s failed"});
         }
     }
 
@@ -386,11 +387,8 @@ private Q_SLOTS:
         for (int type = 0; type < 256; ++type) {
             QMidiMessage message;
             message.setType(type);
-            message.setChannel(3);
             message.setNote(60);
             message.setVelocity(100);
-            message.setKey(7);
-            message.setValue(127);
             message.setSysExData({0xF0, 1, 2});
             output.sendMessage(message);
             const Bytes bytes = message.rawMessage();
@@ -406,21 +404,35 @@ private Q_SLOTS:
         QVERIFY(warnings.contains("QMidiOut: a message of type 224 has no bytes to send"));
 
         output.sendControlChange(1, 2, 3);
-        output.sendNote(144, 16, 60, 100);
-        output.sendNote(128, 1, 60, 100);
-        output.sendNote(160, 1, 60, 100);
+        for (quint8 type : {144, 128, 160})
+            output.sendNote(type, 16, 60, 100);
         output.sendNoteOff(2, 61, 0);
         output.sendNoteOn(16, 62, 1);
-        for (const Bytes &bytes : {Bytes{0xB0, 2, 3}, Bytes{0x9F, 60, 100}, Bytes{0x80, 60, 100},
+        for (const Bytes &bytes : {Bytes{0xB0, 2, 3}, Bytes{0x9F, 60, 100}, Bytes{0x8F, 60, 100},
                                    Bytes{0x81, 61, 0}, Bytes{0x9F, 62, 1}})
             expected.push_back(bytes);
-
         QTRY_VERIFY(device.count() >= expected.size());
         std::vector<Bytes> received = device.take();
         received.erase(std::remove_if(received.begin(), received.end(),
                                       [](const Bytes &bytes) { return (bytes[0] & 0xF0) == 0xC0; }),
                        received.end());
         QCOMPARE(received, expected);
+
+        // What is longer than a cycle of the service is lost there, and nothing else with it.
+        for (size_t size : {1u, 3u, 4u, 127u, 4096u, 16000u, 65536u, 127u}) {
+            QMidiMessage message;
+            message.setType(QMidiMessage::SystemExclusive);
+            Bytes data(size, 0x2A);
+            data.front() = 0xF0;
+            message.setSysExData(data);
+            const Bytes sent = message.rawMessage();
+            output.sendMessage(message);
+            if (size <= 16000)
+                QTRY_COMPARE(device.count(), size_t(1));
+            QTest::qWait(100);
+            received = device.take();
+            QVERIFY(received == std::vector<Bytes>{sent} || (size > 16000 && received.empty()));
+        }
     }
 
     void receivesEveryMessage()
@@ -429,13 +441,11 @@ private Q_SLOTS:
         Sender sender("Keys");
         QMidiIn input;
         QVERIFY(input.openPort(listed(input, "Keys:out")));
-        QMutex mutex;
-        QVector<QMidiMessage> received;
+        QVector<QMidiMessage> received; // filled on the service's thread, read when it is quiet
         std::atomic<Qt::HANDLE> thread{nullptr};
         connect(
             &input, &QMidiIn::midiMessageReceived, &input,
-            [&](QMidiMessage message) {
-                const QMutexLocker locker(&mutex);
+            [&](const QMidiMessage &message) {
                 received << message;
                 thread = QThread::currentThreadId();
             },
@@ -445,7 +455,6 @@ private Q_SLOTS:
         MessageCounter byName;
         connect(&input, SIGNAL(midiMessageReceived(QMidiMessage)), &byName,
                 SLOT(receive(QMidiMessage)));
-
         settle();
         QVector<int> expected;
         for (int status = 0x80; status < 0x100; ++status) {
@@ -463,8 +472,6 @@ private Q_SLOTS:
         }
         QTRY_VERIFY(byName.count >= expected.size());
         QTest::qWait(100);
-
-        const QMutexLocker locker(&mutex);
         QVector<int> statuses;
         for (const QMidiMessage &message : std::as_const(received))
             statuses << message.type() + qMax(0, message.channel() - 1);
@@ -472,35 +479,10 @@ private Q_SLOTS:
         QVERIFY(thread.load() && thread.load() != QThread::currentThreadId());
         QCOMPARE(received.first().deltaTime(), 0.0);
         QCOMPARE(received.first().velocity(), 0x40);
-        QCOMPARE(byName.count, expected.size());
-        QCOMPARE(byPointer.count, expected.size());
-        QCOMPARE(byPointer.wrongThread + byName.wrongThread, 0);
-        QCOMPARE(byName.last.type(), expected.last());
-    }
-
-    void sendsLongMessages()
-    {
-        NEED_JACK();
-        const Diagnostics diagnostics;
-        Listener device("Device");
-        device->openVirtualPort("in");
-        QMidiOut output;
-        QVERIFY(output.openPort(listed(output, "Device:in")));
-        settle();
-        // What is longer than a cycle of the service is lost there, and nothing else with it.
-        for (size_t size : {1u, 2u, 3u, 4u, 127u, 1024u, 4096u, 16000u, 65536u, 127u}) {
-            QMidiMessage message;
-            message.setType(QMidiMessage::SystemExclusive);
-            Bytes data(size, 0x2A);
-            data.front() = 0xF0;
-            message.setSysExData(data);
-            const Bytes sent = message.rawMessage();
-            output.sendMessage(message);
-            if (size <= 16000)
-                QTRY_COMPARE(device.count(), size_t(1));
-            QTest::qWait(100);
-            const std::vector<Bytes> received = device.take();
-            QVERIFY(received == std::vector<Bytes>{sent} || (size > 16000 && received.empty()));
+        for (const MessageCounter *counter : {&byName, &byPointer}) {
+            QCOMPARE(counter->count, expected.size());
+            QCOMPARE(counter->wrongThread, 0);
+            QCOMPARE(counter->last.type(), expected.last());
         }
     }
 
@@ -514,17 +496,6 @@ private Q_SLOTS:
         QVERIFY(input.openPort(listed(input, "Flood")));
         std::vector<int> expected(100000);
         std::iota(expected.begin(), expected.end(), 0);
-
-        std::vector<int> direct; // filled on the service's thread, read when it is quiet
-        direct.reserve(expected.size());
-        std::atomic<size_t> directCount{0};
-        connect(
-            &input, &QMidiIn::midiMessageReceived, &input,
-            [&](const QMidiMessage &message) {
-                direct.push_back(numberOf(message));
-                ++directCount;
-            },
-            Qt::DirectConnection);
         std::vector<int> queued;
         connect(&input, &QMidiIn::midiMessageReceived, this,
                 [&queued](const QMidiMessage &message) { queued.push_back(numberOf(message)); });
@@ -533,10 +504,8 @@ private Q_SLOTS:
             const Bytes bytes = numbered(i);
             output.sendNoteOn(static_cast<quint8>((bytes[0] & 0x0F) + 1), bytes[1], bytes[2]);
         }
-        QTRY_VERIFY_WITH_TIMEOUT(directCount == expected.size() && queued.size() == expected.size(),
-                                 60000);
+        QTRY_VERIFY_WITH_TIMEOUT(queued.size() == expected.size(), 60000);
         QTest::qWait(100);
-        QVERIFY(direct == expected);
         QVERIFY(queued == expected);
     }
 
@@ -549,11 +518,6 @@ private Q_SLOTS:
         MessageCounter messages(kept);
         for (int i = 0; i < 15; ++i) {
             QVERIFY(kept.openPort(listed(kept, "Fire")));
-            const int before = messages.count;
-            QTRY_VERIFY(messages.count > before + 10);
-        }
-        QVERIFY(!kept.openPort("none"));
-        for (int i = 0; i < 15; ++i) {
             auto input = std::make_unique<QMidiIn>();
             MessageCounter queued(*input);
             std::atomic<int> direct{0};
@@ -561,7 +525,8 @@ private Q_SLOTS:
                 input.get(), &QMidiIn::midiMessageReceived, input.get(),
                 [&direct](const QMidiMessage &) { ++direct; }, Qt::DirectConnection);
             QVERIFY(input->openPort(listed(*input, "Fire")));
-            QVERIFY(QTest::qWaitFor([&direct] { return direct > 0; }));
+            const int before = messages.count;
+            QTRY_VERIFY(direct > 0 && messages.count > before + 10);
             input.reset();
             const int after = direct;
             QThread::msleep(30);
