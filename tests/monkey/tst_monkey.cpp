@@ -1,4 +1,3 @@
-#include "qtversion.h"
 #include "subjects.h"
 
 #include <nocturne/DarkFusionStyle>
@@ -116,7 +115,6 @@ private:
 
     void mouse(Dice &dice);
     void wheel(Dice &dice);
-    void touchOrTablet(Dice &dice);
     void keys(Dice &dice);
     void drop(Dice &dice);
     void otherInput(Dice &dice);
@@ -142,23 +140,16 @@ Monkey::Monkey(const Subject &subject, quint32 firstStep)
     , m_window(std::make_unique<QWidget>())
 {
     QStyle *style = m_theme->style();
-    switch (firstStep % 4) {
-    case 1:
+    if (firstStep % 4 == 1 || firstStep % 4 == 2)
         delete style;
+    if (firstStep % 4 == 1)
         style = QStyleFactory::create(QStringLiteral("Fusion"));
-        break;
-    case 2:
-        delete style;
+    else if (firstStep % 4 == 2)
         style = new DarkProxyStyle(QStringLiteral("Fusion"));
-        break;
-    case 3:
+    else if (firstStep % 4 == 3)
         m_window->setStyleSheet(QStringLiteral(
             "QWidget { color: #ddd; } QSlider::handle { width: 9px; } QListView::item { margin: "
             "2px } QAbstractSpinBox { border: 1px solid red; }"));
-        break;
-    default:
-        break;
-    }
     QApplication::setStyle(style);
     QApplication::setPalette(m_theme->palette());
 
@@ -243,25 +234,17 @@ void Monkey::mouse(Dice &dice)
     const Qt::MouseButton button = allButtons[dice.roll(6)];
     const auto modifiers = static_cast<Qt::KeyboardModifiers>(dice.roll(4) << 25);
     QEvent::Type type = QEvent::MouseMove;
-    switch (dice.roll(6)) {
-    case 0:
+    const int what = dice.roll(6);
+    if (what == 0) {
         type = dice.roll(4) ? QEvent::MouseButtonPress : QEvent::MouseButtonDblClick;
         if (!m_buttons)
             m_pressedOn = widget;
         m_buttons |= button;
-        break;
-    case 1:
+    } else if (what == 1) {
         type = QEvent::MouseButtonRelease;
         m_buttons &= ~button;
-        break;
-    case 2: {
-        // A release that went elsewhere.
-        if (dice.roll(4) == 0)
-            m_buttons = Qt::NoButton;
-        break;
-    }
-    default:
-        break;
+    } else if (what == 2 && dice.roll(4) == 0) { // A release that went elsewhere.
+        m_buttons = Qt::NoButton;
     }
     QMouseEvent event(type, place, global, type == QEvent::MouseMove ? Qt::NoButton : button,
                       m_buttons, modifiers);
@@ -332,170 +315,115 @@ void Monkey::drop(Dice &dice)
     }
 }
 
-void Monkey::touchOrTablet(Dice &dice)
-{
-    QWidget *widget = target(dice);
-    const QPointF place = pointOn(widget, dice);
-    if (dice.coin()) {
-        static auto *device = QTest::createTouchDevice();
-        auto touch = QTest::touchEvent(widget, device);
-        if (dice.coin())
-            touch.press(0, place.toPoint(), widget);
-        else
-            touch.release(0, place.toPoint(), widget);
-    } else {
-        QTabletEvent event =
-            QtVersion::penEvent(dice.coin() ? QEvent::TabletPress : QEvent::TabletMove, place,
-                                widget->mapToGlobal(place.toPoint()));
-        send(widget, &event);
-    }
-}
-
 void Monkey::otherInput(Dice &dice)
 {
     QWidget *widget = target(dice);
     const QPoint place = pointOn(widget, dice);
     const QPoint global = widget->mapToGlobal(place);
+    const auto reason = static_cast<Qt::FocusReason>(dice.roll(8));
+    const bool coin = dice.coin();
+    std::unique_ptr<QEvent> event;
     switch (dice.roll(8)) {
-    case 0: {
-        QContextMenuEvent event(QContextMenuEvent::Mouse, place, global);
-        send(widget, &event);
+    case 0:
+        event = std::make_unique<QContextMenuEvent>(QContextMenuEvent::Mouse, place, global);
         break;
-    }
-    case 1: {
-        QHelpEvent event(dice.coin() ? QEvent::ToolTip : QEvent::WhatsThis, place, global);
-        send(widget, &event);
+    case 1:
+        event =
+            std::make_unique<QHelpEvent>(coin ? QEvent::ToolTip : QEvent::WhatsThis, place, global);
         break;
-    }
-    case 2: {
-        QInputMethodEvent event(dice.text(), {});
-        event.setCommitString(dice.text());
-        send(widget, &event);
+    case 2:
+        event =
+            std::make_unique<QInputMethodEvent>(dice.text(), QList<QInputMethodEvent::Attribute>());
+        static_cast<QInputMethodEvent *>(event.get())->setCommitString(dice.text());
         break;
-    }
-    case 3: {
-        QHoverEvent event(dice.coin() ? QEvent::HoverMove : QEvent::HoverLeave, place, place);
-        send(widget, &event);
+    case 3:
+        event = std::make_unique<QHoverEvent>(coin ? QEvent::HoverMove : QEvent::HoverLeave, place,
+                                              place);
         break;
-    }
-    case 4: {
-        QFocusEvent event(dice.coin() ? QEvent::FocusIn : QEvent::FocusOut,
-                          static_cast<Qt::FocusReason>(dice.roll(8)));
-        send(widget, &event);
+    case 4:
+        event = std::make_unique<QFocusEvent>(coin ? QEvent::FocusIn : QEvent::FocusOut, reason);
         break;
-    }
-    case 5: {
-        QEvent event(dice.coin() ? QEvent::Leave : QEvent::WindowDeactivate);
-        send(widget, &event);
+    case 5:
+        event = std::make_unique<QEvent>(coin ? QEvent::Leave : QEvent::WindowDeactivate);
         break;
-    }
     case 6:
-        widget->setFocus(static_cast<Qt::FocusReason>(dice.roll(8)));
-        break;
-    default: {
+        widget->setFocus(reason);
+        return;
+    default:
         auto *menu = new QMenu(m_window.get());
         menu->setAttribute(Qt::WA_DeleteOnClose);
         menu->addAction(dice.text());
         menu->popup(global);
-        break;
+        return;
     }
-    }
+    send(widget, event.get());
 }
 
 void Monkey::changeWidget(Dice &dice)
 {
     if (!m_widget)
         makeSubject();
-    switch (dice.roll(10)) {
-    case 0:
+    const int what = dice.roll(10);
+    if (what == 0) {
         m_widget->setEnabled(dice.coin());
-        break;
-    case 1:
+    } else if (what == 1) {
         m_widget->setVisible(dice.roll(4));
-        break;
-    case 2: {
+    } else if (what == 2) {
         const int edge = dice.roll(20) ? 400 : 16384;
         m_window->resize(dice.roll(edge), dice.roll(edge == 400 ? 400 : 60));
-        break;
-    }
-    case 3:
+    } else if (what == 3) {
         delete m_widget;
-        break;
-    case 4:
+    } else if (what == 4) {
         m_widget->deleteLater();
-        break;
-    case 5: {
+    } else if (what == 5) {
         auto other = std::make_unique<QWidget>();
         m_widget->setParent(other.get());
         m_widget->setParent(m_window.get());
         m_window->layout()->addWidget(m_widget);
         m_widget->show();
-        break;
-    }
-    case 6: {
-        const qreal ratio = 1.0 + dice.roll(5) / 2.0;
-        QImage image(QSize(std::min(m_widget->width(), 400), std::min(m_widget->height(), 400))
-                         * ratio,
-                     QImage::Format_ARGB32_Premultiplied);
-        if (image.isNull())
-            break;
-        image.setDevicePixelRatio(ratio);
-        QPainter painter(&image);
-        m_widget->render(&painter);
-        break;
-    }
-    default:
+    } else if (what == 6 && !m_widget->size().isEmpty()) {
+        QPixmap pixmap(m_widget->size().boundedTo({400, 400}) * 3);
+        pixmap.setDevicePixelRatio(1.0 + dice.roll(5) / 2.0);
+        m_widget->render(&pixmap);
+    } else {
         m_calling = true;
         m_subject.call(m_widget, dice);
         m_calling = false;
-        break;
     }
 }
 
 void Monkey::changeWorld(Dice &dice)
 {
-    switch (dice.roll(8)) {
-    case 0: {
+    const int what = dice.roll(8);
+    if (what == 0) {
         QPalette palette = m_theme->palette();
         palette.setColor(QPalette::Window, QColor(dice.roll(256), dice.roll(256), 40));
         m_theme->setPalette(palette, true);
         m_window->setPalette(palette);
-        break;
-    }
-    case 1:
+    } else if (what == 1) {
         m_window->setLayoutDirection(dice.coin() ? Qt::RightToLeft : Qt::LeftToRight);
-        break;
-    case 2: {
+    } else if (what == 2) {
         QFont font = m_window->font();
         font.setPixelSize(1 + dice.roll(60));
         font.setBold(dice.coin());
         m_window->setFont(font);
-        break;
-    }
-    case 3: {
+    } else if (what == 3) {
         QEvent event(QEvent::LanguageChange);
         send(m_widget ? m_widget.data() : m_window.get(), &event);
-        break;
-    }
-    case 4: {
+    } else if (what == 4) {
         // Widgets exist without a theme, as long as none of them paints.
         m_theme.reset();
         m_theme = std::make_unique<DarkUX>();
         const std::unique_ptr<DarkFusionStyle> unusedStyle(m_theme->style());
-        break;
-    }
-    case 5:
+    } else if (what == 5) {
         m_window->setStyleSheet(dice.coin() ? QString()
                                             : QStringLiteral("* { padding: 3px; color: red; }"));
-        break;
-    case 6:
+    } else if (what == 6) {
         QBalloonTip::showBalloon(
             static_cast<QSystemTrayIcon::MessageIcon>(dice.roll(4)), dice.text(), dice.text(),
             nullptr, QPoint(dice.roll(800), dice.roll(800)), dice.roll(9) - 2, dice.coin());
-        break;
-    default:
+    } else {
         QCoreApplication::processEvents();
-        break;
     }
 }
 
@@ -505,42 +433,28 @@ void Monkey::arm(Dice &dice)
     m_listener.armed = [this, what](bool own) {
         if (!m_widget)
             return;
-        switch (what) {
-        case 0:
-            // Neither the toolkit's own signals nor a call from outside bear it.
-            if (own && !m_calling && !m_subject.onlyDeletedLater)
-                delete m_widget;
-            else
-                m_widget->deleteLater();
-            break;
-        case 1:
+        // Neither the toolkit's own signals nor a call from outside bear it.
+        if (what == 0 && own && !m_calling && !m_subject.onlyDeletedLater) {
+            delete m_widget;
+        } else if (what == 0) {
+            m_widget->deleteLater();
+        } else if (what == 1) {
             m_widget->hide();
-            break;
-        case 2:
+        } else if (what == 2) {
             m_widget->setEnabled(false);
-            break;
-        case 3:
-            // The toolkit itself does not bear that a window ends while it is being activated.
-            if (!m_widget->isWindow()) {
-                QWidget other;
-                m_widget->setParent(&other);
-                m_window->layout()->addWidget(m_widget);
-            }
-            break;
-        case 4: {
+        } else if (what == 3) {
+            m_widget->setParent(nullptr);
+            m_window->layout()->addWidget(m_widget);
+        } else if (what == 4) {
             // A popup whose appearance ends a gesture is not yet fit to be closed.
             m_closer.stop();
             QEventLoop loop;
             QTimer::singleShot(1, &loop, &QEventLoop::quit);
             loop.exec();
             m_closer.start(2);
-            break;
-        }
-        default: {
+        } else {
             Dice inner(static_cast<quint32>(what) + 77u);
             m_subject.call(m_widget, inner);
-            break;
-        }
         }
     };
 }
@@ -549,48 +463,31 @@ void Monkey::step(quint32 seed)
 {
     Dice dice(seed);
     ++eventCount;
-    switch (dice.roll(16)) {
-    case 0:
+    const int what = dice.roll(16);
+    if (what == 0)
         wheel(dice);
-        break;
-    case 1:
-        touchOrTablet(dice);
-        break;
-    case 2:
-    case 3:
+    else if (what <= 3)
         keys(dice);
-        break;
-    case 4:
+    else if (what == 4)
         drop(dice);
-        break;
-    case 5:
+    else if (what == 5)
         otherInput(dice);
-        break;
-    case 6:
-    case 7:
+    else if (what <= 7)
         changeWidget(dice);
-        break;
-    case 8:
+    else if (what == 8)
         dice.roll(3) ? changeWorld(dice) : arm(dice);
-        break;
-    case 9:
-        if (dice.roll(8) == 0)
-            rest();
-        break;
-    default:
+    else if (what == 9 && dice.roll(8) == 0)
+        rest();
+    else
         mouse(dice);
-        break;
-    }
     check();
 }
 
 void Monkey::check()
 {
-    if (m_widget) {
-        const QString wrong = m_subject.check(m_widget);
-        if (!wrong.isEmpty())
-            fail(wrong);
-    }
+    const QString wrong = m_widget ? m_subject.check(m_widget) : QString();
+    if (!wrong.isEmpty())
+        fail(wrong);
 }
 
 void Monkey::rest()
