@@ -82,29 +82,16 @@ QWidget *make<QMdiSubWindow>(QWidget *parent)
     return area->addSubWindow(new QWidget);
 }
 
-const QHash<QString, QWidget *(*)(QWidget *parent)> makers = {
-    {"QLabel", make<QLabel>},
-    {"QPushButton", make<QPushButton>},
-    {"QToolButton", make<QToolButton>},
-    {"QCheckBox", make<QCheckBox>},
-    {"QRadioButton", make<QRadioButton>},
-    {"QLineEdit", make<QLineEdit>},
-    {"QTextEdit", make<QTextEdit>},
-    {"QGroupBox", make<QGroupBox>},
-    {"QComboBox", make<QComboBox>},
-    {"QSpinBox", make<QSpinBox>},
-    {"QTabBar", make<QTabBar>},
-    {"QProgressBar", make<QProgressBar>},
-    {"QTableWidget", make<QTableWidget>},
-    {"QMenu", make<QMenu>},
-    {"QMdiSubWindow", make<QMdiSubWindow>},
-    {"QDockWidget", make<QDockWidget>},
-    {"QSlider", make<QSlider>},
-    {"QDial", make<QDial>},
-    {"QScrollBar", make<QScrollBar>},
-    {"QSizeGrip", make<QSizeGrip>},
-    {"RangeSlider", make<RangeSlider>},
-    {"CheckBox", make<CheckBox>}};
+template <typename... W>
+QHash<QString, QWidget *(*)(QWidget *parent)> makersOf()
+{
+    return {{W::staticMetaObject.className(), make<W>}...};
+}
+
+const auto makers = makersOf<QLabel, QPushButton, QToolButton, QCheckBox, QRadioButton, QLineEdit,
+                             QTextEdit, QGroupBox, QComboBox, QSpinBox, QTabBar, QProgressBar,
+                             QTableWidget, QMenu, QMdiSubWindow, QDockWidget, QSlider, QDial,
+                             QScrollBar, QSizeGrip, RangeSlider, CheckBox>();
 
 const QVector<Sample> &samples()
 {
