@@ -46,34 +46,15 @@ private:
 
 QString randomText(Random &random)
 {
-    return QString::fromUtf8(
-        random.oneOf<const char *>({"Button",
-                                    "Quick fox",
-                                    "&Open file",
-                                    "Save && close",
-                                    "a &b &c",
-                                    "end&",
-                                    "&",
-                                    "A\tB",
-                                    "two\nlines",
-                                    "مرحبا بالعالم",
-                                    "&مرحبا",
-                                    "שלום עולם",
-                                    "abc שלום 123",
-                                    "شكرا (thanks)",
-                                    "\u200fabc",
-                                    "हिन्दी पाठ",
-                                    "ไทย",
-                                    "日本語テキスト",
-                                    "😀 emoji 👍🏽",
-                                    "  lead, trail  ",
-                                    "fi ffl AVAToWa",
-                                    "a\u0301e\u0308",
-                                    "a\u00adb\u200bc\u00a0d",
-                                    "x",
-                                    "",
-                                    "one\u2028two",
-                                    "this is a rather long text that goes on and on and on"}));
+    static const QStringList texts =
+        QString::fromUtf8("Button|Quick fox|&Open file|Save && close|a &b &c|end&|&|A\tB|"
+                          "two\nlines|مرحبا بالعالم|&مرحبا|שלום עולם|abc שלום 123|شكرا (thanks)|"
+                          "\u200fabc|हिन्दी पाठ|ไทย|日本語テキスト|😀 emoji "
+                          "👍🏽|"
+                          "  lead, trail  |fi ffl AVAToWa|a\u0301e\u0308|a\u00adb\u200bc\u00a0d|"
+                          "x||one\u2028two|this is a rather long text that goes on and on and on")
+            .split('|');
+    return texts.at(random.below(texts.size()));
 }
 
 QFont randomFont(Random &random)
