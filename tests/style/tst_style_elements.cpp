@@ -626,14 +626,15 @@ void TestStyleElements::sliderTickInterval()
     option.singleStep = 1;
     option.pageStep = 10;
     using Limits = std::numeric_limits<int>;
-    const int rows[][4] = {// interval, minimum, maximum, number of marks
-                           {25, 0, 100, 5},
-                           {40, 0, 100, 3}, // the end is not reached
-                           {3, 0, 11, 5},   // 0 3 6 9 11
-                           {0, 0, 70, 71},  // single steps, three pixels wide
-                           {0, 0, 80, 9},   // page steps, because single ones have two
-                           // Every pixel from one end of the travel to the other, and no more.
-                           {1, Limits::min() / 2, Limits::max() / 2, 186}};
+    const int rows[][4] = {
+        // interval, minimum, maximum, number of marks
+        {25, 0, 100, 5},
+        {40, 0, 100, 3}, // the end is not reached
+        {3, 0, 11, 5},   // 0 3 6 9 11
+        {0, 0, 70, 71},  // single steps, three pixels wide
+        {0, 0, 80, 9},   // page steps, because single ones have two
+                       // Every pixel from one end of the travel to the other, and no more.
+        {1, Limits::min() / 2, Limits::max() / 2, 186}};
     for (const auto &row : rows) {
         option.tickInterval = row[0];
         option.minimum = row[1];

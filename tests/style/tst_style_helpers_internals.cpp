@@ -61,7 +61,6 @@ private Q_SLOTS:
     void colorizedChannels();
 
     void dialTicks();
-    void dialTickCounts();
     void dialPositions();
 
 private:
@@ -235,38 +234,30 @@ void tst_StyleHelpers::cachedDrawingIsPaintedOnce()
     };
     const QImage image = TestSupport::paintOn(QSize(12, 12), Qt::black, [&](QPainter &painter) {
         for (const QPoint &place : {QPoint(1, 1), QPoint(6, 6)})
-            StyleHelpers::drawCached(&painter, place, QStringLiteral("once"), QSize(5, 5), paint);
-        StyleHelpers::drawCached(&painter, QPoint(), QStringLiteral("none"), QSize(0, 5), paint);
+            StyleHelpers::drawCached(&painter, place, "once", QSize(5, 5), paint);
+        StyleHelpers::drawCached(&painter, QPoint(), "none", QSize(0, 5), paint);
     });
     QCOMPARE(painted, 1);
-    COMPARE_PIXEL(image, 0, 0, Qt::black);
-    COMPARE_PIXEL(image, 1, 1, Qt::red);
-    COMPARE_PIXEL(image, 5, 5, Qt::black);
-    COMPARE_PIXEL(image, 9, 9, Qt::red);
+    TestSupport::comparePixels(image, Qt::black, {{0, 0}, {5, 5}});
+    TestSupport::comparePixels(image, Qt::red, {{1, 1}, {9, 9}});
 }
 
+/// Three units to the right are three units down for a painter turned by 90 degrees.
 void tst_StyleHelpers::uncacheableDrawingIsPaintedInPlace()
 {
     const auto paint = [](QPainter *painter) { painter->fillRect(0, 0, 3, 1, Qt::red); };
-    const QSize huge(1000000, 1000000);
-    QImage image = TestSupport::paintOn(QSize(8, 8), Qt::black, [&](QPainter &painter) {
-        StyleHelpers::drawCached(&painter, QPoint(2, 2), QStringLiteral("huge"), huge, paint);
-    });
-    COMPARE_PIXEL(image, 2, 2, Qt::red);
-
-    // Three units to the right are three units down for a painter turned by 90 degrees.
-    image = TestSupport::paintOn(QSize(8, 8), Qt::black, [&](QPainter &painter) {
+    const QImage image = TestSupport::paintOn(QSize(8, 8), Qt::black, [&](QPainter &painter) {
+        StyleHelpers::drawCached(&painter, QPoint(0, 0), "huge", QSize(1000000, 1000000), paint);
         painter.translate(8, 0);
         painter.rotate(90);
-        StyleHelpers::drawCachedUnlessTransformed(&painter, QPoint(2, 2), QStringLiteral("turned"),
-                                                  QSize(3, 1), paint);
+        StyleHelpers::drawCachedUnlessTransformed(&painter, QPoint(2, 2), "turned", QSize(3, 1),
+                                                  paint);
         QVERIFY(painter.worldTransform().isRotating());
     });
-    COMPARE_PIXEL(image, 5, 2, Qt::red);
-    COMPARE_PIXEL(image, 5, 4, Qt::red);
+    TestSupport::comparePixels(image, Qt::red, {{0, 0}, {2, 0}, {5, 2}, {5, 4}});
     QPixmap pixmap;
-    QVERIFY(!QPixmapCache::find(QStringLiteral("huge"), &pixmap));
-    QVERIFY(!QPixmapCache::find(QStringLiteral("turned"), &pixmap));
+    for (const char *key : {"huge", "turned"})
+        QVERIFY(!QPixmapCache::find(key, &pixmap));
 }
 
 /// The toolkit's arrow, or the style's own where that is missing: an upright triangle.
@@ -313,25 +304,23 @@ void tst_StyleHelpers::colorizedChannels()
 
 void tst_StyleHelpers::dialTicks()
 {
-    const QStyleOptionSlider option = dialOption();
+    QStyleOptionSlider option = dialOption();
     const QVector<QLineF> lines = ComplexControls::dialTickLines(&option);
     QCOMPARE(lines.size(), 11);
-    const QPointF center(32.5, 32.5);
-    const auto distance = [&](const QPointF &point) { return QLineF(center, point).length(); };
-
+    const auto polar = [](const QPointF &point) {
+        const QLineF line(QPointF(32.5, 32.5), point);
+        return QPoint(qRound(line.length()), qRound(line.angle()));
+    };
     // At 240 degrees, a long mark; the next one is short, and one unit further in.
     QCOMPARE(ComplexControls::dialBigLineSize(32), 5);
-    QCOMPARE(QLineF(center, lines.first().p2()).angle(), 240.0);
-    QCOMPARE(distance(lines.first().p1()), 27.0);
-    QCOMPARE(distance(lines.first().p2()), 32.0);
-    QCOMPARE(distance(lines.at(1).p1()), 29.0);
-    QCOMPARE(distance(lines.at(1).p2()), 31.0);
-    QCOMPARE(distance(lines.at(2).p2()), 32.0);
-    QCOMPARE(QLineF(center, lines.last().p2()).angle(), 300.0);
-}
+    QCOMPARE(polar(lines[0].p1()), QPoint(27, 240));
+    QCOMPARE(polar(lines[0].p2()), QPoint(32, 240));
+    QCOMPARE(polar(lines[1].p1()), QPoint(29, 210));
+    QCOMPARE(polar(lines[1].p2()), QPoint(31, 210));
+    QCOMPARE(polar(lines[2].p2()), QPoint(32, 180));
+    QCOMPARE(polar(lines[10].p2()), QPoint(32, 300));
 
-void tst_StyleHelpers::dialTickCounts()
-{
+    option.pageStep = 0;
     const int rows[][4] = {// minimum, maximum, interval, number of marks
                            {0, 100, 0, 0},
                            {0, 100, -5, 0},
@@ -341,11 +330,9 @@ void tst_StyleHelpers::dialTickCounts()
                            {0, 5000, 7, (7 + 999) / 7 + 1},
                            {INT_MIN, INT_MAX, INT_MAX, 2}};
     for (const auto &row : rows) {
-        QStyleOptionSlider option = dialOption();
         option.minimum = row[0];
         option.maximum = row[1];
         option.tickInterval = row[2];
-        option.pageStep = 0;
         QCOMPARE(ComplexControls::dialTickLines(&option).size(), row[3]);
     }
 }
