@@ -7,132 +7,57 @@
 /// visit("name", field) for each field of the option's own type.
 namespace StyleOptions {
 
+#define OPTION(Option, ...) \
+    template <typename Visit> \
+    void visitFields(QStyleOption##Option &o, Visit &&visit) \
+    { \
+        __VA_ARGS__; \
+    }
+#define COMPLEX_OPTION(Option, ...) \
+    OPTION(Option, visitFields(static_cast<QStyleOptionComplex &>(o), visit), __VA_ARGS__)
 #define FIELD(name) visit(#name, o.name)
 
 template <typename Visit>
 void visitFields(QStyleOption &, Visit &&)
 {}
 
-template <typename Visit>
-void visitFields(QStyleOptionButton &o, Visit &&visit)
+/// Fields whose place depends on the version of the toolkit.
+template <typename Option, typename Value, typename Visit>
+void visitMoved(Option &o, void (*set)(Option &, Value), const char *name, Value value,
+                Visit &&visit)
 {
-    FIELD(features), FIELD(text), FIELD(icon), FIELD(iconSize);
+    visit(name, value);
+    set(o, value);
 }
 
-template <typename Visit>
-void visitFields(QStyleOptionFrame &o, Visit &&visit)
-{
-    FIELD(lineWidth), FIELD(midLineWidth);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionTab &o, Visit &&visit)
-{
-    FIELD(shape), FIELD(position), FIELD(selectedPosition), FIELD(features);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionTabWidgetFrame &o, Visit &&visit)
-{
-    FIELD(shape), FIELD(selectedTabRect);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionTabBarBase &o, Visit &&visit)
-{
-    FIELD(shape), FIELD(selectedTabRect), FIELD(tabBarRect);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionProgressBar &o, Visit &&visit)
-{
-    FIELD(minimum), FIELD(maximum), FIELD(progress), FIELD(text);
-    FIELD(invertedAppearance);
-    Qt::Orientation orientation = Qt::Horizontal;
-    visit("orientation", orientation);
-    QtVersion::setOrientation(o, orientation);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionMenuItem &o, Visit &&visit)
-{
-    FIELD(menuItemType), FIELD(checkType), FIELD(checked), FIELD(text), FIELD(icon);
-    FIELD(maxIconWidth);
-    int shortcutWidth = 0;
-    visit("shortcutWidth", shortcutWidth);
-    QtVersion::setShortcutWidth(o, shortcutWidth);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionHeader &o, Visit &&visit)
-{
-    FIELD(text), FIELD(icon), FIELD(position), FIELD(sortIndicator), FIELD(orientation);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionDockWidget &o, Visit &&visit)
-{
-    FIELD(title), FIELD(verticalTitleBar);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionToolBar &o, Visit &&visit)
-{
-    FIELD(positionOfLine), FIELD(toolBarArea);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionComplex &o, Visit &&visit)
-{
-    FIELD(subControls), FIELD(activeSubControls);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionSlider &o, Visit &&visit)
-{
-    visitFields(static_cast<QStyleOptionComplex &>(o), visit);
-    FIELD(minimum), FIELD(maximum), FIELD(sliderPosition), FIELD(sliderValue), FIELD(singleStep);
-    FIELD(pageStep), FIELD(orientation), FIELD(tickInterval), FIELD(tickPosition);
-    FIELD(upsideDown), FIELD(dialWrapping);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionSpinBox &o, Visit &&visit)
-{
-    visitFields(static_cast<QStyleOptionComplex &>(o), visit);
-    FIELD(buttonSymbols), FIELD(stepEnabled), FIELD(frame);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionToolButton &o, Visit &&visit)
-{
-    visitFields(static_cast<QStyleOptionComplex &>(o), visit);
-    FIELD(features), FIELD(text), FIELD(icon), FIELD(iconSize), FIELD(arrowType);
-    FIELD(toolButtonStyle);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionComboBox &o, Visit &&visit)
-{
-    visitFields(static_cast<QStyleOptionComplex &>(o), visit);
-    FIELD(editable), FIELD(frame), FIELD(currentText), FIELD(currentIcon), FIELD(iconSize);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionTitleBar &o, Visit &&visit)
-{
-    visitFields(static_cast<QStyleOptionComplex &>(o), visit);
-    FIELD(text), FIELD(icon), FIELD(titleBarState), FIELD(titleBarFlags);
-}
-
-template <typename Visit>
-void visitFields(QStyleOptionGroupBox &o, Visit &&visit)
-{
-    visitFields(static_cast<QStyleOptionComplex &>(o), visit);
-    FIELD(text), FIELD(textAlignment), FIELD(lineWidth);
-}
+OPTION(Button, FIELD(features), FIELD(text), FIELD(icon), FIELD(iconSize))
+OPTION(Frame, FIELD(lineWidth), FIELD(midLineWidth))
+OPTION(Tab, FIELD(shape), FIELD(position), FIELD(selectedPosition), FIELD(features))
+OPTION(TabWidgetFrame, FIELD(shape), FIELD(selectedTabRect))
+OPTION(TabBarBase, FIELD(shape), FIELD(selectedTabRect), FIELD(tabBarRect))
+OPTION(ProgressBar, FIELD(minimum), FIELD(maximum), FIELD(progress), FIELD(text),
+       FIELD(invertedAppearance),
+       visitMoved(o, QtVersion::setOrientation, "orientation", Qt::Horizontal, visit))
+OPTION(MenuItem, FIELD(menuItemType), FIELD(checkType), FIELD(checked), FIELD(text), FIELD(icon),
+       FIELD(maxIconWidth), visitMoved(o, QtVersion::setShortcutWidth, "shortcutWidth", 0, visit))
+OPTION(Header, FIELD(text), FIELD(icon), FIELD(position), FIELD(sortIndicator), FIELD(orientation))
+OPTION(DockWidget, FIELD(title), FIELD(verticalTitleBar))
+OPTION(ToolBar, FIELD(positionOfLine), FIELD(toolBarArea))
+OPTION(Complex, FIELD(subControls), FIELD(activeSubControls))
+COMPLEX_OPTION(Slider, FIELD(minimum), FIELD(maximum), FIELD(sliderPosition), FIELD(sliderValue),
+               FIELD(singleStep), FIELD(pageStep), FIELD(orientation), FIELD(tickInterval),
+               FIELD(tickPosition), FIELD(upsideDown), FIELD(dialWrapping))
+COMPLEX_OPTION(SpinBox, FIELD(buttonSymbols), FIELD(stepEnabled), FIELD(frame))
+COMPLEX_OPTION(ToolButton, FIELD(features), FIELD(text), FIELD(icon), FIELD(iconSize),
+               FIELD(arrowType), FIELD(toolButtonStyle))
+COMPLEX_OPTION(ComboBox, FIELD(editable), FIELD(frame), FIELD(currentText), FIELD(currentIcon),
+               FIELD(iconSize))
+COMPLEX_OPTION(TitleBar, FIELD(text), FIELD(icon), FIELD(titleBarState), FIELD(titleBarFlags))
+COMPLEX_OPTION(GroupBox, FIELD(text), FIELD(textAlignment), FIELD(lineWidth))
 
 #undef FIELD
+#undef COMPLEX_OPTION
+#undef OPTION
 
 } // namespace StyleOptions
 
