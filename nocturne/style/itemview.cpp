@@ -136,6 +136,13 @@ Rooms rooms(const Item &item, const Parts &parts)
     return isAside(item) ? sideBySide(item, parts) : oneBelowTheOther(item, parts);
 }
 
+/// Whether a line of \a width is not broken even in an item that breaks its text.
+bool isUnbroken(const Item &item, const Parts &parts, int width)
+{
+    const int room = item.rect.width() - parts.checkWidth() - parts.decorationWidth();
+    return isAside(item) && width <= room - 2 * parts.margin;
+}
+
 QRect textRect(const Item &item, const Parts &parts)
 {
     const QRect room = rooms(item, parts).text;
@@ -149,18 +156,22 @@ QRect textRect(const Item &item, const Parts &parts)
 
 } // namespace
 
-const QStyleOptionViewItem *plainItem(const QStyleOption *option)
+const QStyleOptionViewItem *plainItem(const QStyle *style, const QStyleOption *option,
+                                      const QWidget *widget)
 {
     const auto *item = qstyleoption_cast<const Item *>(option);
-    if (!item || has(*item, Item::WrapText) || item->state & QStyle::State_Editing
-        || (has(*item, Item::HasDecoration) && item->decorationSize.isEmpty()))
-        return nullptr;
-    if (!KeptText::areKept(int(item->displayAlignment))
+    if (!item || item->state & QStyle::State_Editing
+        || (has(*item, Item::HasDecoration) && item->decorationSize.isEmpty())
+        || !KeptText::areKept(int(item->displayAlignment))
         || item->displayAlignment & Qt::AlignAbsolute)
         return nullptr;
-    if (!item->text.isEmpty() && !KeptText::lineSize(item->font, item->text).isValid())
-        return nullptr;
-    return item;
+    if (item->text.isEmpty())
+        return item;
+    const QSize line = KeptText::lineSize(item->font, item->text);
+    const bool isKept = line.isValid()
+                        && (!has(*item, Item::WrapText)
+                            || isUnbroken(*item, Parts(style, *item, widget), line.width()));
+    return isKept ? item : nullptr;
 }
 
 QRect elementRect(const QStyle *style, QStyle::SubElement element, const QStyleOptionViewItem &item,
@@ -285,7 +296,7 @@ void paintItemFocus(const PaintCall &call, const Item &item)
 
 bool paintItemViewItem(const PaintCall &call)
 {
-    const Item *item = ItemView::plainItem(call.option);
+    const Item *item = ItemView::plainItem(call.style, call.option, call.widget);
     if (!item || item->rect.isEmpty() || !KeptText::takesKept(*call.painter))
         return false;
     const QRect textRect = item->text.isEmpty() ? QRect() : textLineRect(call, *item);

@@ -10,9 +10,10 @@ class QStyleOptionViewItem;
 /// sizes are the common style's, which gets everything that is not a plain item.
 namespace Nocturne::ItemView {
 
-/// The option of an item with one line of text that can be kept; null for all else, which is left
-/// to the common style.
-const QStyleOptionViewItem *plainItem(const QStyleOption *option);
+/// The option of an item with one line of text that can be kept, and that \a style would not break;
+/// null for all else, which is left to the common style.
+const QStyleOptionViewItem *plainItem(const QStyle *style, const QStyleOption *option,
+                                      const QWidget *widget);
 
 /// Where \a element of a plain item lies: its check indicator, decoration, text or focus frame.
 QRect elementRect(const QStyle *style, QStyle::SubElement element, const QStyleOptionViewItem &item,

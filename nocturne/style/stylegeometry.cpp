@@ -93,7 +93,7 @@ QSize DarkFusionStyle::sizeFromContents(ContentsType type, const QStyleOption *o
                                         const QSize &contents, const QWidget *widget) const
 {
     if (type == CT_ItemViewItem) {
-        if (const auto *item = Nocturne::ItemView::plainItem(option))
+        if (const auto *item = Nocturne::ItemView::plainItem(this, option, widget))
             return Nocturne::ItemView::size(this, *item, widget);
     }
     const QSize size = QCommonStyle::sizeFromContents(type, option, contents, widget);
@@ -138,7 +138,7 @@ QRect DarkFusionStyle::subElementRect(SubElement element, const QStyleOption *op
     if (!option || (!widget && needsWidget(element)))
         return QRect();
     if (isItemElement(element)) {
-        if (const auto *item = Nocturne::ItemView::plainItem(option))
+        if (const auto *item = Nocturne::ItemView::plainItem(this, option, widget))
             return Nocturne::ItemView::elementRect(this, element, *item, widget);
     }
     const QRect rect = QCommonStyle::subElementRect(element, option, widget);

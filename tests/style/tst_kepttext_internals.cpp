@@ -179,6 +179,8 @@ QStyleOptionViewItem randomItem(Random &random)
         random.anyOf({Item::WrapText, Item::Alternate})
         | random.oneOf<int>({0, Item::HasCheckIndicator}) | random.oneOf<int>({0, Item::HasDisplay})
         | random.oneOf<int>({0, Item::HasDisplay, Item::HasDecoration}));
+    if (item.features & Item::WrapText && random.oneIn(2)) // about as wide as the line
+        item.rect.setWidth(QFontMetrics(item.font).horizontalAdvance(item.text) + random.below(12));
     item.checkState = Qt::CheckState(random.below(3));
     if (item.features & Item::HasDecoration)
         item.icon = icon;
