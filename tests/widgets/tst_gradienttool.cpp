@@ -1,5 +1,6 @@
 #include "gestures.h"
 #include "modaldialog.h"
+#include "probes.h"
 
 #include <nocturne/GradientTool>
 
@@ -79,50 +80,29 @@ class TestGradientTool : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void colorTable_data()
-    {
-        QTest::addColumn<Ramp>("ramp");
-        QTest::addColumn<QVector<QPair<int, QRgb>>>("entries");
-        using Entries = QVector<QPair<int, QRgb>>;
-
-        QTest::newRow("at the start")
-            << GradientTool().getRamp()
-            << Entries({{0, 0xffffffff}, {51, 0xffcccccc}, {255, 0xff000000}});
-        QTest::newRow("out of order")
-            << Ramp({{1.0, Qt::black}, {0.0, Qt::white}})
-            << Entries({{0, 0xffffffff}, {51, 0xffcccccc}, {255, 0xff000000}});
-        QTest::newRow("ends inside")
-            << Ramp({{0.2, Qt::red}, {0.8, Qt::blue}})
-            << Entries({{0, 0xffff0000}, {51, 0xffff0000}, {204, 0xff0000ff}, {255, 0xff0000ff}});
-        QTest::newRow("alpha is left out")
-            << Ramp({{0.0, QColor(10, 20, 30, 0)}, {1.0, QColor(10, 20, 30, 40)}})
-            << Entries({{0, 0xff0a141e}, {100, 0xff0a141e}});
-        QTest::newRow("a hard edge")
-            << Ramp({{0.0, Qt::red}, {0.5, Qt::red}, {0.5, Qt::blue}, {1.0, Qt::blue}})
-            << Entries({{127, 0xffff0000}, {128, 0xff0000ff}});
-        QTest::newRow("stops closer than samples")
-            << Ramp({{0.0, Qt::red},
-                     {0.5, Qt::red},
-                     {0.5005, Qt::green},
-                     {0.501, Qt::blue},
-                     {1.0, Qt::blue}})
-            << Entries({{127, 0xffff0000}, {128, 0xff0000ff}, {129, 0xff0000ff}});
-        QTest::newRow("all in one place") << Ramp({{0.5, Qt::red}, {0.5, Qt::blue}})
-                                          << Entries({{0, 0xffff0000}, {255, 0xff0000ff}});
-        QTest::newRow("positions out of range") << Ramp({{-5.0, Qt::red}, {7.0, Qt::blue}})
-                                                << Entries({{0, 0xffff0000}, {255, 0xff0000ff}});
-    }
-
     void colorTable()
     {
-        QFETCH(Ramp, ramp);
-        using Entries = QVector<QPair<int, QRgb>>;
-        QFETCH(Entries, entries);
-        GradientTool editor;
-        editor.setRamp(ramp);
-        const auto table = editor.getColorTable();
-        for (const auto &entry : std::as_const(entries))
-            QCOMPARE(QColor(table.at(entry.first)).name(), QColor(entry.second).name());
+        const auto compare = [](const QString &stops, const QString &entries) {
+            Ramp ramp;
+            for (const QString &stop : stops.split(' ', Qt::SkipEmptyParts))
+                ramp << qMakePair(stop.section('=', 0, 0).toDouble(), QColor(stop.section('=', 1)));
+            GradientTool editor;
+            editor.setRamp(ramp);
+            const auto table = editor.getColorTable();
+            for (const QString &entry : entries.split(' ')) {
+                const QRgb color = table.at(entry.section('=', 0, 0).toInt());
+                QCOMPARE(QColor(color).name(), QColor(entry.section('=', 1)).name());
+            }
+        };
+        compare("", "0=white 51=#cccccc 255=black");
+        compare("1=black 0=white", "0=white 51=#cccccc 255=black"); // out of order
+        compare("0.2=red 0.8=blue", "0=red 51=red 204=blue 255=blue");
+        compare("0=#000a141e 1=#280a141e", "0=#0a141e 100=#0a141e");  // alpha is left out
+        compare("0=red 0.5=red 0.5=blue 1=blue", "127=red 128=blue"); // a hard edge
+        // Stops closer than samples, in one place, and out of range.
+        compare("0=red 0.5=red 0.5005=green 0.501=blue 1=blue", "127=red 128=blue 129=blue");
+        compare("0.5=red 0.5=blue", "0=red 255=blue");
+        compare("-5=red 7=blue", "0=red 255=blue");
     }
 
     void selectionAndAlpha()
@@ -243,13 +223,12 @@ private Q_SLOTS:
 
         // Left to right, and out at both ends.
         QString visited;
-        for (int i = 0; i < 4; ++i) {
-            press(Qt::Key_Tab);
-            visited += after.hasFocus() ? "-" : QString::number(editor.getActiveSlider());
-        }
-        for (int i = 0; i < 4; ++i) {
-            press(Qt::Key_Backtab);
-            visited += before.hasFocus() ? "-" : QString::number(editor.getActiveSlider());
+        for (Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+            for (int i = 0; i < 4; ++i) {
+                press(key);
+                const bool out = before.hasFocus() || after.hasFocus();
+                visited += out ? "-" : QString::number(editor.getActiveSlider());
+            }
         }
         QCOMPARE(visited, QString("120-021-"));
 
@@ -353,40 +332,24 @@ private Q_SLOTS:
         QCOMPARE(editor.getRamp().first().second, QColor(Qt::red));
     }
 
-    void pixels_data()
-    {
-        QTest::addColumn<int>("ratio");
-        QTest::newRow("1x") << 1;
-        QTest::newRow("2x") << 2;
-    }
-
     void pixels()
     {
-        QFETCH(int, ratio);
         Editor editor;
         editor.setRamp({{0.0, QColor(255, 0, 0, 0)}, {1.0, Qt::blue}});
         editor.setActiveSlider(0);
-        const QImage image = TestSupport::render(editor, ratio);
-        const auto at = [&](int x, int y) { return QPoint(x * ratio, y * ratio); };
-        const auto compare = [&](int x, int y, const QColor &color) {
-            COMPARE_PIXEL(image, at(x, y).x(), at(x, y).y(), color);
-        };
-        // Outline, squares of the board through the transparent end, and the opaque other end.
-        compare(5, 20, Qt::black);
-        compare(205, 20, Qt::black);
-        compare(100, 5, Qt::black);
-        compare(100, 39, Qt::black);
-        QVERIFY(image.pixelColor(at(7, 7)).red() < 216 && image.pixelColor(at(7, 7)).red() > 205);
-        QVERIFY(image.pixelColor(at(7, 17)).red() > 250);
-        QVERIFY(image.pixelColor(at(204, 20)).blue() > 250);
-        QVERIFY(image.pixelColor(at(204, 20)).red() < 5);
-        // The active marker has a head, the other one a line; both point at the ends of the bar.
-        compare(205, 43, Qt::black);
-        compare(204, 43, Qt::transparent);
-        compare(203, 50, Qt::blue);
-        compare(1, 50, Qt::black);
-        QVERIFY(image.pixelColor(at(8, 46)).alpha() > 0);
-        QCOMPARE(image.pixelColor(at(1, 42)).alpha(), 0);
+        // The outline; the active marker has a head, the other one a line, and both point at the
+        // ends of the bar.
+        const QImage image = TestSupport::render(editor);
+        TestSupport::compareProbes(image, "black 5,20 205,20 100,5 100,39 205,43 1,50; "
+                                          "none 204,43 1,42; blue 203,50");
+        TestSupport::compareProbes(TestSupport::render(editor, 2),
+                                   "black 10,40 410,40 200,10 200,78 410,86 2,100; "
+                                   "none 408,86 2,84; blue 406,100");
+        QVERIFY(image.pixelColor(8, 46).alpha() > 0);
+        // Squares of the board through the transparent end, and the opaque other end.
+        QVERIFY(image.pixelColor(7, 7).red() < 216 && image.pixelColor(7, 7).red() > 205);
+        QVERIFY(image.pixelColor(7, 17).red() > 250);
+        QVERIFY(image.pixelColor(204, 20).blue() > 250 && image.pixelColor(204, 20).red() < 5);
     }
 
     void resizingMovesTheMarkers()
