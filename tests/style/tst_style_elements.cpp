@@ -505,45 +505,36 @@ void TestStyleElements::menuSeparatorWithText()
 
 void TestStyleElements::menuItemText_data()
 {
-    QTest::addColumn<int>("state");
-    QTest::addColumn<bool>("isDefault");
-    QTest::addColumn<bool>("isMirrored");
-    QTest::addColumn<QString>("list"); // of a combo box
-    QTest::newRow("normal") << int(enabled) << false << false << "";
-    QTest::newRow("mirrored") << int(enabled) << false << true << "";
-    QTest::newRow("selected") << int(enabled | QStyle::State_Selected) << false << false << "";
-    QTest::newRow("disabled") << 0 << false << false << "";
-    QTest::newRow("disabled, mirrored") << 0 << false << true << "";
-    QTest::newRow("disabled, selected") << int(QStyle::State_Selected) << false << false << "";
-    QTest::newRow("of a combo box") << int(enabled) << false << false << "combobox";
-    QTest::newRow("of a popup") << int(enabled) << false << false << "property";
-    QTest::newRow("default") << int(enabled) << true << false << "";
+    QTest::addColumn<QString>("look");
+    for (const char *look : {"", "mirrored", "selected", "disabled", "disabled mirrored",
+                             "disabled selected", "combobox", "popup", "default"})
+        QTest::newRow(look) << look;
 }
 
 void TestStyleElements::menuItemText()
 {
-    QFETCH(int, state);
-    QFETCH(bool, isDefault);
-    QFETCH(bool, isMirrored);
-    QFETCH(QString, list);
+    QFETCH(QString, look);
+    const bool isSelected = look.contains("selected");
+    const bool isEnabled = !look.contains("disabled");
+    const bool isDefault = look == "default";
     QObject popupItem;
-    popupItem.setProperty("_q_isComboBoxPopupItem", list == "property");
-    auto option = makeOption<QStyleOptionMenuItem>(QRect(3, 2, 115, 28), QStyle::State(state));
+    popupItem.setProperty("_q_isComboBoxPopupItem", look == "popup");
+    auto option = makeOption<QStyleOptionMenuItem>(QRect(3, 2, 115, 28),
+                                                   isEnabled ? enabled : QStyle::State());
+    option.state.setFlag(QStyle::State_Selected, isSelected);
     if (isDefault)
         option.menuItemType = QStyleOptionMenuItem::DefaultItem;
-    option.direction = isMirrored ? Qt::RightToLeft : Qt::LeftToRight;
+    option.direction = look.contains("mirrored") ? Qt::RightToLeft : Qt::LeftToRight;
     option.styleObject = &popupItem;
     option.maxIconWidth = 22;
     QtVersion::setShortcutWidth(option, 24);
     option.font.setPixelSize(11);
     option.text = QStringLiteral("&Open\tF1\tF2");
 
-    const int column = list.isEmpty() ? 22 : 20;
+    const int column = look == "combobox" || look == "popup" ? 20 : 22;
     const QRect text(3 + column + 7, 2 + 8, 115 - (column + 7) - 24 - 14, 28 - 16);
     const QRect right(text.topRight(), QPoint(option.rect.right(), text.bottom()));
     const QRect shortcut = QStyle::visualRect(option.direction, option.rect, right);
-    const bool isSelected = state & QStyle::State_Selected;
-    const bool isEnabled = state & QStyle::State_Enabled;
     const int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic | Qt::TextDontClip
                       | Qt::TextSingleLine;
     const QImage expected = picture([&](QPainter &painter) {
@@ -565,7 +556,7 @@ void TestStyleElements::menuItemText()
     QCOMPARE(picture([&](QPainter &painter) {
                  painter.setLayoutDirection(option.direction);
                  m_style->drawControl(QStyle::CE_MenuItem, &option, &painter,
-                                      m_widgets.value(list));
+                                      m_widgets.value(look));
              }),
              expected);
 }
@@ -626,15 +617,14 @@ void TestStyleElements::sliderTickInterval()
     option.singleStep = 1;
     option.pageStep = 10;
     using Limits = std::numeric_limits<int>;
-    const int rows[][4] = {
-        // interval, minimum, maximum, number of marks
-        {25, 0, 100, 5},
-        {40, 0, 100, 3}, // the end is not reached
-        {3, 0, 11, 5},   // 0 3 6 9 11
-        {0, 0, 70, 71},  // single steps, three pixels wide
-        {0, 0, 80, 9},   // page steps, because single ones have two
-                       // Every pixel from one end of the travel to the other, and no more.
-        {1, Limits::min() / 2, Limits::max() / 2, 186}};
+    const int rows[][4] = {// interval, minimum, maximum, number of marks
+                           {25, 0, 100, 5},
+                           {40, 0, 100, 3}, // the end is not reached
+                           {3, 0, 11, 5},   // 0 3 6 9 11
+                           {0, 0, 70, 71},  // single steps, three pixels wide
+                           {0, 0, 80, 9},   // page steps, because single ones have two
+                           // Every pixel from one end of the travel to the other, and no more.
+                           {1, Limits::min() / 2, Limits::max() / 2, 186}};
     for (const auto &row : rows) {
         option.tickInterval = row[0];
         option.minimum = row[1];

@@ -71,17 +71,21 @@ QVector<QRect> extremeRects()
 }
 
 /// Everything of a painter that an element could leave changed.
-struct PainterState
+QVariantList stateOf(const QPainter &painter)
 {
-    explicit PainterState(const QPainter &painter)
-        : values{painter.pen(),        painter.brush(),
-                 painter.font(),       int(painter.renderHints()),
-                 painter.transform(),  painter.hasClipping(),
-                 painter.clipRegion(), painter.opacity()}
-    {}
+    return {painter.pen(),        painter.brush(),
+            painter.font(),       int(painter.renderHints()),
+            painter.transform(),  painter.hasClipping(),
+            painter.clipRegion(), painter.opacity()};
+}
 
-    QVariantList values;
-};
+// The others have at most four, or room for so many.
+template <typename Enum>
+constexpr bool hasEightValues =
+    std::is_same_v<
+        Enum,
+        QTabBar::
+            Shape> || std::is_same_v<Enum, Qt::ArrowType> || std::is_same_v<Enum, Qt::ToolButtonStyle> || std::is_same_v<Enum, QStyleOptionMenuItem::MenuItemType>;
 
 /// Options of every type with random fields, the same in the same order in every run. The last one
 /// made stays until the next.
@@ -159,21 +163,12 @@ private:
     template <typename Enum, typename = std::enable_if_t<std::is_enum_v<Enum>>>
     void pickOne(Enum &value)
     {
-        value = static_cast<Enum>(below(4)); // in the range of each of them
+        value = static_cast<Enum>(below(hasEightValues<Enum> ? 8 : 4));
     }
     template <typename Enum>
     void pickOne(QFlags<Enum> &value)
     {
         value = QFlags<Enum>(static_cast<int>(m_generator.generate() & 0x7fffffff));
-    }
-
-    // Enumerations with five to eight values.
-    void pickOne(QTabBar::Shape &value) { value = static_cast<QTabBar::Shape>(below(8)); }
-    void pickOne(Qt::ArrowType &value) { value = static_cast<Qt::ArrowType>(below(8)); }
-    void pickOne(Qt::ToolButtonStyle &value) { value = static_cast<Qt::ToolButtonStyle>(below(8)); }
-    void pickOne(QStyleOptionMenuItem::MenuItemType &value)
-    {
-        value = static_cast<QStyleOptionMenuItem::MenuItemType>(below(8));
     }
 
     template <typename Option>
@@ -251,13 +246,13 @@ QString TestStyleFuzz::fault(const QStyleOption *option, const Drawing &paint)
     painter.setBrush(Qt::Dense4Pattern);
     painter.setClipRect(0, 0, 55, 40);
     painter.translate(2, 1);
-    const PainterState state(painter);
+    const QVariantList state = stateOf(painter);
     QElapsedTimer timer;
     timer.start();
     paint(painter);
     if (timer.elapsed() > slowestCall)
         return QStringLiteral("takes %1 ms").arg(timer.elapsed());
-    if (PainterState(painter).values != state.values)
+    if (stateOf(painter) != state)
         return QStringLiteral("leaves the painter changed");
     if (paintsNothing && m_image != before)
         return QStringLiteral("paints something nowhere");
