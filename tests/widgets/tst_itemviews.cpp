@@ -6,12 +6,49 @@
 #include <nocturne/IListItem>
 #include <nocturne/ItemDelegate>
 #include <nocturne/ListWidget>
+#include <nocturne/TreeWidget>
 
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyledItemDelegate>
 
 namespace {
 
-const QColor background(25, 27, 32);
+constexpr QRgb background = 0xff191b20;
+
+/// Leaves nothing to be seen of \a view but its rows.
+void makeBare(QAbstractItemView &view)
+{
+    view.setFrameShape(QFrame::NoFrame);
+    view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    view.setFocusPolicy(Qt::NoFocus);
+    QCursor::setPos(2000, 1500); // and hovers over nothing
+}
+
+/// Which of the shadows at its ends \a view paints, when it is that far through its range.
+QString shadowsOf(QAbstractItemView &view, double scrolled)
+{
+    // A black bar of six units, blurred over thirty.
+    const QMap<int, QRgb> shadow = {
+        {0, 0xff0a0b0d}, {10, 0xff14161a}, {20, 0xff181a1f}, {30, background}};
+    view.verticalScrollBar()->setValue(int(view.verticalScrollBar()->maximum() * scrolled));
+    QString seen;
+    for (qreal ratio : {1.0, 1.5, 2.0}) {
+        const QImage image = TestSupport::render(view, ratio);
+        const auto isAt = [&](bool top, bool there) {
+            return std::all_of(shadow.keyBegin(), shadow.keyEnd(), [&](int y) {
+                const int row = qRound(y * ratio);
+                return image.pixel(image.width() / 2, top ? row : image.height() - 1 - row)
+                       == (there ? shadow[y] : background);
+            });
+        };
+        for (bool top : {true, false})
+            seen += isAt(top, true) ? (top ? "top " : "bottom ") : isAt(top, false) ? "" : "? ";
+    }
+    return seen;
+}
 
 class KeyedItem : public QListWidgetItem, public IListItem
 {
@@ -56,18 +93,196 @@ QPoint centerOf(const QListWidget &list, int row)
     return list.visualItemRect(list.item(row)).center();
 }
 
+/// Shows rows of the heights asked for, without anything painted in them, and counts them.
+class BareTree : public TreeWidget
+{
+public:
+    using TreeWidget::verticalOffset;
+
+    BareTree()
+    {
+        makeBare(*this);
+        setHeaderHidden(true);
+        setRootIsDecorated(false);
+        setSelectionMode(QAbstractItemView::NoSelection);
+    }
+
+    QTreeWidgetItem *addRow(int height, const QString &text = QString())
+    {
+        auto *item = new QTreeWidgetItem(this, {text});
+        item->setSizeHint(0, QSize(10, height));
+        return item;
+    }
+
+    mutable int drawnRows = 0;
+
+protected:
+    void drawRow(QPainter *painter, const QStyleOptionViewItem &option,
+                 const QModelIndex &index) const override
+    {
+        ++drawnRows;
+        TreeWidget::drawRow(painter, option, index);
+    }
+};
+
 } // namespace
 
-class TestListWidget : public QObject
+class TestItemViews : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase()
     {
-        m_theme = std::make_unique<DarkUX>();
-        QApplication::setStyle(m_theme->style());
-        QApplication::setPalette(m_theme->palette());
+        QApplication::setStyle(m_theme.style());
+        QApplication::setPalette(m_theme.palette());
+    }
+
+    void shadowsTellOfMore()
+    {
+        ListWidget list;
+        BareTree tree;
+        makeBare(list);
+        for (QAbstractItemView *view : QVector<QAbstractItemView *>{&list, &tree}) {
+            view->resize(200, 200);
+            view->show();
+            const auto add = [&](int rows) {
+                fill(list, rows, 20, QString());
+                for (int i = 0; i < rows; ++i)
+                    tree.addRow(20);
+            };
+            add(3);
+            QCOMPARE(shadowsOf(*view, 0), QString());
+            add(40);
+            const QString top = "top ";
+            const QString bottom = "bottom ";
+            QCOMPARE(shadowsOf(*view, 0), bottom.repeated(3));
+            QCOMPARE(shadowsOf(*view, 0.5), (top + bottom).repeated(3));
+            COMPARE_PIXEL(TestSupport::render(*view), 0, 0, 0xff101115);
+            QCOMPARE(shadowsOf(*view, 1), top.repeated(3));
+            list.clear();
+            tree.clear();
+        }
+        fill(list, 40, 20, QString());
+        list.shadow(false);
+        QCOMPARE(shadowsOf(list, 0.5), QString());
+    }
+
+    /// With a bar that counts rows, the offset in pixels passes the maximum within a few rows.
+    void shadowsFollowTheVerticalOffset()
+    {
+        for (bool uniform : {true, false}) {
+            BareTree tree;
+            tree.setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+            tree.setUniformRowHeights(uniform);
+            for (int i = 0; i < 120; ++i) {
+                QTreeWidgetItem *item = tree.addRow(uniform ? 10 : 8 + i % 5);
+                for (int child = 0; child < 4; ++child)
+                    (new QTreeWidgetItem(item))->setSizeHint(0, QSize(10, 12));
+            }
+            tree.resize(100, 120);
+            tree.show();
+            QVERIFY(followsOffset(tree));
+            tree.expandItem(tree.topLevelItem(1));
+            QVERIFY(followsOffset(tree));
+            for (int i = 0; i < 10; ++i)
+                tree.topLevelItem(i)->setSizeHint(0, QSize(10, 3));
+            QVERIFY(followsOffset(tree));
+            tree.topLevelItem(0)->setHidden(true);
+            delete tree.takeTopLevelItem(1);
+            QVERIFY(followsOffset(tree));
+            tree.clear();
+            QVERIFY(followsOffset(tree));
+        }
+    }
+
+    void treeLeavesNoTrace_data()
+    {
+        QTest::addColumn<QAbstractItemView::ScrollMode>("mode");
+        QTest::addColumn<bool>("bars");
+        for (auto mode : {QAbstractItemView::ScrollPerItem, QAbstractItemView::ScrollPerPixel}) {
+            for (bool bars : {false, true})
+                QTest::addRow("mode %d, bars %d", mode, bars) << mode << bars;
+        }
+    }
+
+    /// Scrolling copies what is on the screen; the shadows must not be copied along, and only the
+    /// rows at the edges are painted.
+    void treeLeavesNoTrace()
+    {
+        QFETCH(QAbstractItemView::ScrollMode, mode);
+        QFETCH(bool, bars);
+        for (auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            BareTree tree;
+            if (bars) {
+                tree.setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+                tree.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+                tree.setHeaderHidden(false);
+                tree.setFrameShape(QFrame::StyledPanel);
+            }
+            tree.setLayoutDirection(direction);
+            tree.setVerticalScrollMode(mode);
+            for (int i = 0; i < 200; ++i)
+                tree.addRow(16 + i % 7, QString("row %1 with a long text").arg(i));
+            tree.resize(90, 400);
+            tree.header()->setStretchLastSection(false); // not all of the width has a column
+            tree.setColumnWidth(0, bars ? 300 : 60);
+            QVERIFY(TestSupport::showExposed(&tree));
+            const auto settle = [&tree] {
+                for (int i = 0; i < 3; ++i) // lay out, then paint
+                    QCoreApplication::processEvents();
+                const int drawn = tree.drawnRows;
+                const bool fresh = TestSupport::onScreen(tree) == TestSupport::freshlyPainted(tree);
+                tree.drawnRows = 0;
+                return fresh ? drawn : 1000;
+            };
+            settle();
+            for (int value : {1, 2, 4, 3, 0, 9, 8, 7, 60, 61, 62, 100000, 150, 151, 1, 0}) {
+                const int step = qAbs(value - tree.verticalScrollBar()->value());
+                tree.verticalScrollBar()->setValue(value);
+                const int drawn = settle();
+                QVERIFY2(drawn < 1000, qPrintable(QString::number(value)));
+                QVERIFY(bars || step > 2 || drawn <= 8);
+            }
+            tree.verticalScrollBar()->setValue(5);
+            tree.verticalScrollBar()->setValue(3); // both before the next paint
+            QVERIFY(settle() < 1000);
+            tree.horizontalScrollBar()->setValue(7);
+            QVERIFY(settle() < 1000);
+            tree.verticalScrollBar()->setValue(100000);
+            settle();
+            tree.addRow(20);
+            QVERIFY(settle() < 1000);
+        }
+    }
+
+    /// Whatever a row costs, the shadows need only as many rows as the bar has steps in pixels.
+    void farRowsAreNotMeasured()
+    {
+        class CountingDelegate : public QStyledItemDelegate
+        {
+        public:
+            QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const override
+            {
+                ++count;
+                return QSize(10, 20);
+            }
+            mutable int count = 0;
+        };
+
+        QList<QTreeWidgetItem *> items;
+        for (int i = 0; i < 20000; ++i)
+            items << new QTreeWidgetItem;
+        BareTree tree;
+        CountingDelegate delegate;
+        tree.setItemDelegate(&delegate);
+        tree.addTopLevelItems(items);
+        tree.resize(100, 200);
+        QVERIFY(TestSupport::showExposed(&tree));
+        delegate.count = 0;
+        tree.verticalScrollBar()->setValue(15000);
+        QCoreApplication::processEvents();
+        QVERIFY2(delegate.count < 1200, qPrintable(QString::number(delegate.count)));
     }
 
     void findsItemsAndRows()
@@ -136,34 +351,7 @@ private Q_SLOTS:
         }
     }
 
-    void shadowsTellOfMore()
-    {
-        ListWidget list;
-        list.setFrameShape(QFrame::NoFrame);
-        list.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        list.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-        list.resize(200, 300);
-        list.show();
-        const auto shadows = [&list](double scrolled) {
-            list.verticalScrollBar()->setValue(int(list.verticalScrollBar()->maximum() * scrolled));
-            const QImage image = TestSupport::render(list);
-            const auto darkness = [&image](int y) {
-                return background.green() - image.pixelColor(100, y).green();
-            };
-            return QString(darkness(0) > 3 && darkness(0) >= darkness(10) ? "top " : "")
-                   + (darkness(150) ? "middle " : "") + (darkness(299) > 3 ? "bottom" : "");
-        };
-        fill(list, 3, 40, QString());
-        QCOMPARE(shadows(0), QString());
-        fill(list, 50, 40, QString());
-        QCOMPARE(shadows(0), QString("bottom"));
-        QCOMPARE(shadows(0.5), QString("top bottom"));
-        QCOMPARE(shadows(1), QString("top "));
-        list.shadow(false);
-        QCOMPARE(shadows(0.5), QString());
-    }
-
-    void scrollingLeavesNoTraces_data()
+    void listLeavesNoTrace_data()
     {
         QTest::addColumn<bool>("light");
         QTest::addColumn<QAbstractItemView::ScrollMode>("scrollMode");
@@ -183,7 +371,7 @@ private Q_SLOTS:
         row("high", QAbstractItemView::ScrollPerPixel, QListView::ListMode, 400);
     }
 
-    void scrollingLeavesNoTraces()
+    void listLeavesNoTrace()
     {
         QFETCH(bool, light);
         QFETCH(QAbstractItemView::ScrollMode, scrollMode);
@@ -221,13 +409,9 @@ private Q_SLOTS:
     void aPictureShowsTheItemsOfNow()
     {
         ListWidget list;
-        list.setFrameShape(QFrame::NoFrame);
-        list.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        list.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-        list.setFocusPolicy(Qt::NoFocus);
+        makeBare(list);
         list.resize(200, 200);
         list.show();
-        QCursor::setPos(list.mapToGlobal(QPoint(800, 100)));
         QImage last = TestSupport::onScreen(list);
         const auto compareAfter = [&](auto change) {
             change();
@@ -295,9 +479,26 @@ private Q_SLOTS:
     }
 
 private:
-    std::unique_ptr<DarkUX> m_theme;
+    static bool followsOffset(BareTree &tree)
+    {
+        QCoreApplication::processEvents();
+        const int maximum = tree.verticalScrollBar()->maximum();
+        for (int step = 0; step <= 2 * maximum; ++step) {
+            tree.verticalScrollBar()->setValue(step <= maximum ? step : 2 * maximum - step);
+            const int offset = tree.verticalOffset();
+            const QImage image = TestSupport::render(tree);
+            const bool top = image.pixel(50, 0) != background;
+            const bool bottom = image.pixel(50, 119) != background;
+            if (top != (offset > 0) || bottom != (offset < maximum)) {
+                qWarning("offset %d of %d: top %d, bottom %d", offset, maximum, top, bottom);
+                return false;
+            }
+        }
+        return true;
+    }
+
+    DarkUX m_theme;
 };
 
-NOCTURNE_TEST_MAIN(TestListWidget)
-
-#include "tst_listwidget.moc"
+NOCTURNE_TEST_MAIN(TestItemViews)
+#include "tst_itemviews.moc"
