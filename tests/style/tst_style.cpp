@@ -169,11 +169,10 @@ private Q_SLOTS:
     void numbersElsewhere();
     void windowFrameMask();
     void contentSizes();
-    void dockWidgetTitle();
+    void subElementRects();
     void standardPixmaps();
     void standardIcons();
     void polishing();
-    void palettes();
     void itemText();
 
 private:
@@ -286,7 +285,7 @@ void TestStyle::contentSizes()
              item.fontMetrics.height());
 }
 
-void TestStyle::dockWidgetTitle()
+void TestStyle::subElementRects()
 {
     const QRect rect(7, 9, 120, 30);
     QStyleOptionProgressBar bar;
@@ -294,6 +293,12 @@ void TestStyle::dockWidgetTitle()
     for (QStyle::SubElement element : {QStyle::SE_ProgressBarGroove, QStyle::SE_ProgressBarContents,
                                        QStyle::SE_ProgressBarLabel})
         QCOMPARE(m_style.subElementRect(element, &bar), rect);
+
+    QStyleOptionButton button;
+    button.rect = rect;
+    constexpr auto focus = QStyle::SE_PushButtonFocusRect;
+    QCOMPARE(m_style.subElementRect(focus, &button),
+             m_style.QCommonStyle::subElementRect(focus, &button).adjusted(0, 1, 0, -1));
 
     QStyleOptionDockWidget dock;
     dock.rect = rect;
@@ -390,16 +395,12 @@ void TestStyle::polishing()
 
     m_style.polish(static_cast<QWidget *>(nullptr));
     m_style.unpolish(static_cast<QWidget *>(nullptr));
-}
 
-void TestStyle::palettes()
-{
     // The style alone leaves the light palette; the dark one is the theme's.
     QVERIFY(m_style.standardPalette().color(QPalette::Window).lightness() > 200);
     QPalette palette(Qt::red);
-    const QPalette before = palette;
     m_style.polish(palette);
-    QCOMPARE(palette, before);
+    QCOMPARE(palette, QPalette(Qt::red));
 }
 
 void TestStyle::itemText()
