@@ -75,34 +75,29 @@ uint qHash(const ElidedKey &key, uint seed = 0)
     return qHash(key.line, seed) ^ uint(key.width) << 12 ^ uint(key.mode) << 28;
 }
 
-enum class Measure : quint8 { BoundingRect, Advance, Elided };
+enum class Measure : quint8 { BoundingRect, Advance };
 
 struct MeasureKey
 {
     QString text;
     QFontMetrics metrics;
     Measure measure;
-    Qt::TextElideMode mode = Qt::ElideNone;
-    int width = 0;
 };
 
 bool operator==(const MeasureKey &a, const MeasureKey &b)
 {
-    return a.measure == b.measure && a.mode == b.mode && a.width == b.width && a.text == b.text
-           && a.metrics == b.metrics;
+    return a.measure == b.measure && a.text == b.text && a.metrics == b.metrics;
 }
 
 uint qHash(const MeasureKey &key, uint seed = 0)
 {
-    return uint(::qHash(key.text, seed)) ^ uint(key.measure) << 24 ^ uint(key.mode) << 16
-           ^ uint(key.width);
+    return uint(::qHash(key.text, seed)) ^ uint(key.measure) << 24;
 }
 
 struct Measured
 {
     QRect rect;
     int advance = 0;
-    QString text;
 };
 
 QCache<LineKey, Line> &lines()
@@ -111,7 +106,7 @@ QCache<LineKey, Line> &lines()
     return cache;
 }
 
-QCache<ElidedKey, QString> &elidedLines()
+QCache<ElidedKey, QString> &elidedTexts()
 {
     static QCache<ElidedKey, QString> cache(keptMeasures);
     return cache;
@@ -126,7 +121,7 @@ QCache<MeasureKey, Measured> &measures()
 void forget()
 {
     lines().clear();
-    elidedLines().clear();
+    elidedTexts().clear();
     measures().clear();
 }
 
@@ -236,17 +231,6 @@ const Line *keptLine(const QFont &font, const QString &text, Qt::LayoutDirection
     return line->layout ? line : nullptr;
 }
 
-/// \a line without what exceeds \a width.
-QString elidedText(const LineKey &key, const Line &line, Qt::TextElideMode mode, int width)
-{
-    const ElidedKey elidedKey{key, mode, width};
-    if (const QString *known = elidedLines().object(elidedKey))
-        return *known;
-    const QString text = line.layout->engine()->elidedText(mode, width);
-    elidedLines().insert(elidedKey, new QString(text));
-    return text;
-}
-
 /// The same, and null for a painter that had better shape the text itself.
 const Line *keptLine(const QPainter &painter, const QString &text, Qt::LayoutDirection direction,
                      Mnemonic mnemonic)
@@ -301,6 +285,17 @@ void drawInside(QPainter *painter, const QRectF &rect, const Line &line, int fla
 bool fits(const Line &line, const QRectF &rect)
 {
     return qMax(line.width, line.advance) <= rect.width() && line.height <= rect.height();
+}
+
+template <typename Shorten>
+QString elidedText(const ElidedKey &key, Shorten shorten)
+{
+    if (const QString *known = elidedTexts().object(key))
+        return *known;
+    forgetWithFonts();
+    const QString text = shorten();
+    elidedTexts().insert(key, new QString(text));
+    return text;
 }
 
 template <typename Take>
@@ -375,8 +370,10 @@ void drawElidedLine(QPainter *painter, const QRect &rect, Qt::Alignment alignmen
         return;
     const int height = qCeil(line->height);
     if (qCeil(line->width) > rect.width()) {
-        const QString elided = elidedText({text, font, fontDpi(font), direction, Mnemonic::Literal},
-                                          *line, mode, rect.width());
+        const LineKey key{text, font, fontDpi(font), direction, Mnemonic::Literal};
+        const QString elided = elidedText({key, mode, rect.width()}, [&] {
+            return line->layout->engine()->elidedText(mode, rect.width());
+        });
         line = keptLine(font, elided, direction, Mnemonic::Literal);
     }
     if (!line)
@@ -400,11 +397,13 @@ int horizontalAdvance(const QFontMetrics &metrics, const QString &text)
         .advance;
 }
 
-QString elided(const QFontMetrics &metrics, const QString &text, Qt::TextElideMode mode, int width)
+QString elided(const QFont &font, const QString &text, Qt::TextElideMode mode, int width)
 {
-    return measured({text, metrics, Measure::Elided, mode, width},
-                    [&](Measured &result) { result.text = metrics.elidedText(text, mode, width); })
-        .text;
+    const auto shorten = [&] { return QFontMetrics(font).elidedText(text, mode, width); };
+    if (text.size() > longestKept || !isGuiThread())
+        return shorten();
+    const LineKey key{text, font, fontDpi(font), Qt::LayoutDirectionAuto, Mnemonic::Literal};
+    return elidedText({key, mode, width}, shorten);
 }
 
 } // namespace Nocturne::KeptText

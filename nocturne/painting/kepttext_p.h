@@ -46,8 +46,8 @@ QRect boundingRect(const QFontMetrics &metrics, const QString &text);
 /// QFontMetrics::horizontalAdvance(text).
 int horizontalAdvance(const QFontMetrics &metrics, const QString &text);
 
-/// QFontMetrics::elidedText(text, mode, width).
-QString elided(const QFontMetrics &metrics, const QString &text, Qt::TextElideMode mode, int width);
+/// QFontMetrics(font).elidedText(text, mode, width).
+QString elided(const QFont &font, const QString &text, Qt::TextElideMode mode, int width);
 
 } // namespace Nocturne::KeptText
 

@@ -69,8 +69,8 @@ void paintTitleBarText(const TitleBar &bar, QPainter *painter)
     const QRect rect = bar.part(QStyle::SC_TitleBarLabel);
     if (bar.option.text.isEmpty() || rect.isEmpty())
         return;
-    const QString text = KeptText::elided(painter->fontMetrics(), bar.option.text, Qt::ElideRight,
-                                          rect.width() - 14);
+    const QString text =
+        KeptText::elided(painter->font(), bar.option.text, Qt::ElideRight, rect.width() - 14);
     const QColor color = bar.color(QPalette::Text);
     painter->setPen(bar.isActive() ? color.lighter(120) : color);
     KeptText::draw(painter, rect.adjusted(1, 1, 1, 1), Qt::AlignHCenter | Qt::AlignVCenter, text);

@@ -178,8 +178,8 @@ void paintDockWidgetTitle(const PaintCall &call)
         call.style->subElementRect(QStyle::SE_DockWidgetTitleBarText, dockWidget, call.widget);
     if (dockWidget->verticalTitleBar)
         title = turnTitle(call, title);
-    const QString text = KeptText::elided(call.painter->fontMetrics(), dockWidget->title,
-                                          Qt::ElideRight, title.width());
+    const QString text =
+        KeptText::elided(call.painter->font(), dockWidget->title, Qt::ElideRight, title.width());
     call.drawText(title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text,
                   QPalette::WindowText);
 }
