@@ -58,11 +58,17 @@ bool useLanguage(const QString &name)
 
 int main(int argc, char *argv[])
 {
-    if (wantsScreenshots(argc, argv)) {
+    const bool isUnseen = wantsScreenshots(argc, argv);
+    if (isUnseen) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qputenv("QT_FONT_DPI", "96");
     }
     QApplication app(argc, argv);
+    if (isUnseen) {
+        QFont font = QApplication::font();
+        font.setPointSize(12); // without a display Qt 6 would begin with 9
+        QApplication::setFont(font);
+    }
     DarkUX theme;
     app.setStyle(theme.style());
     app.setPalette(theme.palette());

@@ -68,7 +68,7 @@ public:
     QVector<unsigned int> getColorTable() const;
 
     /// The number of stops; at least 2.
-    int getSliderNum() const { return m_stops.size(); }
+    int getSliderNum() const { return static_cast<int>(m_stops.size()); }
 
     /// The number of the active stop.
     int getActiveSlider() const { return m_activeIndex; }

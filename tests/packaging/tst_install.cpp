@@ -50,6 +50,7 @@ Outcome run(const QString &program, const QStringList &arguments,
     } while (false)
 
 const QString buildDirectory = NOCTURNE_BUILD_DIR;
+const QString package = QString("nocturne") + QtVersion::suffix;
 const QString consumerSources = NOCTURNE_SOURCE_DIR "/tests/packaging/consumer";
 
 QByteArray contentsOf(const QString &path)
@@ -113,9 +114,10 @@ private Q_SLOTS:
     {
         QVERIFY(m_prefix.isValid());
         VERIFY_RUNS("cmake", {"--install", buildDirectory, "--prefix", m_prefix.path()});
-        const QStringList libraries = filesBelow(m_prefix.path(), {"libnocturne.so.4"});
+        const QStringList libraries = filesBelow(m_prefix.path(), {"lib" + package + ".so.4"});
         QCOMPARE(libraries.size(), 1);
         m_library = libraries.first();
+        m_headers = m_prefix.path() + (QtVersion::isQt6 ? "/include/nocturne-qt6" : "/include");
     }
 
     void bundleComesAndGoesWithTheLibrary()
@@ -187,11 +189,11 @@ private Q_SLOTS:
 
     void publicHeadersOnly()
     {
-        const QStringList headers = filesBelow(m_prefix.path() + "/include", {"*"});
+        const QStringList headers = filesBelow(m_headers, {"*"});
         for (const QString &header : headers)
             QVERIFY2(!header.endsWith("_p.h"), qPrintable(header));
-        QVERIFY(headers.contains(m_prefix.path() + "/include/nocturne/DarkUX"));
-        QVERIFY(headers.contains(m_prefix.path() + "/include/nocturne/theme/darkux.h"));
+        QVERIFY(headers.contains(m_headers + "/nocturne/DarkUX"));
+        QVERIFY(headers.contains(m_headers + "/nocturne/theme/darkux.h"));
     }
 
     /// Each by itself, and for one compiler and one standard, they are compiled in the build.
@@ -199,7 +201,7 @@ private Q_SLOTS:
     {
         QFile host(m_prefix.filePath("headers.cpp"));
         QVERIFY(host.open(QIODevice::WriteOnly));
-        for (const QString &header : filesBelow(m_prefix.path() + "/include", {"*"}))
+        for (const QString &header : filesBelow(m_headers, {"*"}))
             host.write("#include \"" + header.toLocal8Bit() + "\"\n");
         host.close();
         const Outcome qt =
@@ -209,7 +211,7 @@ private Q_SLOTS:
             + QString("-fPIC -fsyntax-only -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror "
                       "-DQT_NO_KEYWORDS -std=c++20")
                   .split(' ')
-            + QStringList{"-I" + m_prefix.path() + "/include", host.fileName()};
+            + QStringList{"-I" + m_headers, host.fileName()};
         VERIFY_RUNS(configured("CMAKE_CXX_COMPILER"), flags);
         if (!QStandardPaths::findExecutable("clang++").isEmpty()) {
             VERIFY_RUNS("clang++", flags);
@@ -225,6 +227,7 @@ private Q_SLOTS:
                                        configured("CMAKE_GENERATOR"),
                                        "-S",
                                        consumerSources,
+                                       "-DNOCTURNE_PACKAGE=" + package,
                                        "-DCMAKE_PREFIX_PATH=" + m_prefix.path(),
                                        "-DCMAKE_CXX_FLAGS=" + sanitizerFlags().join(' '),
                                        "-B"};
@@ -241,22 +244,50 @@ private Q_SLOTS:
                                                "-DCMAKE_DISABLE_FIND_PACKAGE_PkgConfig=ON"});
     }
 
+    /// A project that has chosen the other Qt is told so in one line.
+    void theOtherQtIsRefused()
+    {
+        const QTemporaryDir build;
+        const QStringList configure = {"-G",
+                                       configured("CMAKE_GENERATOR"),
+                                       "-S",
+                                       consumerSources,
+                                       "-DCMAKE_PREFIX_PATH=" + m_prefix.path(),
+                                       QString("-DCONSUMER_QT=Qt%1").arg(QtVersion::otherMajor),
+                                       "-DNOCTURNE_PACKAGE=" + package,
+                                       "-B",
+                                       build.path()};
+        const Outcome outcome = run("cmake", configure);
+        if (outcome.output.contains(
+                QString("provided by \"Qt%1\"").arg(QtVersion::otherMajor).toUtf8()))
+            QSKIP("The other Qt is not installed");
+        QVERIFY(outcome.exitCode != 0);
+        const QString line =
+            QString("%1 is built for Qt %2, but this project uses Qt %3: ask for nocturne%4")
+                .arg(package)
+                .arg(QT_VERSION_MAJOR)
+                .arg(QtVersion::otherMajor)
+                .arg(QtVersion::isQt6 ? "" : "-qt6");
+        QVERIFY2(QString::fromUtf8(outcome.output.simplified()).contains(line),
+                 outcome.output.constData());
+    }
+
     void pkgConfigFindsIt()
     {
         QProcessEnvironment environment = withoutLeakCheck();
         const QString libraries = QFileInfo(m_library).path();
         environment.insert("PKG_CONFIG_PATH", libraries + "/pkgconfig");
         environment.insert("LD_LIBRARY_PATH", libraries);
-        const Outcome flags = run("pkg-config", {"--cflags", "--libs", "nocturne"}, environment);
+        const Outcome flags = run("pkg-config", {"--cflags", "--libs", package}, environment);
         QVERIFY2(flags.exitCode == 0, flags.output.constData());
 
         // With the archive, and without RtMidi, which this host does not use.
         const QString program = m_prefix.filePath("host");
-        VERIFY_RUNS(configured("CMAKE_CXX_COMPILER"),
-                    QStringList{"-std=c++17", "-fPIC", "-o", program,
-                                consumerSources + "/delegate.cpp", "-lnocturne-hostkit"}
-                        + QString::fromLocal8Bit(flags.output.simplified()).split(' ')
-                        + sanitizerFlags());
+        VERIFY_RUNS(
+            configured("CMAKE_CXX_COMPILER"),
+            QStringList{"-std=c++17", "-fPIC", "-o", program, consumerSources + "/delegate.cpp",
+                        QString("-lnocturne-hostkit") + QtVersion::suffix}
+                + QString::fromLocal8Bit(flags.output.simplified()).split(' ') + sanitizerFlags());
         VERIFY_RUNS(program, {}, environment);
         QVERIFY(QFile::remove(program));
     }
@@ -266,14 +297,17 @@ private Q_SLOTS:
     {
         const QTemporaryDir build;
         VERIFY_RUNS("cmake", {"-G", "Ninja", "-S", consumerSources, "-B", build.path(),
-                              "-DNOCTURNE_SOURCES=" NOCTURNE_SOURCE_DIR});
+                              "-DNOCTURNE_SOURCES=" NOCTURNE_SOURCE_DIR,
+                              QString("-DNOCTURNE_QT_MAJOR=%1").arg(QT_VERSION_MAJOR)});
         const Outcome targets = run("ninja", {"-C", build.path(), "-t", "targets", "all"});
         QStringList linked;
         for (const QStringList &target : findAll("([^/\\n]+): CXX_\\w+_LINKER", targets.output))
             linked << target.at(1).section(".so.", 0, 0);
         linked.sort();
-        QCOMPARE(linked, QStringList({"delegate", "hostkit", "libnocturne", "libnocturne-hostkit.a",
-                                      "main", "nocturne-bake"}));
+        QStringList expected = {"delegate", "hostkit", "lib" + package, "main", "nocturne-bake"};
+        expected << "libnocturne-hostkit" + QString(QtVersion::suffix) + ".a";
+        expected.sort();
+        QCOMPARE(linked, expected);
         QVERIFY(
             contentsOf(build.filePath("CMakeCache.txt")).contains("CMAKE_BUILD_TYPE:STRING=\n"));
     }
@@ -291,6 +325,7 @@ private Q_SLOTS:
 private:
     QTemporaryDir m_prefix;
     QString m_library;
+    QString m_headers;
 };
 
 NOCTURNE_TEST_MAIN(TestInstall)

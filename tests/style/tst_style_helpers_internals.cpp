@@ -333,7 +333,7 @@ void tst_StyleHelpers::dialTicks()
         option.minimum = row[0];
         option.maximum = row[1];
         option.tickInterval = row[2];
-        QCOMPARE(ComplexControls::dialTickLines(&option).size(), row[3]);
+        QCOMPARE(int(ComplexControls::dialTickLines(&option).size()), row[3]);
     }
 }
 

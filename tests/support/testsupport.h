@@ -1,6 +1,8 @@
 #ifndef NOCTURNE_TESTSUPPORT_H
 #define NOCTURNE_TESTSUPPORT_H
 
+#include "qtversion.h"
+
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
@@ -15,6 +17,7 @@
             qputenv("QT_QPA_PLATFORM", "offscreen"); \
         qputenv("QT_FONT_DPI", "96"); \
         QApplication app(argc, argv); \
+        QtVersion::setUpFont(); \
         TestClass test; \
         return QTest::qExec(&test, argc, argv); \
     }
