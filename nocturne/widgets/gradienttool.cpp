@@ -566,23 +566,38 @@ void GradientTool::keyPressEvent(QKeyEvent *event)
     }
 }
 
-bool GradientTool::focusNextPrevChild(bool next)
+/// Tab and Shift+Tab go from stop to stop. Only as keys: the toolkit also looks for the next focus
+/// when the editor is hidden or disabled, and that is elsewhere.
+bool GradientTool::event(QEvent *event)
 {
-    if (!hasFocus() || isDragging())
-        return QWidget::focusNextPrevChild(next);
-    const int stop = stopBeside(m_activeIndex, next);
-    if (stop < 0)
-        return QWidget::focusNextPrevChild(next);
-    setActiveSlider(stop);
-    return true;
+    if (event->type() == QEvent::FocusIn) {
+        // The toolkit is done with the event before anybody hears of another stop.
+        const bool result = QWidget::event(event);
+        takeFocus(static_cast<const QFocusEvent *>(event)->reason());
+        return result;
+    }
+    if (event->type() == QEvent::KeyPress && !isDragging()) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        const bool shift = key->modifiers() & Qt::ShiftModifier;
+        const bool back = key->key() == Qt::Key_Backtab || (key->key() == Qt::Key_Tab && shift);
+        const bool plain = !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+        if (plain && (back || key->key() == Qt::Key_Tab)) {
+            const int stop = stopBeside(m_activeIndex, !back);
+            if (stop >= 0) {
+                event->accept();
+                setActiveSlider(stop);
+                return true;
+            }
+        }
+    }
+    return QWidget::event(event);
 }
 
-void GradientTool::focusInEvent(QFocusEvent *event)
+void GradientTool::takeFocus(Qt::FocusReason reason)
 {
-    QWidget::focusInEvent(event);
     const QPointer<GradientTool> self(this);
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
-        activate(stopBeside(-1, event->reason() == Qt::TabFocusReason));
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
+        activate(stopBeside(-1, reason == Qt::TabFocusReason));
     // Later, since the toolkit itself names the editor as the focus after this event.
     if (self && QAccessible::isActive())
         QMetaObject::invokeMethod(this, &GradientTool::announceFocus, Qt::QueuedConnection);

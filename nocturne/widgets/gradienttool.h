@@ -147,8 +147,7 @@ protected:
     static bool colorRampSort(const QPair<double, GradientToolSlider *> &a,
                               const QPair<double, GradientToolSlider *> &b);
 
-    bool focusNextPrevChild(bool next) override;
-    void focusInEvent(QFocusEvent *event) override;
+    bool event(QEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
@@ -183,6 +182,7 @@ private:
     void removeActiveStop(bool complete);
     void abandonDrag();
     void activate(int index);
+    void takeFocus(Qt::FocusReason reason);
     int numberOf(const GradientToolSlider *marker) const;
     int stopBeside(int index, bool next) const;
     void placeStop(int index, double position);

@@ -3,6 +3,7 @@
 #include "handleaccessible_p.h"
 #include "rangeslider_p.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QHelpEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWheelEvent>
@@ -117,19 +118,22 @@ void RangeSlider::setValues(int min, int max, int main)
     const RangeSliderPrivate::Triple now = d->bounded(min, max, main);
     d->positions = d->values = now;
 
+    const QPointer<RangeSlider> self(this);
     if (isSliderDown() && now != oldPositions) {
         Q_EMIT positionsChanged(now[0], now[1], now[2]);
-        for (int handle = 0; handle < handleCount; ++handle) {
+        for (int handle = 0; self && handle < handleCount; ++handle) {
             if (now[handle] != oldPositions[handle])
                 emitChange(positionSignals[handle], now[handle]);
         }
     }
-    for (int handle = 0; handle < handleCount; ++handle) {
+    for (int handle = 0; self && handle < handleCount; ++handle) {
         if (now[handle] == oldValues[handle])
             continue;
         Nocturne::HandleAccessibility::valueChanged(this, handle, now[handle]);
         emitChange(valueSignals[handle], now[handle]);
     }
+    if (!self)
+        return;
 
     if (now != oldPositions || now != oldValues)
         updateHandles();
@@ -162,15 +166,17 @@ void RangeSlider::setPositions(int min, int max, int main)
     if (!hasTracking())
         updateHandles();
 
+    const QPointer<RangeSlider> self(this);
     if (isSliderDown()) {
-        for (int handle = 0; handle < handleCount; ++handle) {
+        for (int handle = 0; self && handle < handleCount; ++handle) {
             if (now[handle] != old[handle])
                 emitChange(positionSignals[handle], now[handle]);
         }
-        Q_EMIT positionsChanged(now[0], now[1], now[2]);
+        if (self)
+            Q_EMIT positionsChanged(now[0], now[1], now[2]);
     }
 
-    if (hasTracking()) {
+    if (self && hasTracking()) {
         triggerAction(SliderMove);
         setValues(d->positions[0], d->positions[1], d->positions[2]);
     }
@@ -310,9 +316,10 @@ void RangeSlider::mousePressEvent(QMouseEvent *event)
     QStyleOptionSlider option;
     initStyleOption(&option);
     const RangeSliderPrivate::Hit hit = d->hitTest(event->pos(), &option);
+    const QPointer<RangeSlider> self(this);
     Q_EMIT mousePressed(RangeSliderPrivate::code(hit.handle));
-    if (!isMousePressed())
-        return; // A receiver hid the slider or opened a popup, which ended the gesture.
+    if (!self || !isMousePressed())
+        return; // A receiver deleted or hid the slider or opened a popup.
 
     initStyleOption(&option); // A receiver may have changed the slider.
     if (hit.handle != RangeSliderPrivate::NoHandle && d->isHandleEnabled(hit.handle))
@@ -331,8 +338,11 @@ void RangeSlider::mouseMoveEvent(QMouseEvent *event)
     QStyleOptionSlider option;
     initStyleOption(&option);
     if (d->grabbed == RangeSliderPrivate::NoHandle) {
+        const QPointer<RangeSlider> self(this);
         d->reportHover(event->pos(), option);
-        event->ignore();
+        // An ignored event goes on to the parent, which would be asked of a slider that is gone.
+        if (self)
+            event->ignore();
     } else {
         d->dragTo(event->pos(), option);
         event->accept();
@@ -345,7 +355,10 @@ void RangeSlider::mouseReleaseEvent(QMouseEvent *event)
     // The base class held nothing and passes the release on, but the press was taken here.
     if (m_private->grabbed != RangeSliderPrivate::NoHandle)
         event->accept();
+    const QPointer<RangeSlider> self(this);
     m_private->endGesture();
+    if (!self)
+        event->accept();
 }
 
 void RangeSlider::keyPressEvent(QKeyEvent *)

@@ -5,6 +5,7 @@
 
 #include <nocturne/painting/themepaint_p.h>
 
+#include <QtCore/QPointer>
 #include <QtGui/QHelpEvent>
 #include <QtWidgets/QStyleOptionSlider>
 #include <QtWidgets/QStylePainter>
@@ -123,8 +124,11 @@ void RangeSliderPrivate::jumpTo(const QPoint &point, QStyleOptionSlider *option)
 {
     const Nocturne::GrooveMapping mapping(q_ptr->style(), *option, q_ptr->orientation(), nullptr);
     const Triple before = values;
+    const QPointer<RangeSlider> slider(q_ptr);
     q_ptr->setValues(positions[MinimumHandle], positions[MaximumHandle],
                      mapping.valueAtMiddle(along(point)));
+    if (!slider)
+        return;
     gestureChangedValue = values != before;
     if (!gesture.isRunning())
         return;
@@ -159,9 +163,10 @@ void RangeSliderPrivate::dragTo(const QPoint &point, const QStyleOptionSlider &o
                 q_ptr->maximum()));
         }
     }
+    const QPointer<RangeSlider> slider(q_ptr);
     q_ptr->setPositions(moved[MinimumHandle], moved[MaximumHandle], moved[MainHandle]);
 
-    if (values != before)
+    if (slider && values != before)
         gestureChangedValue = true;
 }
 
@@ -187,7 +192,10 @@ void RangeSliderPrivate::updateHandles(QStyleOptionSlider *option)
 void RangeSliderPrivate::endGesture()
 {
     gesture.end();
+    const QPointer<RangeSlider> slider(q_ptr);
     Q_EMIT q_ptr->mouseReleased(code(grabbed));
+    if (!slider)
+        return;
     q_ptr->setSliderDown(false);
     grabbed = NoHandle;
     q_ptr->update();
@@ -220,7 +228,9 @@ bool RangeSliderPrivate::showHandleToolTip(const QHelpEvent *event,
         return false;
     for (Handle handle : {MinimumHandle, MaximumHandle}) {
         if (isOn(handle, event->pos(), option)) {
-            QToolTip::showText(event->globalPos(), handleToolTip.arg(values[handle]));
+            QToolTip::showText(event->globalPos(),
+                               QString(handleToolTip)
+                                   .replace(QLatin1String("%1"), QString::number(values[handle])));
             return true;
         }
     }

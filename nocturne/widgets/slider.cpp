@@ -3,6 +3,7 @@
 #include "gestureend_p.h"
 #include "groovemapping_p.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QMouseEvent>
 
 Slider::Slider(QWidget *parent)
@@ -104,8 +105,11 @@ bool Slider::event(QEvent *event)
 void Slider::mousePressEvent(QMouseEvent *event)
 {
     const bool wasPressed = isMousePressed();
-    // A receiver that hides or disables the slider or opens a popup ends the gesture.
-    const auto gestureEnded = [this, wasPressed] { return wasPressed && !isMousePressed(); };
+    const QPointer<Slider> self(this);
+    // A receiver that hides, disables or deletes the slider or opens a popup ends the gesture.
+    const auto gestureEnded = [self, wasPressed] {
+        return !self || (wasPressed && !self->isMousePressed());
+    };
     Q_EMIT mousePressed();
     if (gestureEnded())
         return;
@@ -115,7 +119,7 @@ void Slider::mousePressEvent(QMouseEvent *event)
     if (gestureEnded())
         return;
     QSlider::mousePressEvent(event);
-    if (gestureEnded())
+    if (self && gestureEnded())
         letGo();
 }
 

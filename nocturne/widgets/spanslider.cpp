@@ -6,6 +6,7 @@
 #include "handlemove_p.h"
 #include <nocturne/painting/paintsample_p.h>
 
+#include <QtCore/QPointer>
 #include <QtCore/QDebug>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
@@ -82,16 +83,21 @@ void SpanSlider::setUpperValue(int upper)
 void SpanSlider::setSpan(int lower, int upper)
 {
     const int low = qBound(minimum(), qMin(lower, upper), maximum());
-    const int upp = qBound(minimum(), qMax(lower, upper), maximum());
+    int upp = qBound(minimum(), qMax(lower, upper), maximum());
     if (low == m_lower && upp == m_upper)
         return;
     const QPair<int, int> before(m_lower, m_upper);
+    const QPointer<SpanSlider> self(this);
 
     if (low != m_lower) {
         m_lower = low;
         m_lowerPosition = low;
         Nocturne::HandleAccessibility::valueChanged(this, 0, low);
         Q_EMIT lowerValueChanged(low);
+        // What a receiver has set meanwhile is newer.
+        if (!self || m_lower != low || m_upper != before.second)
+            return;
+        upp = qBound(minimum(), upp, maximum());
     }
     if (upp != m_upper) {
         m_upper = upp;
@@ -99,7 +105,10 @@ void SpanSlider::setSpan(int lower, int upper)
         Nocturne::HandleAccessibility::valueChanged(this, 1, upp);
         Q_EMIT upperValueChanged(upp);
     }
-    Q_EMIT spanChanged(m_lower, m_upper);
+    if (self)
+        Q_EMIT spanChanged(m_lower, m_upper);
+    if (!self)
+        return;
     if (low != before.first)
         updateHandle(LowerHandle);
     if (upp != before.second)
@@ -113,9 +122,10 @@ void SpanSlider::setLowerPosition(int lower)
     m_lowerPosition = lower;
     if (!hasTracking())
         updateHandle(LowerHandle);
+    const QPointer<SpanSlider> self(this);
     if (isSliderDown())
         Q_EMIT lowerPositionChanged(lower);
-    if (hasTracking() && !m_blockTracking)
+    if (self && hasTracking() && !m_blockTracking)
         triggerAction(SliderMove, m_mainControl == LowerHandle);
 }
 
@@ -126,9 +136,10 @@ void SpanSlider::setUpperPosition(int upper)
     m_upperPosition = upper;
     if (!hasTracking())
         updateHandle(UpperHandle);
+    const QPointer<SpanSlider> self(this);
     if (isSliderDown())
         Q_EMIT upperPositionChanged(upper);
-    if (hasTracking() && !m_blockTracking)
+    if (self && hasTracking() && !m_blockTracking)
         triggerAction(SliderMove, m_mainControl == UpperHandle);
 }
 

@@ -233,6 +233,11 @@ private Q_SLOTS:
         QCOMPARE(visited, QString("120-021-"));
 
         press(Qt::Key_Tab);
+        editor.setEnabled(false);
+        QVERIFY(after.hasFocus());
+        editor.setEnabled(true);
+        before.setFocus();
+        press(Qt::Key_Tab);
         editor.takeLog();
         press(Qt::Key_Left);
         QCOMPARE(editor.takeLog(), QString());
