@@ -577,12 +577,12 @@ void TestStyleElements::rememberedScrollBar()
 
     const auto isRemembered = [&] {
         paint(QStyle::CC_ScrollBar, option);
-        return object.property("_q_stylepos").toInt() == option.sliderPosition
-               && object.property("_q_stylemin").toInt() == option.minimum
-               && object.property("_q_stylemax").toInt() == option.maximum
-               && object.property("_q_stylerect").toRect() == option.rect
-               && object.property("_q_stylestate").toInt() == int(option.state)
-               && object.property("_q_stylecontrols").toUInt() == uint(option.activeSubControls);
+        QVariantList kept;
+        for (const char *name : {"pos", "min", "max", "rect", "state", "controls"})
+            kept << object.property(QByteArray("_q_style") + name);
+        return kept == QVariantList{option.sliderPosition, option.minimum,
+                                    option.maximum,        option.rect,
+                                    int(option.state),     uint(option.activeSubControls)};
     };
     for (const auto active : {QStyle::SC_ScrollBarSlider, QStyle::SC_None}) {
         option.activeSubControls = active;
@@ -618,15 +618,12 @@ void TestStyleElements::sliderTickInterval()
     option.singleStep = 1;
     option.pageStep = 10;
     using Limits = std::numeric_limits<int>;
-    const int rows[][4] = {
-        // interval, minimum, maximum, number of marks
-        {25, 0, 100, 5},
-        {40, 0, 100, 3}, // the end is not reached
-        {3, 0, 11, 5},   // 0 3 6 9 11
-        {0, 0, 70, 71},  // single steps, three pixels wide
-        {0, 0, 80, 9},   // page steps, because single ones have two
-                       // Every pixel from one end of the travel to the other, and no more.
-        {1, Limits::min() / 2, Limits::max() / 2, 186}};
+    // Interval, minimum, maximum, number of marks. An end that is not reached has none, or one of
+    // its own; without an interval single steps are marked, or page steps where those have two
+    // pixels. The last one marks every pixel from one end of the travel to the other, and no more.
+    const int rows[][4] = {{25, 0, 100, 5}, {40, 0, 100, 3},
+                           {3, 0, 11, 5},   {0, 0, 70, 71},
+                           {0, 0, 80, 9},   {1, Limits::min() / 2, Limits::max() / 2, 186}};
     for (const auto &row : rows) {
         option.tickInterval = row[0];
         option.minimum = row[1];
