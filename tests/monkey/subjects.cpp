@@ -149,9 +149,8 @@ Subject checked(const char *name, Promise promise, Check isKept, Calls... calls)
                 static_cast<Widget *>(widget), dice);
     };
     const auto check = [promise, isKept](QWidget *widget) {
-        return isKept(static_cast<Widget *>(widget))
-                   ? QString()
-                   : QStringLiteral("broken promise: ") + QLatin1String(promise);
+        return isKept(static_cast<Widget *>(widget)) ? QString()
+                                                     : QString("broken promise: ") + promise;
     };
     return {name, create, call, check};
 }
@@ -450,12 +449,12 @@ QString Dice::text()
 {
     const QString texts[] = {
         QString(),
-        QString(500, QLatin1Char('W')),
-        QStringLiteral("&Mnemonic\tCtrl+M"),
-        QStringLiteral("two\nlines <b>bold</b> %v %p %byte %connect"),
+        QString(500, 'W'),
+        "&Mnemonic\tCtrl+M",
+        "two\nlines <b>bold</b> %v %p %byte %connect",
         QString::fromUtf8("\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d \xf0\x9f\x8e\xac e\xcc\x81"),
-        QString(QChar(0xd800)) + QChar(0) + QLatin1Char('x'),
-        QStringLiteral("Clip %1").arg(roll(100))};
+        QString(QChar(0xd800)) + QChar(0) + 'x',
+        QString("Clip %1").arg(roll(100))};
     return texts[qMin(roll(8), 6)];
 }
 

@@ -68,11 +68,10 @@ void fail(const QString &what)
 
 void onMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
-    const bool expected =
-        std::any_of(std::begin(expectedWarnings), std::end(expectedWarnings),
-                    [&](const char *known) { return text.startsWith(QLatin1String(known)); });
+    const bool expected = std::any_of(std::begin(expectedWarnings), std::end(expectedWarnings),
+                                      [&](const char *known) { return text.startsWith(known); });
     if (type != QtDebugMsg && !expected)
-        fail(QStringLiteral("warning: ") + text);
+        fail("warning: " + text);
 }
 
 /// Hears every signal of the subject and may do something violent in the middle of one.
@@ -143,9 +142,9 @@ Monkey::Monkey(const Subject &subject, quint32 firstStep)
     if (firstStep % 4 == 1 || firstStep % 4 == 2)
         delete style;
     if (firstStep % 4 == 1)
-        style = QStyleFactory::create(QStringLiteral("Fusion"));
+        style = QStyleFactory::create("Fusion");
     else if (firstStep % 4 == 2)
-        style = new DarkProxyStyle(QStringLiteral("Fusion"));
+        style = new DarkProxyStyle("Fusion");
     else if (firstStep % 4 == 3)
         m_window->setStyleSheet(QStringLiteral(
             "QWidget { color: #ddd; } QSlider::handle { width: 9px; } QListView::item { margin: "
@@ -175,7 +174,7 @@ Monkey::~Monkey()
     QBalloonTip::hideBalloon();
     delete m_widget;
     m_window.reset();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
 }
 
 void Monkey::makeSubject()
@@ -289,14 +288,13 @@ void Monkey::drop(Dice &dice)
     const QPointer<QWidget> widget = target(dice);
     QMimeData data;
     if (dice.coin())
-        data.setUrls({QUrl(dice.text()), QUrl::fromLocalFile(QStringLiteral("/a/b.mov")), QUrl()});
+        data.setUrls({QUrl(dice.text()), QUrl::fromLocalFile("/a/b.mov"), QUrl()});
     if (dice.coin())
         data.setColorData(dice.coin() ? QVariant(QColor(1, 2, 3)) : QVariant(dice.text()));
     if (dice.coin())
         data.setText(dice.text());
     if (dice.coin())
-        data.setData(QStringLiteral("application/x-qabstractitemmodeldatalist"),
-                     dice.text().toUtf8());
+        data.setData("application/x-qabstractitemmodeldatalist", dice.text().toUtf8());
     const QPoint place = pointOn(widget, dice);
     QDragEnterEvent enter(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
     send(widget, &enter);
@@ -416,8 +414,7 @@ void Monkey::changeWorld(Dice &dice)
         m_theme = std::make_unique<DarkUX>();
         const std::unique_ptr<DarkFusionStyle> unusedStyle(m_theme->style());
     } else if (what == 5) {
-        m_window->setStyleSheet(dice.coin() ? QString()
-                                            : QStringLiteral("* { padding: 3px; color: red; }"));
+        m_window->setStyleSheet(dice.coin() ? QString() : "* { padding: 3px; color: red; }");
     } else if (what == 6) {
         QBalloonTip::showBalloon(
             static_cast<QSystemTrayIcon::MessageIcon>(dice.roll(4)), dice.text(), dice.text(),
@@ -513,11 +510,11 @@ void Monkey::rest()
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     if (QWidget::mouseGrabber())
-        fail(QStringLiteral("the mouse stays grabbed"));
+        fail("the mouse stays grabbed");
     if (QApplication::overrideCursor())
-        fail(QStringLiteral("an override cursor stays"));
+        fail("an override cursor stays");
     if (QApplication::activePopupWidget())
-        fail(QStringLiteral("a popup stays"));
+        fail("a popup stays");
 }
 
 /// Runs \a script in this process; an empty text when it passes.
@@ -529,7 +526,7 @@ QString run(const Subject &subject, const Script &script)
         for (quint32 step : script) {
             monkey.step(step);
             if (!failure.isEmpty())
-                return failure + QStringLiteral(" (at step %1)").arg(step);
+                return failure + QString(" (at step %1)").arg(step);
         }
         monkey.rest();
     }
@@ -541,28 +538,27 @@ QString replayText(const Script &script)
     QStringList steps;
     for (quint32 step : script)
         steps << QString::number(step);
-    return steps.join(QLatin1Char(','));
+    return steps.join(',');
 }
 
 /// Runs \a script in a process of its own, which may crash or hang. What went wrong, or nothing.
 QString runApart(const char *name, const Script &script, quint64 *events = nullptr)
 {
     QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("script"));
+    const QString path = folder.filePath("script");
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        return QStringLiteral("cannot write ") + path;
+        return "cannot write " + path;
     file.write(replayText(script).toLatin1());
     file.close();
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("--class"), QLatin1String(name), QStringLiteral("--replay"),
-                   QLatin1Char('@') + path});
+                  {"--class", name, "--replay", '@' + path});
     if (!process.waitForFinished(120000)) {
         process.kill();
         process.waitForFinished();
-        return QStringLiteral("hangs");
+        return "hangs";
     }
     const QByteArray output = process.readAll();
     if (events)
@@ -570,14 +566,14 @@ QString runApart(const char *name, const Script &script, quint64 *events = nullp
     if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
         return QString();
     if (process.exitStatus() == QProcess::CrashExit && output.size() < 300)
-        return QStringLiteral("crashes");
+        return "crashes";
     return QString::fromLocal8Bit(output.right(6000));
 }
 
 /// What went wrong without the numbers in it, to tell whether two failures are alike.
 QString kindOf(QString wrong)
 {
-    return wrong.remove(QRegularExpression(QStringLiteral("[0-9]+")));
+    return wrong.remove(QRegularExpression("[0-9]+"));
 }
 
 /// Leaves out ever smaller parts of \a script while it goes on failing.
@@ -602,12 +598,12 @@ Script shortened(const char *name, Script script, const QString &wrong)
 
 Script parsed(QString text)
 {
-    if (text.startsWith(QLatin1Char('@'))) {
+    if (text.startsWith('@')) {
         QFile file(text.mid(1));
         text = file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
     }
     Script script;
-    for (const QString &step : text.split(QLatin1Char(',')))
+    for (const QString &step : text.split(','))
         script.push_back(step.trimmed().toUInt());
     return script;
 }
@@ -625,22 +621,21 @@ int main(int argc, char *argv[])
     QCommandLineParser parser;
     parser.addHelpOption();
     const auto option = [&parser](const char *name, const char *what, const char *standard) {
-        parser.addOption({QLatin1String(name), QLatin1String(what), QLatin1String("value"),
-                          QLatin1String(standard)});
+        parser.addOption({name, what, "value", standard});
     };
     option("seed", "The first random number.", "1");
     option("steps", "Steps for each class.", "600");
     option("class", "One class only.", "");
     option("replay", "The steps of a script, or @ and a file with them.", "");
     parser.process(app);
-    const QString only = parser.value(QStringLiteral("class"));
-    const QString replay = parser.value(QStringLiteral("replay"));
-    const quint32 seed = parser.value(QStringLiteral("seed")).toUInt();
-    const int steps = parser.value(QStringLiteral("steps")).toInt();
+    const QString only = parser.value("class");
+    const QString replay = parser.value("replay");
+    const quint32 seed = parser.value("seed").toUInt();
+    const int steps = parser.value("steps").toInt();
 
     int failures = 0;
     for (const Subject &subject : subjects()) {
-        if (!only.isEmpty() && only != QLatin1String(subject.name))
+        if (!only.isEmpty() && only != subject.name)
             continue;
         if (!replay.isEmpty()) {
             qInstallMessageHandler(onMessage);

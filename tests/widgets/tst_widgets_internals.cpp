@@ -115,8 +115,8 @@ private Q_SLOTS:
     {
         RoundProgressBar ring;
         ring.setRange(0, 4096);
-        ring.setFormat(QStringLiteral("%byte"));
-        ring.setTitle(QStringLiteral("Stream"), QFont(), QFont(), 1.0, true);
+        ring.setFormat("%byte");
+        ring.setTitle("Stream", QFont(), QFont(), 1.0, true);
         ring.show();
         ring.setValue(2048);
         ring.setValue(2048);
@@ -125,14 +125,14 @@ private Q_SLOTS:
         QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&ring);
         QVERIFY(interface);
         QCOMPARE(interface->role(), QAccessible::ProgressBar);
-        QCOMPARE(interface->text(QAccessible::Value), QStringLiteral("2.0 KB/s"));
+        QCOMPARE(interface->text(QAccessible::Value), "2.0 KB/s");
         QAccessibleValueInterface *value = interface->valueInterface();
         QCOMPARE(rangeOf(value), QString("2048 of 0 to 4096"));
         value->setCurrentValue(1);
         QCOMPARE(ring.value(), 2048.0);
 
-        ring.setAccessibleName(QStringLiteral("Upload"));
-        QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Upload"));
+        ring.setAccessibleName("Upload");
+        QCOMPARE(interface->text(QAccessible::Name), "Upload");
         ring.setFormat(QString());
         QCOMPARE(interface->text(QAccessible::Value), QString());
     }
