@@ -26,6 +26,13 @@ bool wantsScreenshots(int argc, char *argv[])
     });
 }
 
+/// The platform without a display says for each window what it cannot do with it.
+void dropPlatformNotes(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (!message.startsWith(QLatin1String("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
+}
+
 /// The ratio of an application is fixed once it runs, so another process renders the second set.
 bool renderAgainAtRatio2()
 {
@@ -62,6 +69,7 @@ int main(int argc, char *argv[])
     if (isUnseen) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qputenv("QT_FONT_DPI", "96");
+        qInstallMessageHandler(dropPlatformNotes);
     }
     QApplication app(argc, argv);
     if (isUnseen) {
