@@ -1,7 +1,9 @@
-// Repaints every standard control under DarkFusionStyle and under the toolkit's built-in Fusion
-// style, both with the theme's palette: as it stands, and with a change before each paint.
+// Repaints every standard control, and views and windows full of them, under DarkFusionStyle and
+// under the toolkit's built-in Fusion style, both with the theme's palette: as it stands, and with
+// a change before each paint. Then measures the columns of large tables under both.
 //
-// With arguments, only the controls whose names contain one of them are measured.
+// With arguments, only the rows whose names contain one of them are measured. NOCTURNE_PEER names
+// another style to compare with, by its key.
 
 #include "benchmark.h"
 
@@ -14,6 +16,7 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDial>
 #include <QtWidgets/QDockWidget>
+#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
@@ -486,6 +489,140 @@ std::vector<Control> controls()
     };
 }
 
+/// A session's clips: what a live tool fills its views with.
+QStandardItemModel *clips(int rows, int columns, QObject *parent)
+{
+    auto *result = new QStandardItemModel(rows, columns, parent);
+    const QIcon picture = icon();
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) {
+            auto *item = new QStandardItem(QStringLiteral("Clip %1.%2").arg(row).arg(column));
+            if (column == 0)
+                item->setIcon(picture);
+            item->setCheckable(column == 1);
+            result->setItem(row, column, item);
+        }
+    }
+    return result;
+}
+
+template <typename View>
+Specimen largeView(const QSize &size, int rows, int columns)
+{
+    auto view = std::make_unique<View>();
+    view->setModel(clips(rows, columns, view.get()));
+    view->resize(size);
+    return alone<View>(std::move(view), [](View *changed, int step) {
+        changed->setCurrentIndex(changed->model()->index(step % 12, 0));
+    });
+}
+
+Specimen largeTable()
+{
+    Specimen result = largeView<QTableView>(QSize(700, 500), 200, 6);
+    static_cast<QTableView *>(result.control)->setAlternatingRowColors(true);
+    return result;
+}
+
+Specimen largeTree()
+{
+    auto tree = std::make_unique<QTreeView>();
+    QStandardItemModel *model = clips(20, 2, tree.get());
+    for (int row = 0; row < 20; ++row) {
+        for (int child = 0; child < 4; ++child)
+            model->item(row)->appendRow(new QStandardItem(QStringLiteral("Take %1").arg(child)));
+    }
+    tree->setModel(model);
+    tree->expandAll();
+    tree->resize(400, 500);
+    return alone<QTreeView>(std::move(tree), [](QTreeView *changed, int step) {
+        changed->setCurrentIndex(changed->model()->index(step % 4, 0));
+    });
+}
+
+Specimen iconList()
+{
+    Specimen result = largeView<QListView>(QSize(500, 400), 60, 1);
+    static_cast<QListView *>(result.control)->setViewMode(QListView::IconMode);
+    return result;
+}
+
+Specimen longMenu()
+{
+    auto result = std::make_unique<QMenu>();
+    for (int i = 0; i < 16; ++i) {
+        QAction *action = result->addAction(QStringLiteral("Command %1").arg(i));
+        action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_A + i)));
+        action->setCheckable(i % 3 == 0);
+        if (i % 4 == 0)
+            action->setIcon(icon());
+    }
+    return alone<QMenu>(std::move(result), [](QMenu *changed, int step) {
+        changed->setActiveAction(changed->actions().at(step % 16));
+    });
+}
+
+/// One of the eight controls that panels are made of.
+QWidget *panelControl(int number)
+{
+    const QString text = QStringLiteral("Track %1").arg(number);
+    switch (number % 8) {
+    case 0:
+        return new QPushButton(text);
+    case 1:
+        return new QCheckBox(text);
+    case 2:
+        return new QLabel(text);
+    case 3:
+        return new QSpinBox;
+    case 4:
+        return new QSlider(Qt::Horizontal);
+    case 5: {
+        auto *box = new QComboBox;
+        box->addItem(text);
+        return box;
+    }
+    case 6:
+        return new QLineEdit(text);
+    default: {
+        auto *bar = new QProgressBar;
+        bar->setValue(number % 100);
+        return bar;
+    }
+    }
+}
+
+std::function<Specimen()> panel(int controls, int columns, const QSize &size)
+{
+    return [controls, columns, size] {
+        auto window = std::make_unique<QMainWindow>();
+        auto *grid = new QGridLayout;
+        for (int i = 0; i < controls; ++i)
+            grid->addWidget(panelControl(i), i / columns, i % columns);
+        auto *centre = new QWidget;
+        centre->setLayout(grid);
+        window->setCentralWidget(centre);
+        window->resize(size);
+        auto *bar = window->findChild<QProgressBar *>();
+        return alone<QMainWindow>(std::move(window), [bar](QMainWindow *, int step) {
+            if (bar)
+                bar->setValue(step % 100);
+        });
+    };
+}
+
+std::vector<Control> scenes()
+{
+    return {
+        {"table, 700 x 500, 6 columns", largeTable},
+        {"tree, 400 x 500", largeTree},
+        {"icon list, 500 x 400", iconList},
+        {"menu of 16 items", longMenu},
+        {"panel of 48 controls", panel(48, 8, QSize(1280, 420))},
+        {"window of 1000 controls", panel(1000, 40, QSize(4000, 900))},
+    };
+}
+
 /// A new specimen in \a style, as large as that of the other style.
 Specimen specimen(const Control &control, QStyle *style)
 {
@@ -535,13 +672,59 @@ private:
     int m_step = 0;
 };
 
-bool isWanted(const Control &control)
+bool isWanted(const QString &name)
 {
     const QStringList wanted = QCoreApplication::arguments().mid(1);
-    const QString name = QLatin1String(control.name);
     return wanted.isEmpty()
            || std::any_of(wanted.cbegin(), wanted.cend(),
                           [&name](const QString &part) { return name.contains(part); });
+}
+
+/// Repaints each control in both styles.
+void compareRepaints(const std::vector<Control> &controls, QStyle *ourStyle, QStyle *peerStyle,
+                     int calls, const char *peerName)
+{
+    Benchmark still;
+    Benchmark changing;
+    for (const Control &control : controls) {
+        const QString name = QLatin1String(control.name);
+        if (!isWanted(name))
+            continue;
+        Specimen ours = specimen(control, ourStyle);
+        Specimen peer = specimen(control, peerStyle);
+        const QSize size = naturalSize(ours).expandedTo(naturalSize(peer));
+        show(ours, size);
+        show(peer, size);
+        QCoreApplication::processEvents();
+        still.compare(name, Painter(ours, false), Painter(peer, false), calls);
+        changing.compare(name, Painter(ours, true), Painter(peer, true), calls);
+    }
+    if (still.results().isEmpty())
+        return;
+    std::printf("Still\n");
+    still.print("DarkFusion", peerName);
+    std::printf("\nChanging\n");
+    changing.print("DarkFusion", peerName);
+    std::printf("\n");
+}
+
+/// What a view does before it shows a table of 10,000 rows that is to fit its contents.
+void compareMeasures(QStyle *ourStyle, QStyle *peerStyle, const char *peerName)
+{
+    const Control control = {"10,000 rows, columns to contents",
+                             [] { return largeView<QTableView>(QSize(700, 500), 10000, 6); }};
+    const QString name = QLatin1String(control.name);
+    if (!isWanted(name))
+        return;
+    const Specimen specimens[] = {specimen(control, ourStyle), specimen(control, peerStyle)};
+    const auto measure = [&](int side) {
+        auto *table = static_cast<QTableView *>(specimens[side].control);
+        table->horizontalHeader()->setResizeContentsPrecision(-1);
+        return [table] { table->resizeColumnsToContents(); };
+    };
+    Benchmark benchmark;
+    benchmark.compare(name, measure(0), measure(1), 1, 3);
+    benchmark.print("DarkFusion", peerName);
 }
 
 } // namespace
@@ -553,27 +736,15 @@ int main(int argc, char *argv[])
     DarkUX theme;
     app.setStyle(theme.style());
     app.setPalette(theme.palette());
-    const std::unique_ptr<QStyle> fusion(QStyleFactory::create(QStringLiteral("Fusion")));
-
-    Benchmark still;
-    Benchmark changing;
-    for (const Control &control : controls()) {
-        if (!isWanted(control))
-            continue;
-        Specimen ours = specimen(control, app.style());
-        Specimen peer = specimen(control, fusion.get());
-        const QSize size = naturalSize(ours).expandedTo(naturalSize(peer));
-        show(ours, size);
-        show(peer, size);
-        QCoreApplication::processEvents();
-        const QString name = QLatin1String(control.name);
-        still.compare(name, Painter(ours, false), Painter(peer, false), calls);
-        changing.compare(name, Painter(ours, true), Painter(peer, true), calls);
+    const QString peerName = qEnvironmentVariable("NOCTURNE_PEER", QStringLiteral("Fusion"));
+    const std::unique_ptr<QStyle> peer(QStyleFactory::create(peerName));
+    if (!peer) {
+        std::fprintf(stderr, "bench_style: no style has the key %s\n", qPrintable(peerName));
+        return 1;
     }
-
-    std::printf("Still\n");
-    still.print("DarkFusion", "Fusion");
-    std::printf("\nChanging\n");
-    changing.print("DarkFusion", "Fusion");
+    const QByteArray heading = peerName.toLocal8Bit();
+    compareRepaints(controls(), app.style(), peer.get(), calls, heading.constData());
+    compareRepaints(scenes(), app.style(), peer.get(), calls / 20, heading.constData());
+    compareMeasures(app.style(), peer.get(), heading.constData());
     return 0;
 }

@@ -213,6 +213,11 @@ int fontDpi(const QFont &font)
     return qRound(QFontMetricsF(font).fontDpi());
 }
 
+Qt::LayoutDirection ownDirection(const QString &text)
+{
+    return text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+}
+
 /// Null for a text that can't be kept. Whoever wants the line must be done with it before asking
 /// for the next.
 const Line *keptLine(const QFont &font, const QString &text, Qt::LayoutDirection direction,
@@ -354,10 +359,15 @@ void drawAligned(QPainter *painter, const QRectF &rect, Qt::Alignment alignment,
         painter->drawText(rect, text, QTextOption(alignment));
 }
 
+bool hasLine(const QFont &font, const QString &text)
+{
+    return isGuiThread()
+           && lines().contains({text, font, fontDpi(font), ownDirection(text), Mnemonic::Literal});
+}
+
 QSize lineSize(const QFont &font, const QString &text)
 {
-    const Qt::LayoutDirection direction = text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
-    const Line *line = keptLine(font, text, direction, Mnemonic::Literal);
+    const Line *line = keptLine(font, text, ownDirection(text), Mnemonic::Literal);
     return line ? QSize(qCeil(line->width), qCeil(line->height)) : QSize();
 }
 

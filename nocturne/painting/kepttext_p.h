@@ -31,6 +31,9 @@ bool areKept(int flags);
 /// Whether \a painter shows kept glyphs as it shows text that it shapes itself.
 bool takesKept(const QPainter &painter);
 
+/// Whether \a text was shaped already, so that its lineSize() costs nothing.
+bool hasLine(const QFont &font, const QString &text);
+
 /// The size of \a text in one line, in whole units; invalid when the text can't be kept.
 QSize lineSize(const QFont &font, const QString &text);
 

@@ -174,6 +174,12 @@ const QStyleOptionViewItem *plainItem(const QStyle *style, const QStyleOption *o
     return isKept ? item : nullptr;
 }
 
+bool isShaped(const QStyleOption *option)
+{
+    const auto *item = qstyleoption_cast<const Item *>(option);
+    return item && (item->text.isEmpty() || KeptText::hasLine(item->font, item->text));
+}
+
 QRect elementRect(const QStyle *style, QStyle::SubElement element, const QStyleOptionViewItem &item,
                   const QWidget *widget)
 {

@@ -15,6 +15,10 @@ namespace Nocturne::ItemView {
 const QStyleOptionViewItem *plainItem(const QStyle *style, const QStyleOption *option,
                                       const QWidget *widget);
 
+/// Whether the text of an item was shaped before. Large models are measured from end to end, most
+/// of their items never to be seen: their text is not worth keeping.
+bool isShaped(const QStyleOption *option);
+
 /// Where \a element of a plain item lies: its check indicator, decoration, text or focus frame.
 QRect elementRect(const QStyle *style, QStyle::SubElement element, const QStyleOptionViewItem &item,
                   const QWidget *widget);

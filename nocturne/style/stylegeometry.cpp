@@ -92,7 +92,7 @@ bool isItemElement(QStyle::SubElement element)
 QSize DarkFusionStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
                                         const QSize &contents, const QWidget *widget) const
 {
-    if (type == CT_ItemViewItem) {
+    if (type == CT_ItemViewItem && Nocturne::ItemView::isShaped(option)) {
         if (const auto *item = Nocturne::ItemView::plainItem(this, option, widget))
             return Nocturne::ItemView::size(this, *item, widget);
     }
