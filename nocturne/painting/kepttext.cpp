@@ -325,7 +325,7 @@ bool areKept(int flags)
 {
     const auto atMostOne = [flags](int mask) { return !(flags & mask & ((flags & mask) - 1)); };
     return !(flags & ~keptFlags) && atMostOne(Qt::AlignHorizontal_Mask & ~Qt::AlignAbsolute)
-           && atMostOne(Qt::AlignVertical_Mask);
+           && atMostOne(Qt::AlignTop | Qt::AlignBottom | Qt::AlignVCenter);
 }
 
 bool takesKept(const QPainter &painter)
@@ -367,6 +367,9 @@ bool hasLine(const QFont &font, const QString &text)
 
 QSize lineSize(const QFont &font, const QString &text)
 {
+    // Spaces at the ends count or not, depending on how the text is placed.
+    if (text.isEmpty() || text.front().isSpace() || text.back().isSpace())
+        return QSize();
     const Line *line = keptLine(font, text, ownDirection(text), Mnemonic::Literal);
     return line ? QSize(qCeil(line->width), qCeil(line->height)) : QSize();
 }

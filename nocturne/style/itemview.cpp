@@ -271,8 +271,9 @@ QRect textLineRect(const PaintCall &call, const Item &item)
     const int margin =
         call.proxy()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, call.widget) + 1;
     const QRect inner = rect.adjusted(margin, 0, -margin, 0);
-    const bool fits =
-        inner.width() > 0 && inner.height() >= KeptText::lineSize(item.font, item.text).height();
+    const QSize line = KeptText::lineSize(item.font, item.text);
+    const bool overflows = item.textElideMode == Qt::ElideNone && line.width() > inner.width();
+    const bool fits = inner.width() > 0 && inner.height() >= line.height() && !overflows;
     return fits ? inner : QRect();
 }
 
