@@ -1,6 +1,7 @@
 #include "benchmark.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 
 #include <cstdio>

@@ -1,6 +1,7 @@
 #include "darkux.h"
 
 #include <nocturne/style/darkfusionstyle.h>
+#include <nocturne/theme/qtversion_p.h>
 
 #include <QtCore/QtMath>
 
@@ -93,6 +94,7 @@ void DarkUX::initialize()
         m_palette.setBrush(QPalette::Disabled, colors.role, QColor(colors.disabled));
         m_palette.setBrush(QPalette::Inactive, colors.role, QColor(colors.inactive));
     }
+    Nocturne::QtVersion::setPlaceholderText(&m_palette);
     m_defaultPalette = m_palette;
 
     tint(m_palette, QPalette::Window);

@@ -6,6 +6,7 @@
 #include <QtGui/QIcon>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
+#include <QtGui/QPalette>
 #include <QtGui/QWindow>
 #include <QtWidgets/QStyleOption>
 
@@ -25,6 +26,10 @@ namespace Nocturne::QtVersion {
 /// Lines without antialiasing half a pixel to the lower right. What has no such hint paints as if
 /// it was not given.
 constexpr QPainter::RenderHint offsetLines = QPainter::Qt4CompatiblePainting;
+
+/// Gives \a palette the colour of place holders where the toolkit does not derive it: the text's,
+/// half transparent, in all groups.
+inline void setPlaceholderText(QPalette *) {}
 
 inline QPoint position(const QDropEvent *event)
 {
@@ -64,6 +69,13 @@ inline bool isVertical(const QStyleOptionProgressBar &option)
 #else
 
 constexpr QPainter::RenderHint offsetLines{};
+
+inline void setPlaceholderText(QPalette *palette)
+{
+    QColor color = palette->color(QPalette::Active, QPalette::Text);
+    color.setAlpha(128);
+    palette->setColor(QPalette::PlaceholderText, color);
+}
 
 inline QPoint position(const QDropEvent *event)
 {

@@ -120,6 +120,11 @@ void TestTheme::palettes()
             }
         }
     }
+    for (QPalette::ColorGroup group : groups) {
+        QColor halfText = themed.color(QPalette::Active, QPalette::Text);
+        halfText.setAlpha(128);
+        QCOMPARE(themed.color(group, QPalette::PlaceholderText), halfText);
+    }
     QPalette other = themed; // what the theme has no colour for stays as it is set
     for (auto role : {QPalette::Window, QPalette::Text, QPalette::Link})
         other.setColor(role, Qt::green);

@@ -158,7 +158,8 @@ void tst_StyleHelpers::keptDrawings()
 {
     const std::unique_ptr<QStyle> style(m_theme.style());
     auto button = makeOption<QStyleOptionButton>(QRect(2, 2, 40, 24));
-    const auto progress = makeOption<QStyleOptionProgressBar>(button.rect);
+    auto progress = makeOption<QStyleOptionProgressBar>(button.rect);
+    QtVersion::setOrientation(progress, Qt::Horizontal);
     const auto primitive = [&](QStyle::PrimitiveElement element) {
         return [&style, &button, element](QPainter &painter) {
             style->drawPrimitive(element, &button, &painter);
