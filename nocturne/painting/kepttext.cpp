@@ -126,18 +126,41 @@ void forget()
 }
 
 /// Forgets what is kept as soon as the fonts that it is made of may be gone: with each change of
-/// the font database, and with the application.
-void forgetWithFonts()
+/// the font database, and with the application. Asks for neither any more once the library itself
+/// is gone.
+class FontWatch
 {
-    static bool connected = false;
-    if (connected)
-        return;
-    connected = true;
-    QObject::connect(qApp, &QGuiApplication::fontDatabaseChanged, qApp, forget);
-    qAddPostRoutine([] {
-        connected = false;
-        forget();
-    });
+public:
+    ~FontWatch()
+    {
+        QObject::disconnect(m_connection);
+        qRemovePostRoutine(endOfApplication);
+    }
+
+    void start()
+    {
+        if (m_connection)
+            return;
+        m_connection = QObject::connect(qApp, &QGuiApplication::fontDatabaseChanged, qApp, forget);
+        qAddPostRoutine(endOfApplication);
+    }
+
+private:
+    static void endOfApplication();
+
+    QMetaObject::Connection m_connection;
+};
+
+FontWatch &fontWatch()
+{
+    static FontWatch watch;
+    return watch;
+}
+
+void FontWatch::endOfApplication()
+{
+    fontWatch().m_connection = {};
+    forget();
 }
 
 bool isGuiThread()
@@ -228,7 +251,7 @@ const Line *keptLine(const QFont &font, const QString &text, Qt::LayoutDirection
     const LineKey key{text, font, fontDpi(font), direction, mnemonic};
     const Line *line = lines().object(key);
     if (!line) {
-        forgetWithFonts();
+        fontWatch().start();
         auto *shaped = shapedLine(key).release();
         lines().insert(key, shaped, lineBytes + unitBytes * int(text.size()));
         line = shaped;
@@ -297,7 +320,7 @@ QString elidedText(const ElidedKey &key, Shorten shorten)
 {
     if (const QString *known = elidedTexts().object(key))
         return *known;
-    forgetWithFonts();
+    fontWatch().start();
     const QString text = shorten();
     elidedTexts().insert(key, new QString(text));
     return text;
@@ -313,7 +336,7 @@ Measured measured(MeasureKey key, Take take)
     }
     if (const Measured *known = measures().object(key))
         return *known;
-    forgetWithFonts();
+    fontWatch().start();
     take(result);
     measures().insert(key, new Measured(result));
     return result;

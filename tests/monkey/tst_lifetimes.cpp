@@ -92,6 +92,7 @@ private Q_SLOTS:
     void switchedAThousandTimes()
     {
         DarkUX theme;
+        const std::unique_ptr<QStyle> unused(theme.style());
         QWidget window;
         QFormLayout layout(&window);
         for (const Subject &subject : subjects())

@@ -565,6 +565,7 @@ int main(int argc, char *argv[])
     fixed.setStyleHint(QFont::TypeWriter);
     QApplication::setFont(fixed);
     DarkUX theme;
+    const std::unique_ptr<QStyle> exact(theme.style());
     if (app.arguments().contains("--table")) {
         printTable();
         return 0;
