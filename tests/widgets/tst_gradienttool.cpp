@@ -122,7 +122,8 @@ private Q_SLOTS:
         QCOMPARE(editor.getSliderAlpha(-3), 255);
         editor.setSliderColor(2, QColor(9, 9, 9, 77));
         QCOMPARE(editor.getSliderAlpha(99), 77);
-        editor.setSliderColor(3, Qt::red);
+        for (int unknown : {-1, 3})
+            editor.setSliderColor(unknown, Qt::red);
         editor.setRamp({{0.0, Qt::red}});
         editor.setCurrentColor(QColor(5, 6, 7, 8));
         editor.colorChange(QColor(50, 60, 70, 80));
