@@ -30,9 +30,11 @@ constexpr int otherMajor = isQt6 ? 5 : 6;
 /// Scales everything by the DPI that the user sets for fonts; the measures of a style stay.
 constexpr bool scalesWithFontDpi = isQt6;
 
-/// Aligns a line within a rectangle of fractional units like a kept one. Qt 6 puts some of them a
-/// device pixel beside it; within whole units they are the same.
-constexpr bool placesTextByFractions = !isQt6;
+/// How many of 1000 texts, in fonts, places and scales drawn by lot, Qt 6 may put a device pixel
+/// beside the kept one: it rounds halves differently. There are 12.
+constexpr int textsBeside = isQt6 ? 12 : 0;
+/// The same of 1000 items of views, those without a text included, which are a pixel lower.
+constexpr int itemsBeside = isQt6 ? 28 : 0;
 
 /// -2.5 rounded: halves go away from zero in Qt 6, up in Qt 5.
 constexpr int roundedNegativeHalf = isQt6 ? -3 : -2;
