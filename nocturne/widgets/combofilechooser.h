@@ -9,7 +9,7 @@
 class ComboBox;
 
 /// Paths in a combo box, with a button that picks a media file or a folder in
-/// place of them.
+/// place of them. A slot that wants to delete it uses deleteLater().
 ///
 /// \code
 /// auto *source = new ComboFileChooser(panel);

@@ -66,6 +66,6 @@ QString FileChooser::askForPath()
     if (m_mode != OpenFile)
         return Nocturne::pickDirectory(this, current);
     return Nocturne::pickFile(
-        this, current, QFileInfo(current).absolutePath(),
+        this, current, QFileInfo(QString(current).remove(QChar(0))).absolutePath(),
         Nocturne::mediaFilter(tr("Media (*.%1)"), OpenImageFile | OpenVideoFile | OpenAudioFile));
 }

@@ -7,7 +7,8 @@
 
 class QLineEdit;
 
-/// A path in a line edit, with a button that picks a media file or a folder.
+/// A path in a line edit, with a button that picks a media file or a folder. A slot that wants to
+/// delete it uses deleteLater().
 ///
 /// \code
 /// auto *clip = new FileChooser(panel);

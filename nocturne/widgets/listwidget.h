@@ -18,7 +18,8 @@ class IListItem;
 /// scrolls per pixel.
 ///
 /// As with any list, drops arrive once setAcceptDrops() or setDragDropMode() allows them, and drags
-/// start once setDragEnabled() does. A DarkUX must exist when the list paints.
+/// start once setDragEnabled() does. A DarkUX must exist when the list paints. A slot that wants to
+/// delete the list uses deleteLater().
 ///
 /// \code
 /// auto *clips = new ListWidget(panel);

@@ -462,8 +462,10 @@ const std::vector<Subject> &subjects()
 {
     static const std::vector<Subject> all = [] {
         std::vector<Subject> made = makeSubjects();
+        const QList<QByteArray> late{"ComboFileChooser", "CroppingLabel", "FileChooser",
+                                     "ListWidget"};
         for (Subject &subject : made)
-            subject.onlyDeletedLater = qstrcmp(subject.name, "CroppingLabel") == 0;
+            subject.onlyDeletedLater = late.contains(QByteArray(subject.name));
         return made;
     }();
     return all;
