@@ -6,6 +6,7 @@
 #include <nocturne/painting/themepaint_p.h>
 #include <nocturne/theme/qtversion_p.h>
 
+#include <QtCore/QDataStream>
 #include <QtCore/QMimeData>
 #include <QtCore/QUrl>
 #include <QtGui/QDropEvent>
@@ -17,6 +18,26 @@ namespace {
 
 constexpr int contentMargin = 5;
 constexpr int backgroundShift = -6;
+constexpr int mostDroppedRows = 100000;
+constexpr int mostDroppedColumns = 100;
+
+/// Whether \a data holds no items, or items in places that can be. The toolkit writes outside its
+/// memory for others, and anybody can drop anything.
+bool hasSoundItems(const QMimeData *data)
+{
+    const QByteArray items = data->data(QStringLiteral("application/x-qabstractitemmodeldatalist"));
+    QDataStream stream(items);
+    while (!stream.atEnd()) {
+        int row = 0;
+        int column = 0;
+        QMap<int, QVariant> roles;
+        stream >> row >> column >> roles;
+        if (stream.status() != QDataStream::Ok || row < 0 || row >= mostDroppedRows || column < 0
+            || column >= mostDroppedColumns)
+            return false;
+    }
+    return true;
+}
 
 } // namespace
 
@@ -122,6 +143,10 @@ void ListWidget::dropEvent(QDropEvent *event)
 {
     if (event->source()) {
         dropFromWithin(event);
+        return;
+    }
+    if (!hasSoundItems(event->mimeData())) {
+        event->ignore();
         return;
     }
     const bool taken = event->mimeData()->hasUrls() && dropUrls(event);

@@ -20,13 +20,15 @@
 #include <QtCore/QTemporaryDir>
 #include <QtWidgets/QAbstractButton>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
 // The small real host, driven through its work on a real X server: each gesture is one step of the
 // history, and all of them undone give back what there was.
 //
-// With NOCTURNE_SOAK=<minutes> the work goes on for that long, and memory is measured.
+// With NOCTURNE_SOAK=<minutes> the work goes on for that long, and memory and the time of every
+// event are measured.
 
 namespace {
 
@@ -48,6 +50,45 @@ double residentMemory()
         return 0;
     return file.readAll().split(' ').value(1).toDouble() * 4;
 }
+
+/// How much \a values grow from one to the next, by linear regression.
+double slope(const std::vector<double> &values)
+{
+    const double n = double(values.size());
+    double sumX = 0, sumY = 0, sumXY = 0, sumXX = 0;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        sumX += double(i);
+        sumY += values[i];
+        sumXY += double(i) * values[i];
+        sumXX += double(i) * double(i);
+    }
+    return (n * sumXY - sumX * sumY) / (n * sumXX - sumX * sumX);
+}
+
+/// Measures how long each event takes that is delivered from the event loop, in milliseconds.
+class TimedApplication : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject *receiver, QEvent *event) override
+    {
+        if (m_depth > 0)
+            return QApplication::notify(receiver, event);
+        ++m_depth;
+        QElapsedTimer timer;
+        timer.start();
+        const bool result = QApplication::notify(receiver, event);
+        times.push_back(double(timer.nsecsElapsed()) / 1e6);
+        --m_depth;
+        return result;
+    }
+
+    std::vector<double> times;
+
+private:
+    int m_depth = 0;
+};
 
 } // namespace
 
@@ -195,8 +236,14 @@ private Q_SLOTS:
                 memory.push_back(residentMemory());
             }
         }
-        std::printf("%d rounds, %.0f KiB after %d of them, %.0f KiB at the end\n", rounds,
-                    memory.at(memory.size() / 5), rounds / 5, memory.back());
+        memory.erase(memory.begin(), memory.begin() + int(memory.size() / 5)); // warming up
+        std::vector<double> times = static_cast<TimedApplication *>(qApp)->times;
+        std::sort(times.begin(), times.end());
+        std::printf(
+            "%d rounds, %zu events, memory %+.2f KiB a sample over %zu samples at %.0f KiB, "
+            "99.9 %% of events within %.2f ms\n",
+            rounds, times.size(), slope(memory), memory.size(), memory.back(),
+            times.at(times.size() * 999 / 1000));
     }
 
 private:
@@ -315,7 +362,7 @@ int main(int argc, char *argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     qputenv("QT_FONT_DPI", "96");
-    QApplication app(argc, argv);
+    TimedApplication app(argc, argv);
     DarkUX theme;
     app.setStyle(theme.style());
     app.setPalette(theme.palette());

@@ -1,3 +1,4 @@
+#include "qtversion.h"
 #include "subjects.h"
 
 #include <nocturne/DarkFusionStyle>
@@ -114,6 +115,7 @@ private:
 
     void mouse(Dice &dice);
     void wheel(Dice &dice);
+    void touchOrTablet(Dice &dice);
     void keys(Dice &dice);
     void drop(Dice &dice);
     void otherInput(Dice &dice);
@@ -258,6 +260,25 @@ void Monkey::wheel(Dice &dice)
                       QPoint(dice.roll(3) * 120 - 120, dice.roll(5) * 120 - 240), m_buttons,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     send(widget, &event);
+}
+
+void Monkey::touchOrTablet(Dice &dice)
+{
+    QWidget *widget = target(dice);
+    const QPointF place = pointOn(widget, dice);
+    if (dice.coin()) {
+        static auto *device = QTest::createTouchDevice();
+        auto touch = QTest::touchEvent(widget, device);
+        if (dice.coin())
+            touch.press(0, place.toPoint(), widget);
+        else
+            touch.release(0, place.toPoint(), widget);
+    } else {
+        QTabletEvent event =
+            QtVersion::penEvent(dice.coin() ? QEvent::TabletPress : QEvent::TabletMove, place,
+                                widget->mapToGlobal(place.toPoint()));
+        send(widget, &event);
+    }
 }
 
 void Monkey::keys(Dice &dice)
@@ -473,8 +494,8 @@ void Monkey::step(quint32 seed)
         changeWidget(dice);
     else if (what == 8)
         dice.roll(3) ? changeWorld(dice) : arm(dice);
-    else if (what == 9 && dice.roll(8) == 0)
-        rest();
+    else if (what == 9)
+        dice.roll(8) ? touchOrTablet(dice) : rest();
     else
         mouse(dice);
     check();

@@ -8,9 +8,14 @@
 #include <nocturne/ListWidget>
 #include <nocturne/TreeWidget>
 
+#include <QtCore/QDataStream>
+#include <QtCore/QMimeData>
+#include <QtGui/QDropEvent>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyledItemDelegate>
+
+#include <climits>
 
 namespace {
 
@@ -425,6 +430,27 @@ private Q_SLOTS:
         list.scrollToBottom();
         last = TestSupport::onScreen(list);
         compareAfter([&list] { delete list.item(8); });
+    }
+
+    /// A sound item is taken, one in a place that no list has is not even looked at.
+    void itemsFromOutside()
+    {
+        for (const auto &drop : {std::pair<int, int>(0, 1), {-1, 0}, {INT_MAX, 0}}) {
+            QByteArray items;
+            QDataStream(&items, QIODevice::WriteOnly)
+                << drop.first << 0 << QMap<int, QVariant>{{Qt::DisplayRole, QString("A")}};
+            QMimeData data;
+            data.setData("application/x-qabstractitemmodeldatalist", items);
+            ListWidget list;
+            list.setDragDropMode(QAbstractItemView::DragDrop);
+            list.show();
+            QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(list.viewport(), &enter);
+            QDropEvent event(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, {});
+            event.ignore();
+            QCoreApplication::sendEvent(list.viewport(), &event);
+            QCOMPARE(list.count(), drop.second);
+        }
     }
 
     void delegateSizes()
