@@ -144,6 +144,7 @@ Q_SIGNALS:
     void upperPositionChanged(int upper);
 
 protected:
+    using QSlider::initStyleOption;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
