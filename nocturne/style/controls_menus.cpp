@@ -42,8 +42,9 @@ int MenuItem::checkColumn() const
 {
     const QObject *object = option.styleObject;
     const bool isPopupItem = object && object->property("_q_isComboBoxPopupItem").toBool();
-    return comboBox() || isPopupItem ? checkColumnWidth
-                                     : qMax(option.maxIconWidth, checkColumnWidth);
+    return comboBox() || isPopupItem
+               ? checkColumnWidth
+               : qBound(checkColumnWidth, option.maxIconWidth, QWIDGETSIZE_MAX);
 }
 
 /// ShowMnemonic, with HideMnemonic where this style hides the underlines.
@@ -187,8 +188,11 @@ void paintText(const MenuItem &item)
     const PaintCall &call = item.call;
     const QRect &r = item.option.rect;
     const int offset = item.checkColumn() + textMarginBefore;
+    // A host may reserve any width.
+    const qint64 width =
+        qint64(r.width()) - offset - QtVersion::shortcutWidth(item.option) - textMarginAfter;
     const QRect rect(r.x() + offset, r.y() + textMarginAbove,
-                     r.width() - offset - QtVersion::shortcutWidth(item.option) - textMarginAfter,
+                     int(qBound<qint64>(-QWIDGETSIZE_MAX, width, QWIDGETSIZE_MAX)),
                      r.height() - 2 * textMarginAbove);
     const int flags = Qt::AlignVCenter | Qt::TextDontClip | Qt::TextSingleLine | Qt::AlignLeft
                       | mnemonicFlags(call);

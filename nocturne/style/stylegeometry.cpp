@@ -36,7 +36,8 @@ int menuItemExtraWidth(const QStyleOptionMenuItem *item)
 
 QSize menuItemSize(const QStyleOptionMenuItem *item, const QWidget *widget, QSize size)
 {
-    size.rwidth() += menuItemExtraWidth(item) + qMax(item->maxIconWidth, 12) + 25;
+    size.rwidth() +=
+        menuItemExtraWidth(item) + qBound(12, item->maxIconWidth, QWIDGETSIZE_MAX) + 25;
 
     if (item->menuItemType == QStyleOptionMenuItem::Separator && !item->text.isEmpty()) {
         size.setHeight(item->fontMetrics.height());
