@@ -1,5 +1,7 @@
 #include "kepttext_p.h"
 
+#include <nocturne/theme/qtversion_p.h>
+
 #include <QtCore/QCache>
 #include <QtCore/QThread>
 #include <QtCore/QtMath>
@@ -246,7 +248,7 @@ Qt::LayoutDirection ownDirection(const QString &text)
 const Line *keptLine(const QFont &font, const QString &text, Qt::LayoutDirection direction,
                      Mnemonic mnemonic)
 {
-    if (text.isEmpty() || text.size() > longestKept || !isGuiThread())
+    if (!QtVersion::keepsText || text.isEmpty() || text.size() > longestKept || !isGuiThread())
         return nullptr;
     const LineKey key{text, font, fontDpi(font), direction, mnemonic};
     const Line *line = lines().object(key);
@@ -354,7 +356,7 @@ bool areKept(int flags)
 bool takesKept(const QPainter &painter)
 {
     const QPaintEngine *engine = painter.paintEngine();
-    return engine && engine->type() == QPaintEngine::Raster
+    return QtVersion::keepsText && engine && engine->type() == QPaintEngine::Raster
            && painter.deviceTransform().type() <= QTransform::TxScale
            && painter.backgroundMode() == Qt::TransparentMode;
 }

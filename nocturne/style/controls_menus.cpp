@@ -188,11 +188,10 @@ void paintText(const MenuItem &item)
     const PaintCall &call = item.call;
     const QRect &r = item.option.rect;
     const int offset = item.checkColumn() + textMarginBefore;
-    // A host may reserve any width.
+    constexpr qint64 widest = QWIDGETSIZE_MAX; // A host may reserve any width.
     const qint64 width =
         qint64(r.width()) - offset - QtVersion::shortcutWidth(item.option) - textMarginAfter;
-    const QRect rect(r.x() + offset, r.y() + textMarginAbove,
-                     int(qBound<qint64>(-QWIDGETSIZE_MAX, width, QWIDGETSIZE_MAX)),
+    const QRect rect(r.x() + offset, r.y() + textMarginAbove, int(qBound(-widest, width, widest)),
                      r.height() - 2 * textMarginAbove);
     const int flags = Qt::AlignVCenter | Qt::TextDontClip | Qt::TextSingleLine | Qt::AlignLeft
                       | mnemonicFlags(call);

@@ -3,6 +3,7 @@
 #include "styleelements_p.h"
 
 #include <nocturne/painting/kepttext_p.h>
+#include <nocturne/theme/qtversion_p.h>
 
 namespace Nocturne {
 namespace ItemView {
@@ -160,7 +161,7 @@ const QStyleOptionViewItem *plainItem(const QStyle *style, const QStyleOption *o
                                       const QWidget *widget)
 {
     const auto *item = qstyleoption_cast<const Item *>(option);
-    if (!item || item->state & QStyle::State_Editing
+    if (!QtVersion::keepsText || !item || item->state & QStyle::State_Editing
         || (has(*item, Item::HasDecoration) && item->decorationSize.isEmpty())
         || !KeptText::areKept(int(item->displayAlignment))
         || item->displayAlignment & Qt::AlignAbsolute)
@@ -177,7 +178,8 @@ const QStyleOptionViewItem *plainItem(const QStyle *style, const QStyleOption *o
 bool isShaped(const QStyleOption *option)
 {
     const auto *item = qstyleoption_cast<const Item *>(option);
-    return item && (item->text.isEmpty() || KeptText::hasLine(item->font, item->text));
+    return QtVersion::keepsText && item
+           && (item->text.isEmpty() || KeptText::hasLine(item->font, item->text));
 }
 
 QRect elementRect(const QStyle *style, QStyle::SubElement element, const QStyleOptionViewItem &item,

@@ -21,6 +21,10 @@
 
 namespace Nocturne::QtVersion {
 
+/// Whether text is shaped once and drawn from its glyphs afterwards. Qt 6 rounds the place of some
+/// texts in a way that kept ones do not follow, so there the toolkit draws all of them itself.
+constexpr bool keepsText = QT_VERSION < QT_VERSION_CHECK(6, 0, 0);
+
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 
 /// Lines without antialiasing half a pixel to the lower right. What has no such hint paints as if

@@ -2,6 +2,7 @@
 #define NOCTURNE_TESTS_QTVERSION_H
 
 #include <QtCore/QLibraryInfo>
+#include <QtCore/QPointer>
 #include <QtCore/QProcess>
 #include <QtGui/QKeySequence>
 #include <QtGui/QTabletEvent>
@@ -29,12 +30,6 @@ constexpr int otherMajor = isQt6 ? 5 : 6;
 
 /// Scales everything by the DPI that the user sets for fonts; the measures of a style stay.
 constexpr bool scalesWithFontDpi = isQt6;
-
-/// How many of 1000 texts, in fonts, places and scales drawn by lot, Qt 6 may put a device pixel
-/// beside the kept one: it rounds halves differently. There were 12, and 28 items.
-constexpr int textsBeside = isQt6 ? 20 : 0;
-/// The same of 1000 items of views, those without a text included, which are a pixel lower.
-constexpr int itemsBeside = isQt6 ? 40 : 0;
 
 /// -2.5 rounded: halves go away from zero in Qt 6, up in Qt 5.
 constexpr int roundedNegativeHalf = isQt6 ? -3 : -2;
@@ -129,11 +124,13 @@ inline int firstKey(const QKeySequence &sequence)
 
 inline QTabletEvent penEvent(QEvent::Type type, const QPointF &position, const QPointF &global)
 {
-    static const QPointingDevice pen(
+    // Belongs to the application, without which it could not even end.
+    static QPointer<QPointingDevice> pen = new QPointingDevice(
         QStringLiteral("pen"), 1, QInputDevice::DeviceType::Stylus,
         QPointingDevice::PointerType::Pen,
         QInputDevice::Capability::Position | QInputDevice::Capability::Pressure, 1, 1);
-    return QTabletEvent(type, &pen, position, global, 0.5, 0, 0, 0, 0, 0, Qt::NoModifier,
+    pen->setParent(qApp);
+    return QTabletEvent(type, pen, position, global, 0.5, 0, 0, 0, 0, 0, Qt::NoModifier,
                         Qt::LeftButton, Qt::LeftButton);
 }
 
