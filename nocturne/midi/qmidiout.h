@@ -28,8 +28,8 @@ class MidiPort;
 /// computed in eight bits and nothing checks the data bytes.
 ///
 /// Without a MIDI service the object works, lists nothing, opens nothing and sends nothing; one
-/// warning says so, however often it is asked. Errors are written to the standard error stream and, from the rank of an error
-/// on, logged as warnings.
+/// warning says so, however often it is asked. Errors are written to the standard error stream and,
+/// from the rank of an error on, logged as warnings.
 ///
 /// Over JACK a thread of the output's own hands the messages over, in order and no faster than the
 /// service takes them without loss (some 30,000 short messages a second after a burst of 500).

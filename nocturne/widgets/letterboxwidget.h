@@ -25,8 +25,8 @@ class NOCTURNE_EXPORT LetterBoxWidget : public QFrame
     Q_OBJECT
     Q_PROPERTY(int margin READ margin WRITE setMargin)
     Q_PROPERTY(uint resizeDelay READ resizeDelay WRITE setResizeDelay)
-    Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor RESET
-                   enableBackground)
+    Q_PROPERTY(
+        QColor backgroundColor READ backgroundColor WRITE setBackgroundColor RESET enableBackground)
 
 public:
     /// Starts out empty, with a margin of 1, no delay and the default background.

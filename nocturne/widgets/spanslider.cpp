@@ -6,8 +6,8 @@
 #include "handlemove_p.h"
 #include <nocturne/painting/paintsample_p.h>
 
-#include <QtCore/QPointer>
 #include <QtCore/QDebug>
+#include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWheelEvent>
