@@ -117,6 +117,9 @@ void RangeSlider::setValues(int min, int max, int main)
     const RangeSliderPrivate::Triple oldValues = d->values;
     const RangeSliderPrivate::Triple now = d->bounded(min, max, main);
     d->positions = d->values = now;
+    // Before anybody hears of it, since a receiver may have the slider painted elsewhere.
+    if (now != oldPositions)
+        updateHandles();
 
     const QPointer<RangeSlider> self(this);
     if (isSliderDown() && now != oldPositions) {
@@ -132,11 +135,6 @@ void RangeSlider::setValues(int min, int max, int main)
         Nocturne::HandleAccessibility::valueChanged(this, handle, now[handle]);
         emitChange(valueSignals[handle], now[handle]);
     }
-    if (!self)
-        return;
-
-    if (now != oldPositions || now != oldValues)
-        updateHandles();
 }
 
 void RangeSlider::setMinimumPosition(int position)
@@ -163,8 +161,7 @@ void RangeSlider::setPositions(int min, int max, int main)
         return;
     d->positions = now;
 
-    if (!hasTracking())
-        updateHandles();
+    updateHandles();
 
     const QPointer<RangeSlider> self(this);
     if (isSliderDown()) {

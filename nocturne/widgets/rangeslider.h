@@ -22,7 +22,9 @@ class RangeHandles;
 /// with tracking() off, dragging changes positions only, and values stay until a setter is called.
 ///
 /// The range handles are off until setEnableRange(true); the bar between them is always drawn.
-/// Neither keys nor the wheel move a handle. Owned by its parent like every widget.
+/// Neither keys nor the wheel move a handle. Owned by its parent like every widget. A slot that
+/// wants to delete the slider uses deleteLater(): what interrupts a gesture reports its end in the
+/// middle of the toolkit's work.
 ///
 /// \code
 /// auto *trim = new RangeSlider(Qt::Horizontal, panel);

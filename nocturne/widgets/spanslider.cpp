@@ -86,42 +86,32 @@ void SpanSlider::setSpan(int lower, int upper)
     int upp = qBound(minimum(), qMax(lower, upper), maximum());
     if (low == m_lower && upp == m_upper)
         return;
-    const QPair<int, int> before(m_lower, m_upper);
     const QPointer<SpanSlider> self(this);
 
     if (low != m_lower) {
         m_lower = low;
-        m_lowerPosition = low;
+        moveHandle(LowerHandle, low);
         Nocturne::HandleAccessibility::valueChanged(this, 0, low);
         Q_EMIT lowerValueChanged(low);
-        // What a receiver has set meanwhile is newer.
-        if (!self || m_lower != low || m_upper != before.second)
-            return;
-        upp = qBound(minimum(), upp, maximum());
+        if (!self || m_lower != low)
+            return; // What a receiver has set meanwhile is newer.
+        upp = qBound(low, upp, maximum());
     }
     if (upp != m_upper) {
         m_upper = upp;
-        m_upperPosition = upp;
+        moveHandle(UpperHandle, upp);
         Nocturne::HandleAccessibility::valueChanged(this, 1, upp);
         Q_EMIT upperValueChanged(upp);
     }
     if (self)
         Q_EMIT spanChanged(m_lower, m_upper);
-    if (!self)
-        return;
-    if (low != before.first)
-        updateHandle(LowerHandle);
-    if (upp != before.second)
-        updateHandle(UpperHandle);
 }
 
 void SpanSlider::setLowerPosition(int lower)
 {
     if (m_lowerPosition == lower)
         return;
-    m_lowerPosition = lower;
-    if (!hasTracking())
-        updateHandle(LowerHandle);
+    moveHandle(LowerHandle, lower);
     const QPointer<SpanSlider> self(this);
     if (isSliderDown())
         Q_EMIT lowerPositionChanged(lower);
@@ -133,9 +123,7 @@ void SpanSlider::setUpperPosition(int upper)
 {
     if (m_upperPosition == upper)
         return;
-    m_upperPosition = upper;
-    if (!hasTracking())
-        updateHandle(UpperHandle);
+    moveHandle(UpperHandle, upper);
     const QPointer<SpanSlider> self(this);
     if (isSliderDown())
         Q_EMIT upperPositionChanged(upper);
@@ -439,8 +427,13 @@ void SpanSlider::paintEvent(QPaintEvent *)
     paintHandle(&painter, &option, lowerOnTop ? LowerHandle : UpperHandle);
 }
 
-void SpanSlider::updateHandle(SpanHandle handle)
+/// Before anybody hears of it, since a receiver may have the slider painted elsewhere.
+void SpanSlider::moveHandle(SpanHandle handle, int position)
 {
+    int &current = handle == LowerHandle ? m_lowerPosition : m_upperPosition;
+    if (current == position)
+        return;
+    current = position;
     QStyleOptionSlider option;
     initStyleOption(&option, handle);
     const QRect now =

@@ -160,7 +160,7 @@ private:
     void moveUpperHandle(int target, int lowerBound);
     int valueUnderDrag(const QPoint &point) const;
     void placeHandle(QStyleOptionSlider *option, SpanHandle handle) const;
-    void updateHandle(SpanHandle handle);
+    void moveHandle(SpanHandle handle, int position);
     QRect spanRect(QStyleOptionSlider *option);
     void paintSpan(QStylePainter *painter, const QStyleOptionSlider &option,
                    const QRect &rect) const;

@@ -368,6 +368,7 @@ private Q_SLOTS:
             QVERIFY(slider.value() != 80);
         }
     }
+
     void rangeLeavesNoTraces()
     {
         for (Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
@@ -378,6 +379,9 @@ private Q_SLOTS:
                                          "all 30", "all 31"}));
             QVERIFY(TestRange(orientation, false).leavesNoTraces({"press 50, move 52", "move 0"}));
         }
+        TestRange seen; // elsewhere at each step
+        connect(&seen, &RangeSlider::mainPositionChanged, &seen, [&seen] { seen.grab(); });
+        QVERIFY(seen.leavesNoTraces({"press 50, move 70", "move 10, release 10"}));
     }
 
     void rangeSetters()
@@ -554,6 +558,10 @@ private Q_SLOTS:
                                              "release 80"}));
             }
         }
+        TestSpan seen;
+        connect(&seen, &SpanSlider::lowerPositionChanged, &seen, [&seen] { seen.grab(); });
+        connect(&seen, &SpanSlider::lowerValueChanged, &seen, [&seen] { seen.grab(); });
+        QVERIFY(seen.leavesNoTraces({"press 20, move 40", "move 10, release 10"}));
     }
 
     void spanSetters()
