@@ -372,16 +372,21 @@ void draw(QPainter *painter, const QRectF &rect, int flags, const QString &text)
         painter->drawText(rect, flags, text);
 }
 
-void drawAligned(QPainter *painter, const QRectF &rect, Qt::Alignment alignment,
-                 const QString &text)
+void draw(QPainter *painter, const QRectF &rect, const QString &text, const QTextOption &option)
 {
-    const int flags = int(alignment);
-    const Line *line =
-        areKept(flags) ? keptLine(*painter, text, Qt::LeftToRight, Mnemonic::Literal) : nullptr;
+    const int flags = int(option.alignment());
+    // A direction that the text itself decides has no say in where the text stands.
+    const Qt::LayoutDirection direction = option.textDirection();
+    const Line *line = nullptr;
+    if (areKept(flags)) {
+        line = keptLine(*painter, text,
+                        direction == Qt::LayoutDirectionAuto ? ownDirection(text) : direction,
+                        Mnemonic::Literal);
+    }
     if (line && fits(*line, rect))
-        drawInside(painter, rect, *line, flags, false);
+        drawInside(painter, rect, *line, flags, direction == Qt::RightToLeft);
     else
-        painter->drawText(rect, text, QTextOption(alignment));
+        painter->drawText(rect, text, option);
 }
 
 bool hasLine(const QFont &font, const QString &text)

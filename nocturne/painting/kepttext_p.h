@@ -21,9 +21,9 @@ namespace Nocturne::KeptText {
 /// QPainter::drawText(rect, flags, text).
 void draw(QPainter *painter, const QRectF &rect, int flags, const QString &text);
 
-/// QPainter::drawText(rect, text, QTextOption(alignment)).
-void drawAligned(QPainter *painter, const QRectF &rect, Qt::Alignment alignment,
-                 const QString &text);
+/// QPainter::drawText(rect, text, option), where only alignment and direction of \a option differ
+/// from the toolkit's own.
+void draw(QPainter *painter, const QRectF &rect, const QString &text, const QTextOption &option);
 
 /// Whether \a flags place a single line, with one alignment along each axis at most.
 bool areKept(int flags);

@@ -6,6 +6,7 @@
 #include <nocturne/painting/themepaint_p.h>
 #include <nocturne/theme/qtversion_p.h>
 
+#include <QtGui/QTextOption>
 #include <QtWidgets/QWidget>
 
 namespace Nocturne::StylePaint {
@@ -168,8 +169,8 @@ void paintClippedLabel(QPainter *painter, const QStyleOptionProgressBar &option,
     const PainterSaver saver(painter);
     painter->setClipRegion(clip, Qt::IntersectClip);
     painter->setPen(color);
-    KeptText::drawAligned(painter, rect, Qt::AlignAbsolute | Qt::AlignHCenter | Qt::AlignVCenter,
-                          option.text);
+    KeptText::draw(painter, rect, option.text,
+                   QTextOption(Qt::AlignAbsolute | Qt::AlignHCenter | Qt::AlignVCenter));
 }
 
 } // namespace

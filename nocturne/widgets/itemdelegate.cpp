@@ -78,6 +78,5 @@ void ItemDelegate::drawDisplay(QPainter *painter, const QStyleOptionViewItem &op
     painter->setPen(selected ? QColor(selectedColor) : option.palette.color(QPalette::ButtonText));
     painter->setBrush(Qt::NoBrush);
     painter->setFont(option.font);
-    Nocturne::KeptText::drawAligned(painter, rect.translated(0, m_topMargin / 2), Qt::AlignLeft,
-                                    text);
+    Nocturne::KeptText::draw(painter, rect.translated(0, m_topMargin / 2), text, QTextOption());
 }

@@ -228,8 +228,9 @@ void KeptTextTest::drawsWhatTheToolkitDraws()
             const QString text = randomText(random);
             const Setting setting(random);
             const int flags = randomFlags(random);
-            const Qt::Alignment alignment(flags
-                                          & (Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask));
+            QTextOption option(
+                Qt::Alignment(flags & (Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask)));
+            option.setTextDirection(Qt::LayoutDirection(random.below(3)));
             const QRectF rect(random.below(160) / 4.0, random.below(120) / 4.0,
                               random.below(800) / 4.0, random.below(200) / 4.0);
             const bool byFlags = random.oneIn(2);
@@ -237,13 +238,13 @@ void KeptTextTest::drawsWhatTheToolkitDraws()
                 if (byFlags)
                     KeptText::draw(painter, rect, flags, text);
                 else
-                    KeptText::drawAligned(painter, rect, alignment, text);
+                    KeptText::draw(painter, rect, text, option);
             });
             const QImage shaped = setting.picture([&](QPainter *painter) {
                 if (byFlags)
                     painter->drawText(rect, flags, text);
                 else
-                    painter->drawText(rect, text, QTextOption(alignment));
+                    painter->drawText(rect, text, option);
             });
             QVERIFY(!kept.isNull());
             QVERIFY2(kept == shaped, qPrintable(QStringLiteral("seed %1, round %2: %3 in %4")
