@@ -1,23 +1,21 @@
-#include "benchmark.h"
+#include "darkapplication.h"
 
-#include <nocturne/DarkFusionStyle>
-#include <nocturne/DarkUX>
 #include <nocturne/ListWidget>
 
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
 
 namespace {
 
 constexpr int itemCount = 50000;
 
-void fill(QListWidget &list)
+/// Each list has texts of its own, so that none finds what the other has had shaped.
+void fill(QListWidget &list, const QString &text)
 {
     list.setWindowFlags(Qt::Window);
     list.resize(300, 600);
     list.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     for (int i = 0; i < itemCount; ++i)
-        list.addItem(QStringLiteral("Clip %1").arg(i));
+        list.addItem(text.arg(i));
     list.show();
     list.verticalScrollBar()->setValue(1000);
     QCoreApplication::processEvents();
@@ -54,16 +52,12 @@ std::function<void()> repainting(QListWidget &list)
 
 int main(int argc, char *argv[])
 {
-    useOffscreenPlatform();
-    QApplication app(argc, argv);
-    DarkUX theme;
-    app.setStyle(theme.style());
-    app.setPalette(theme.palette());
+    const DarkApplication application(argc, argv);
 
     ListWidget ours;
     QListWidget peer;
-    fill(ours);
-    fill(peer);
+    fill(ours, QStringLiteral("Clip %1"));
+    fill(peer, QStringLiteral("Clap %1"));
 
     Benchmark benchmark;
     for (const bool hovered : {true, false}) {

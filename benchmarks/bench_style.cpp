@@ -5,13 +5,9 @@
 // With arguments, only the rows whose names contain one of them are measured. NOCTURNE_PEER names
 // another style to compare with, by its key.
 
-#include "benchmark.h"
-
-#include <nocturne/DarkFusionStyle>
-#include <nocturne/DarkUX>
+#include "darkapplication.h"
 
 #include <QtGui/QStandardItemModel>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDial>
@@ -731,11 +727,7 @@ void compareMeasures(QStyle *ourStyle, QStyle *peerStyle, const char *peerName)
 
 int main(int argc, char *argv[])
 {
-    useOffscreenPlatform();
-    QApplication app(argc, argv);
-    DarkUX theme;
-    app.setStyle(theme.style());
-    app.setPalette(theme.palette());
+    const DarkApplication application(argc, argv);
     const QString peerName = qEnvironmentVariable("NOCTURNE_PEER", QStringLiteral("Fusion"));
     const std::unique_ptr<QStyle> peer(QStyleFactory::create(peerName));
     if (!peer) {
@@ -743,8 +735,8 @@ int main(int argc, char *argv[])
         return 1;
     }
     const QByteArray heading = peerName.toLocal8Bit();
-    compareRepaints(controls(), app.style(), peer.get(), calls, heading.constData());
-    compareRepaints(scenes(), app.style(), peer.get(), calls / 20, heading.constData());
-    compareMeasures(app.style(), peer.get(), heading.constData());
+    compareRepaints(controls(), QApplication::style(), peer.get(), calls, heading.constData());
+    compareRepaints(scenes(), QApplication::style(), peer.get(), calls / 20, heading.constData());
+    compareMeasures(QApplication::style(), peer.get(), heading.constData());
     return 0;
 }

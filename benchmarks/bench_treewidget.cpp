@@ -1,13 +1,10 @@
 // Scrolls a tree of 100,000 rows, ours against the toolkit's, under the theme's style: each call
 // moves the scroll bar and lets the tree repaint what that exposes.
 
-#include "benchmark.h"
+#include "darkapplication.h"
 
-#include <nocturne/DarkFusionStyle>
-#include <nocturne/DarkUX>
 #include <nocturne/TreeWidget>
 
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
 
 namespace {
@@ -60,11 +57,7 @@ private:
 
 int main(int argc, char *argv[])
 {
-    useOffscreenPlatform();
-    QApplication app(argc, argv);
-    DarkUX theme;
-    app.setStyle(theme.style());
-    app.setPalette(theme.palette());
+    const DarkApplication application(argc, argv);
 
     TreeWidget ours;
     QTreeWidget peer;
