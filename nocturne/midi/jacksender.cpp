@@ -2,29 +2,39 @@
 
 #include <rtmidi/RtMidi.h>
 
+#include <pthread.h>
+#include <system_error>
+
 namespace Nocturne {
 
 JackSender::JackSender(RtMidiOut *device)
     : m_device(device)
-    , m_thread(QThread::create([this] { run(); }))
 {
-    m_thread->setObjectName(QStringLiteral("MIDI output"));
-    m_thread->start();
+    try {
+        m_thread = std::thread([this] { run(); });
+    } catch (const std::system_error &) {
+        qWarning("QMidiOut: no thread for the MIDI output");
+    }
+#ifdef Q_OS_LINUX
+    if (m_thread.joinable())
+        pthread_setname_np(m_thread.native_handle(), "MIDI output");
+#endif
 }
 
 JackSender::~JackSender()
 {
     {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         m_quit = true;
-        m_changed.wakeAll();
+        m_changed.notify_all();
     }
-    m_thread->wait();
+    if (m_thread.joinable())
+        m_thread.join();
 }
 
 bool JackSender::send(QMidiMessage::Bytes bytes)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     if (isStuck())
         return false;
     const auto size = static_cast<size_t>(cost(bytes));
@@ -37,53 +47,59 @@ bool JackSender::send(QMidiMessage::Bytes bytes)
     m_queueFull = false;
     m_queuedBytes += size;
     m_queue.push_back(std::move(bytes));
-    m_changed.wakeAll();
+    m_changed.notify_all();
     return true;
 }
 
 bool JackSender::finish()
 {
-    const QMutexLocker locker(&m_mutex);
+    std::unique_lock<std::mutex> lock(m_mutex);
     while (!m_queue.empty() || m_handingOver) {
         if (isStuck())
             return false;
-        m_changed.wait(&m_mutex, 50);
+        m_changed.wait_for(lock, std::chrono::milliseconds(50));
     }
     return true;
 }
 
 void JackSender::abandon()
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     m_quit = true;
     m_queue.clear();
-    m_thread->setPriority(QThread::IdlePriority);
+#ifdef SCHED_IDLE
+    if (m_thread.joinable()) {
+        const sched_param parameters = {};
+        pthread_setschedparam(m_thread.native_handle(), SCHED_IDLE, &parameters);
+    }
+#endif
 }
 
-unsigned long JackSender::millisecondsUntilRoom(double bytes)
+std::chrono::milliseconds JackSender::timeUntilRoom(double bytes)
 {
     const double elapsed = m_backlogTime.isValid() ? m_backlogTime.nsecsElapsed() / 1.0e6 : 0.0;
     m_backlogTime.start();
     m_backlog = qMax(0.0, m_backlog - elapsed * bytesPerMillisecond);
     // A message longer than a burst goes alone.
     const double excess = qMin(m_backlog, m_backlog + bytes - burstBytes);
-    return excess > 0.0 ? static_cast<unsigned long>(excess / bytesPerMillisecond) + 1 : 0;
+    return std::chrono::milliseconds(
+        excess > 0.0 ? static_cast<qint64>(excess / bytesPerMillisecond) + 1 : 0);
 }
 
 void JackSender::run()
 {
-    QMutexLocker locker(&m_mutex);
+    std::unique_lock<std::mutex> lock(m_mutex);
     for (;;) {
         while (m_queue.empty() && !m_quit)
-            m_changed.wait(&m_mutex);
+            m_changed.wait(lock);
         if (m_quit)
             return;
 
         const double bytes = cost(m_queue.front());
-        if (const unsigned long pause = millisecondsUntilRoom(bytes)) {
-            locker.unlock();
-            QThread::msleep(pause);
-            locker.relock();
+        if (const auto pause = timeUntilRoom(bytes); pause.count() > 0) {
+            lock.unlock();
+            std::this_thread::sleep_for(pause);
+            lock.lock();
             continue;
         }
 
@@ -93,12 +109,12 @@ void JackSender::run()
         m_backlog += bytes;
         m_handingOver = true;
         m_handOverTime.start();
-        locker.unlock();
+        lock.unlock();
         m_device->sendMessage(message.data(), message.size());
-        locker.relock();
+        lock.lock();
         m_handingOver = false;
         if (m_queue.empty())
-            m_changed.wakeAll();
+            m_changed.notify_all();
     }
 }
 

@@ -4,12 +4,12 @@
 #include <nocturne/midi/qmidimessage.h>
 
 #include <QtCore/QElapsedTimer>
-#include <QtCore/QMutex>
-#include <QtCore/QThread>
-#include <QtCore/QWaitCondition>
 
+#include <chrono>
+#include <condition_variable>
 #include <deque>
-#include <memory>
+#include <mutex>
+#include <thread>
 
 class RtMidiOut;
 
@@ -20,6 +20,9 @@ namespace Nocturne {
 /// RtMidi waits without end for room in its buffer to JACK, and once the server has died there will
 /// never be any: the wait must not be the caller's. The thread also keeps to what JACK carries in a
 /// process cycle, because JACK drops the rest.
+///
+/// Thread, mutex and condition are the language's own: the thread checker sees through those, and
+/// not through the toolkit's.
 class JackSender
 {
 public:
@@ -46,15 +49,18 @@ private:
     static constexpr size_t longestQueue = size_t(16) * 1024 * 1024; // bytes
 
     static double cost(const QMidiMessage::Bytes &bytes) { return bytes.size() + bytesPerEvent; }
-    bool isStuck() const { return m_handingOver && m_handOverTime.hasExpired(longestWait); }
-    unsigned long millisecondsUntilRoom(double bytes);
+    bool isStuck() const
+    {
+        return !m_thread.joinable() || (m_handingOver && m_handOverTime.hasExpired(longestWait));
+    }
+    std::chrono::milliseconds timeUntilRoom(double bytes);
     void run();
 
     RtMidiOut *m_device;
-    std::unique_ptr<QThread> m_thread;
+    std::thread m_thread; // none when the system has none left: then nothing is taken
 
-    QMutex m_mutex; // guards what follows
-    QWaitCondition m_changed;
+    std::mutex m_mutex; // guards what follows
+    std::condition_variable m_changed;
     std::deque<QMidiMessage::Bytes> m_queue;
     size_t m_queuedBytes = 0;
     bool m_queueFull = false;
