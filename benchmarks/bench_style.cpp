@@ -3,13 +3,21 @@
 // a change before each paint. Then measures the columns of large tables under both.
 //
 // With arguments, only the rows whose names contain one of them are measured. NOCTURNE_PEER names
-// another style to compare with, by its key.
+// another style to compare with, by its key: "Nothing" paints nothing, which is what the toolkit
+// itself takes. NOCTURNE_PEER_SHEET names the file of a style sheet that the peer wears,
+// NOCTURNE_PEER_RESOURCES the file of resources that the sheet asks for. NOCTURNE_FACE=readable
+// measures DarkReadableStyle, both sides with its palette.
 
 #include "darkapplication.h"
 
+#include <nocturne/DarkReadableStyle>
+
+#include <QtCore/QFile>
+#include <QtCore/QResource>
 #include <QtGui/QStandardItemModel>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QCommonStyle>
 #include <QtWidgets/QDial>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QGridLayout>
@@ -619,13 +627,42 @@ std::vector<Control> scenes()
     };
 }
 
-/// A new specimen in \a style, as large as that of the other style.
-Specimen specimen(const Control &control, QStyle *style)
+/// The floor: what a repaint takes before anything is painted.
+class NothingStyle : public QCommonStyle
+{
+public:
+    void drawPrimitive(PrimitiveElement, const QStyleOption *, QPainter *,
+                       const QWidget *) const override
+    {}
+    void drawControl(ControlElement, const QStyleOption *, QPainter *,
+                     const QWidget *) const override
+    {}
+    void drawComplexControl(ComplexControl, const QStyleOptionComplex *, QPainter *,
+                            const QWidget *) const override
+    {}
+    void drawItemText(QPainter *, const QRect &, int, const QPalette &, bool, const QString &,
+                      QPalette::ColorRole) const override
+    {}
+    void drawItemPixmap(QPainter *, const QRect &, int, const QPixmap &) const override {}
+};
+
+/// One side of the comparison.
+struct Side
+{
+    QByteArray name;
+    QStyle *style = nullptr;
+    QString sheet;
+};
+
+/// A new specimen as \a side shows it.
+Specimen specimen(const Control &control, const Side &side)
 {
     Specimen result = control.create();
-    result.window->setStyle(style);
+    result.window->setStyle(side.style);
     for (QWidget *child : result.window->findChildren<QWidget *>())
-        child->setStyle(style);
+        child->setStyle(side.style);
+    if (!side.sheet.isEmpty())
+        result.window->setStyleSheet(side.sheet);
     result.window->setAttribute(Qt::WA_DontShowOnScreen);
     return result;
 }
@@ -676,9 +713,9 @@ bool isWanted(const QString &name)
                           [&name](const QString &part) { return name.contains(part); });
 }
 
-/// Repaints each control in both styles.
-void compareRepaints(const std::vector<Control> &controls, QStyle *ourStyle, QStyle *peerStyle,
-                     int calls, const char *peerName)
+/// Repaints each control on both sides.
+void compareRepaints(const std::vector<Control> &controls, const Side &ours, const Side &peers,
+                     int calls)
 {
     Benchmark still;
     Benchmark changing;
@@ -686,33 +723,33 @@ void compareRepaints(const std::vector<Control> &controls, QStyle *ourStyle, QSt
         const QString name = QLatin1String(control.name);
         if (!isWanted(name))
             continue;
-        Specimen ours = specimen(control, ourStyle);
-        Specimen peer = specimen(control, peerStyle);
-        const QSize size = naturalSize(ours).expandedTo(naturalSize(peer));
-        show(ours, size);
+        Specimen our = specimen(control, ours);
+        Specimen peer = specimen(control, peers);
+        const QSize size = naturalSize(our).expandedTo(naturalSize(peer));
+        show(our, size);
         show(peer, size);
         QCoreApplication::processEvents();
-        still.compare(name, Painter(ours, false), Painter(peer, false), calls);
-        changing.compare(name, Painter(ours, true), Painter(peer, true), calls);
+        still.compare(name, Painter(our, false), Painter(peer, false), calls);
+        changing.compare(name, Painter(our, true), Painter(peer, true), calls);
     }
     if (still.results().isEmpty())
         return;
     std::printf("Still\n");
-    still.print("DarkFusion", peerName);
+    still.print(ours.name.constData(), peers.name.constData());
     std::printf("\nChanging\n");
-    changing.print("DarkFusion", peerName);
+    changing.print(ours.name.constData(), peers.name.constData());
     std::printf("\n");
 }
 
 /// What a view does before it shows a table of 10,000 rows that is to fit its contents.
-void compareMeasures(QStyle *ourStyle, QStyle *peerStyle, const char *peerName)
+void compareMeasures(const Side &ours, const Side &peers)
 {
     const Control control = {"10,000 rows, columns to contents",
                              [] { return largeView<QTableView>(QSize(700, 500), 10000, 6); }};
     const QString name = QLatin1String(control.name);
     if (!isWanted(name))
         return;
-    const Specimen specimens[] = {specimen(control, ourStyle), specimen(control, peerStyle)};
+    const Specimen specimens[] = {specimen(control, ours), specimen(control, peers)};
     const auto measure = [&](int side) {
         auto *table = static_cast<QTableView *>(specimens[side].control);
         table->horizontalHeader()->setResizeContentsPrecision(-1);
@@ -720,7 +757,31 @@ void compareMeasures(QStyle *ourStyle, QStyle *peerStyle, const char *peerName)
     };
     Benchmark benchmark;
     benchmark.compare(name, measure(0), measure(1), 1, 3);
-    benchmark.print("DarkFusion", peerName);
+    benchmark.print(ours.name.constData(), peers.name.constData());
+}
+
+/// The face of our style that was asked for, in its palette.
+Side ourSide()
+{
+    if (qEnvironmentVariable("NOCTURNE_FACE") != QLatin1String("readable"))
+        return {"DarkFusion", QApplication::style(), QString()};
+    const QPalette theme = QApplication::palette();
+    QApplication::setStyle(new DarkReadableStyle);
+    QApplication::setPalette(DarkReadableStyle::palette(theme));
+    return {"DarkFusionReadable", QApplication::style(), QString()};
+}
+
+QString contents(const QString &fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QStyle *createStyle(const QString &key)
+{
+    if (key == QLatin1String("Nothing"))
+        return new NothingStyle;
+    return QStyleFactory::create(key);
 }
 
 } // namespace
@@ -728,15 +789,30 @@ void compareMeasures(QStyle *ourStyle, QStyle *peerStyle, const char *peerName)
 int main(int argc, char *argv[])
 {
     const DarkApplication application(argc, argv);
+    const Side ours = ourSide();
+
     const QString peerName = qEnvironmentVariable("NOCTURNE_PEER", QStringLiteral("Fusion"));
-    const std::unique_ptr<QStyle> peer(QStyleFactory::create(peerName));
+    const std::unique_ptr<QStyle> peer(createStyle(peerName));
     if (!peer) {
         std::fprintf(stderr, "bench_style: no style has the key %s\n", qPrintable(peerName));
         return 1;
     }
-    const QByteArray heading = peerName.toLocal8Bit();
-    compareRepaints(controls(), QApplication::style(), peer.get(), calls, heading.constData());
-    compareRepaints(scenes(), QApplication::style(), peer.get(), calls / 20, heading.constData());
-    compareMeasures(QApplication::style(), peer.get(), heading.constData());
+    Side peers{peerName.toLocal8Bit(), peer.get(), QString()};
+    const QString sheetName = qEnvironmentVariable("NOCTURNE_PEER_SHEET");
+    if (!sheetName.isEmpty()) {
+        peers.name = "style sheet";
+        peers.sheet = contents(sheetName);
+        const QString resources = qEnvironmentVariable("NOCTURNE_PEER_RESOURCES");
+        if (peers.sheet.isEmpty()
+            || (!resources.isEmpty() && !QResource::registerResource(resources))) {
+            std::fprintf(stderr, "bench_style: cannot read %s or its resources\n",
+                         qPrintable(sheetName));
+            return 1;
+        }
+    }
+
+    compareRepaints(controls(), ours, peers, calls);
+    compareRepaints(scenes(), ours, peers, calls / 20);
+    compareMeasures(ours, peers);
     return 0;
 }

@@ -239,7 +239,7 @@ uint qHash(const Kept::Key &key, uint seed)
 {
     const uint shape = uint(key.what) * 31u + uint(key.state);
     const uint size = uint(key.size.width() << 16 ^ key.size.height());
-    return ::qHash(key.palette, seed) ^ (shape * 2654435761u) ^ size
+    return ::qHash(key.palette, seed) ^ ::qHash(key.marks, seed) ^ (shape * 2654435761u) ^ size
            ^ uint(key.group << 8 ^ key.ratio);
 }
 

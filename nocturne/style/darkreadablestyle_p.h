@@ -68,11 +68,13 @@ public:
         QSize size;
         qint64 palette;
         int group;
+        quint64 marks = 0; ///< what else the drawing depends on
 
         bool operator==(const Key &other) const
         {
             return what == other.what && state == other.state && size == other.size
-                   && palette == other.palette && group == other.group && ratio == other.ratio;
+                   && palette == other.palette && group == other.group && marks == other.marks
+                   && ratio == other.ratio;
         }
         int ratio = 0; ///< of the device, in percent; filled in
     };

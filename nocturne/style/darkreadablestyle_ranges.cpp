@@ -13,7 +13,10 @@ enum Drawing { // after those of the indicators
     GrooveDrawing,
     FillDrawing,
     KnobDrawing,
-    DiscDrawing
+    DiscDrawing,
+    DiscGroundDrawing,
+    RingDrawing,
+    MarksDrawing
 };
 
 constexpr qreal ringWidth = 1.4; // smoothing takes some away
@@ -229,32 +232,114 @@ struct DialParts
 };
 
 /// The marks around a dial, no closer than three units.
-void paintDialTicks(const DialParts &dial, QPainter *painter, const QColor &color)
+class DialMarks
 {
-    const qreal range = qreal(dial.option->maximum) - dial.option->minimum;
-    if (dial.option->tickInterval <= 0 || range <= 0)
-        return;
-    const qreal most = qMax(1.0, 2 * M_PI * dial.radius / 3);
-    const qreal interval = qMax<qreal>(dial.option->tickInterval, range / most);
-    painter->setPen(QPen(color, ringWidth));
-    for (qreal value = 0; value < range + interval; value += interval) {
-        const qreal at = qMin(value, range);
-        painter->drawLine(dial.at(at, range, dial.disc + 2), dial.at(at, range, dial.radius - 0.5));
+public:
+    explicit DialMarks(const DialParts &dial)
+        : m_dial(dial)
+        , m_range(qreal(dial.option->maximum) - dial.option->minimum)
+        , m_interval(dial.option->tickInterval)
+    {
+        if (!(dial.option->subControls & QStyle::SC_DialTickmarks))
+            m_interval = 0;
+        if (isEmpty())
+            return;
+        const qreal most = qMax(1.0, 2 * M_PI * dial.radius / 3);
+        m_interval = qMax(m_interval, m_range / most);
     }
-}
 
-void paintDisc(const Call &call, const DialParts &dial, QPainter *painter)
+    bool isEmpty() const { return m_interval <= 0 || m_range <= 0; }
+
+    void paint(QPainter *painter, const QColor &color) const
+    {
+        begin(painter, color);
+        for (qreal value = 0; value < m_range; value += m_interval)
+            paintAt(painter, value);
+    }
+
+    /// The mark at the end of the range, which may lie on another.
+    void paintLast(QPainter *painter, const QColor &color) const
+    {
+        begin(painter, color);
+        paintAt(painter, m_range);
+    }
+
+    /// What the marks depend on beside the dial's size; 0 for none.
+    quint64 key() const
+    {
+        if (isEmpty())
+            return 0;
+        const QStyleOptionSlider *option = m_dial.option;
+        return quint64(qint64(option->maximum) - option->minimum) << 32 | uint(option->tickInterval)
+               | (option->dialWrapping ? 1u << 31 : 0);
+    }
+
+private:
+    static void begin(QPainter *painter, const QColor &color)
+    {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(QPen(color, ringWidth));
+    }
+    void paintAt(QPainter *painter, qreal value) const
+    {
+        painter->drawLine(m_dial.at(value, m_range, m_dial.disc + 2),
+                          m_dial.at(value, m_range, m_dial.radius - 0.5));
+    }
+
+    const DialParts &m_dial;
+    qreal m_range;
+    qreal m_interval;
+};
+
+void paintDiscGround(const Call &call, const DialParts &dial, QPainter *painter)
 {
-    painter->setRenderHint(QPainter::Antialiasing);
-    if (dial.option->subControls & QStyle::SC_DialTickmarks)
-        paintDialTicks(dial, painter, call.shades().outline);
     const QColor light = call.shades().outline;
     QLinearGradient gradient(0, dial.centre.y() - dial.disc, 0, dial.centre.y() + dial.disc);
     gradient.setColorAt(0, light.lighter(call.has(QStyle::State_MouseOver) ? 150 : 130));
     gradient.setColorAt(1, light.lighter(110));
-    painter->setPen(QPen(light, ringWidth));
-    painter->setBrush(call.isEnabled() ? QBrush(gradient) : QBrush(Qt::NoBrush));
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(gradient);
     painter->drawEllipse(dial.centre, dial.disc, dial.disc);
+}
+
+void paintDiscRing(const Call &call, const DialParts &dial, QPainter *painter)
+{
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(call.shades().outline, ringWidth));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawEllipse(dial.centre, dial.disc, dial.disc);
+}
+
+void paintDisc(const Call &call, const DialParts &dial)
+{
+    const auto draw = [&](int what, quint64 marks, const auto &paint) {
+        const int state = stateBits(call, QStyle::State_Enabled | QStyle::State_MouseOver);
+        Kept::Key key = call.key(what, dial.option->rect.size(), state);
+        key.marks = marks;
+        call.face.kept.draw(call.painter, QPoint(), key, paint);
+    };
+    const auto paintGround = [&](QPainter *painter) {
+        if (call.isEnabled())
+            paintDiscGround(call, dial, painter);
+    };
+    const auto paintRing = [&](QPainter *painter) { paintDiscRing(call, dial, painter); };
+
+    const DialMarks marks(dial);
+    if (marks.isEmpty()) {
+        draw(DiscDrawing, 0, [&](QPainter *painter) {
+            paintGround(painter);
+            paintRing(painter);
+        });
+        return;
+    }
+    // Smoothed edges that lie on each other are kept apart: together their pixels would be rounded
+    // in another way than one after the other.
+    draw(MarksDrawing, marks.key(),
+         [&](QPainter *painter) { marks.paint(painter, call.shades().outline); });
+    marks.paintLast(call.painter, call.shades().outline);
+    draw(DiscGroundDrawing, 0, paintGround);
+    draw(RingDrawing, 0, paintRing);
 }
 
 } // namespace
@@ -328,14 +413,7 @@ void paintDial(const Call &call)
     const DialParts dial(option);
     const PainterSaver saver(call.painter);
     call.painter->translate(option->rect.topLeft());
-    if (option->subControls & QStyle::SC_DialTickmarks) {
-        paintDisc(call, dial, call.painter);
-    } else {
-        const int state = stateBits(call, QStyle::State_Enabled | QStyle::State_MouseOver);
-        call.face.kept.draw(call.painter, QPoint(),
-                            call.key(DiscDrawing, option->rect.size(), state),
-                            [&](QPainter *painter) { paintDisc(call, dial, painter); });
-    }
+    paintDisc(call, dial);
     setShape(call.painter, call, call.shades().contour, Qt::NoBrush);
     call.painter->drawEllipse(dial.knobCentre(), dial.knob, dial.knob);
     call.painter->translate(-option->rect.topLeft());
