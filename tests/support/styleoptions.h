@@ -42,6 +42,10 @@ OPTION(MenuItem, FIELD(menuItemType), FIELD(checkType), FIELD(checked), FIELD(te
        FIELD(maxIconWidth), visitMoved(o, QtVersion::setShortcutWidth, "shortcutWidth", 0, visit))
 OPTION(Header, FIELD(text), FIELD(icon), FIELD(position), FIELD(sortIndicator), FIELD(orientation))
 OPTION(DockWidget, FIELD(title), FIELD(verticalTitleBar))
+OPTION(ViewItem, FIELD(displayAlignment), FIELD(decorationAlignment), FIELD(textElideMode),
+       FIELD(decorationPosition), FIELD(decorationSize), FIELD(font), FIELD(showDecorationSelected),
+       FIELD(features), FIELD(checkState), FIELD(icon), FIELD(text), FIELD(viewItemPosition),
+       FIELD(backgroundBrush))
 OPTION(ToolBar, FIELD(positionOfLine), FIELD(toolBarArea))
 OPTION(Complex, FIELD(subControls), FIELD(activeSubControls))
 COMPLEX_OPTION(Slider, FIELD(minimum), FIELD(maximum), FIELD(sliderPosition), FIELD(sliderValue),

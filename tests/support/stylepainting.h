@@ -168,32 +168,12 @@ inline QRegion painted(const QImage &image, const QColor &ground = background)
     return units;
 }
 
-/// Whether all \a units have \a color.
-inline bool isFilled(const QImage &image, const QRect &units, const QColor &color)
-{
-    return !painted(image, color).intersects(units);
-}
-
 inline int unitCount(const QRegion &units)
 {
     int count = 0;
     for (const QRect &rect : units)
         count += rect.width() * rect.height();
     return count;
-}
-
-/// Where an arrow points to: it is narrower there.
-inline Qt::ArrowType directionOf(const QRegion &arrow)
-{
-    const QRect r = arrow.boundingRect();
-    const bool isUpright = r.width() > r.height();
-    const QSize line = isUpright ? QSize(r.width(), 1) : QSize(1, r.height());
-    const int first = unitCount(arrow & QRect(r.topLeft(), line));
-    const int last = unitCount(
-        arrow & QRect(r.bottomRight() - QPoint(line.width() - 1, line.height() - 1), line));
-    if (isUpright)
-        return first < last ? Qt::UpArrow : Qt::DownArrow;
-    return first < last ? Qt::LeftArrow : Qt::RightArrow;
 }
 
 } // namespace StylePainting

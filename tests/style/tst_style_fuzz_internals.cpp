@@ -1,0 +1,547 @@
+#include "styleoptions.h"
+#include "stylepainting.h"
+
+#include <nocturne/painting/kepttext_p.h>
+
+#include <QtCore/QRandomGenerator>
+#include <QtGui/QTextOption>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QMainWindow>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QTabBar>
+#include <QtWidgets/QTextEdit>
+#include <QtWidgets/QToolBar>
+
+#include <limits>
+#include <memory>
+#include <type_traits>
+
+// Options that no widget makes: every type in the place of every other, with anything in its
+// fields. The style must come back, in time, with the painter as it was, having painted nothing
+// where there is no option or no room. And text that was shaped earlier must look as if it was
+// shaped on the spot: random labels and items are drawn both ways, and every pixel is compared.
+
+using namespace StylePainting;
+namespace KeptText = Nocturne::KeptText;
+
+namespace {
+
+/// More are tried by hand: NOCTURNE_SEEDS=100 tst_style_fuzz_internals
+const int textRounds = 1000 * qMax(1, qEnvironmentVariableIntValue("NOCTURNE_SEEDS"));
+constexpr int styleRounds = 40000;
+
+/// The elements that the style paints itself, as its table lists them; the common style does not
+/// stand everything. Without the separator of tool bars, which leaves its pen.
+template <typename Element>
+QVector<Element> ownElements()
+{
+    QFile file(QStringLiteral(NOCTURNE_SOURCE_DIR "/tests/style/data/elements.txt"));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s is missing", qPrintable(file.fileName()));
+    QVector<Element> elements;
+    for (const QByteArray &line : file.readAll().split('\n')) {
+        const QByteArray name = line.split(' ').first();
+        bool isKnown = false;
+        const int element = QMetaEnum::fromType<Element>().keyToValue(name, &isKnown);
+        if (isKnown && name != "PE_IndicatorToolBarSeparator"
+            && !elements.contains(Element(element)))
+            elements << Element(element);
+    }
+    return elements;
+}
+
+/// Palettes from which sums and factors leave the range of a colour, or that hold no colours.
+QVector<QPalette> extremePalettes()
+{
+    QPalette gradient = themePalette();
+    gradient.setBrush(QPalette::Window, QLinearGradient(0, 0, 0, 10));
+    QPalette texture = themePalette();
+    texture.setBrush(QPalette::Window, QBrush(QPixmap(4, 4)));
+    return {themePalette(),
+            QPalette(Qt::black),
+            QPalette(Qt::white),
+            QPalette(QColor()),
+            QPalette(QColor(1, 2, 3, 0)),
+            gradient,
+            texture};
+}
+
+/// Everything of a painter that an element could leave changed.
+QVariantList stateOf(const QPainter &painter)
+{
+    return {painter.pen(),        painter.brush(),
+            painter.font(),       int(painter.renderHints()),
+            painter.transform(),  painter.hasClipping(),
+            painter.clipRegion(), painter.opacity()};
+}
+
+template <typename Enum, typename... Enums>
+constexpr bool isOneOf = (std::is_same_v<Enum, Enums> || ...);
+
+/// Values of all kinds, the same in the same order for a seed, and options that are filled with
+/// them. The last option made stays until the next.
+class Random
+{
+public:
+    explicit Random(int seed)
+        : m_generator(quint32(seed))
+    {}
+
+    int below(int limit) { return m_generator.bounded(limit); }
+    bool oneIn(int count) { return below(count) == 0; }
+    template <typename Value>
+    Value oneOf(const QVector<Value> &values)
+    {
+        return values.at(below(values.size()));
+    }
+    /// Each of them with a chance of one in \a count.
+    int someOf(std::initializer_list<int> flags, int count = 5)
+    {
+        int result = 0;
+        for (int flag : flags)
+            result |= oneIn(count) ? flag : 0;
+        return result;
+    }
+
+    QString text()
+    {
+        static const QStringList texts =
+            QString::fromUtf8(
+                "Button|Quick fox|&Open file|Save && close|a &b &c|end&|&|A\tB|\t|two\nlines||x|"
+                "&Item\tCtrl+I|مرحبا بالعالم|&مرحبا|שלום עולם|abc שלום 123|شكرا (thanks)|\u200fabc|"
+                "हिन्दी पाठ|ไทย|日本語テキスト|😀 emoji 👍🏽|  lead, "
+                "trail "
+                " "
+                "|fi "
+                "ffl "
+                "AVAToWa|one\u2028two|"
+                "a\u0301e\u0308|a\u00adb\u200bc\u00a0d|this is a rather long text that goes on and "
+                "on")
+                .split('|');
+        return oneIn(3) ? QStringLiteral("Item 12") : texts.at(below(texts.size()));
+    }
+    QFont font()
+    {
+        QFont font(oneOf<QString>(
+            {"DejaVu Sans", "DejaVu Serif", "Liberation Sans", "Noto Sans Mono", "Nimbus Sans"}));
+        if (oneIn(2))
+            font.setPixelSize(8 + below(20));
+        else
+            font.setPointSizeF(6 + below(40) / 4.0);
+        font.setBold(oneIn(3));
+        font.setItalic(oneIn(3));
+        font.setUnderline(oneIn(6));
+        font.setStrikeOut(oneIn(9));
+        font.setOverline(oneIn(9));
+        font.setKerning(!oneIn(9));
+        font.setLetterSpacing(QFont::AbsoluteSpacing, oneIn(5) ? 1.3 : 0.0);
+        font.setWordSpacing(oneIn(7) ? 2.5 : 0.0);
+        font.setStretch(oneIn(6) ? 80 + below(50) : 100);
+        font.setCapitalization(oneIn(6) ? QFont::AllUppercase : QFont::MixedCase);
+        font.setHintingPreference(QFont::HintingPreference(below(4)));
+        font.setStyleStrategy(oneIn(9) ? QFont::NoAntialias : QFont::PreferDefault);
+        return font;
+    }
+    /// Of a text: mostly one line in one place.
+    int flags()
+    {
+        return oneOf<int>({0, Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter, Qt::AlignJustify,
+                           Qt::AlignLeft | Qt::AlignRight})
+               | oneOf<int>({0, Qt::AlignTop, Qt::AlignBottom, Qt::AlignVCenter,
+                             Qt::AlignVCenter | Qt::AlignBottom})
+               | someOf({Qt::TextShowMnemonic, Qt::TextSingleLine}, 2)
+               | someOf({Qt::AlignAbsolute, Qt::TextHideMnemonic, Qt::TextDontClip})
+               | (oneIn(4) ? someOf({Qt::TextWordWrap, Qt::TextExpandTabs, Qt::TextForceRightToLeft,
+                                     Qt::TextForceLeftToRight, Qt::TextIncludeTrailingSpaces})
+                           : 0);
+    }
+    QSize size() { return QSize(below(60) - 10, below(60) - 10); }
+    /// One in three has no inside, hardly any, or more than any device.
+    QRect rect()
+    {
+        static const QVector<QRect> extremes = {
+            {},           {5, 5, 0, 20}, {5, 5, 20, 0},      {5, 5, -7, -9},
+            {5, 5, 1, 1}, {5, 5, 2, 3},  {-50, -50, 30, 20}, {-100000, -100000, 200000, 200000}};
+        return oneIn(3) ? oneOf(extremes)
+                        : QRect(below(30) - 10, below(30) - 10, below(180), below(60));
+    }
+
+    template <typename Option>
+    std::shared_ptr<Option> option()
+    {
+        auto option = std::make_shared<Option>();
+        pick(option->state);
+        option->rect = rect();
+        option->direction = Qt::LayoutDirection(below(2));
+        option->palette = oneOf(m_palettes);
+        option->palette.setCurrentColorGroup(QPalette::ColorGroup(below(3)));
+        StyleOptions::visitFields(*option, [this](const char *, auto &field) { pick(field); });
+        if constexpr (std::is_base_of_v<QStyleOptionComplex, Option>)
+            option->activeSubControls = QStyle::SubControls(below(2) ? 0 : 1 << below(10));
+        if constexpr (std::is_same_v<QStyleOptionToolBar, Option>)
+            option->toolBarArea = Qt::ToolBarArea(1 << below(4));
+        if constexpr (std::is_same_v<QStyleOptionProgressBar, Option>)
+            option->maximum = oneIn(2) ? option->minimum : option->maximum; // busy
+        return option;
+    }
+    const QStyleOption *simple()
+    {
+        if (oneIn(3))
+            return complex();
+        return anyOf<QStyleOption, QStyleOptionButton, QStyleOptionFrame, QStyleOptionTab,
+                     QStyleOptionTabWidgetFrame, QStyleOptionTabBarBase, QStyleOptionProgressBar,
+                     QStyleOptionMenuItem, QStyleOptionHeader, QStyleOptionDockWidget,
+                     QStyleOptionToolBar, QStyleOptionFocusRect, QStyleOptionRubberBand,
+                     QStyleOptionViewItem>();
+    }
+    const QStyleOptionComplex *complex()
+    {
+        return static_cast<const QStyleOptionComplex *>(
+            anyOf<QStyleOptionComplex, QStyleOptionSlider, QStyleOptionSpinBox,
+                  QStyleOptionToolButton, QStyleOptionComboBox, QStyleOptionTitleBar,
+                  QStyleOptionGroupBox>());
+    }
+
+private:
+    /// One of these types, or none at all.
+    template <typename... Options>
+    const QStyleOption *anyOf()
+    {
+        static constexpr void (Random::*makers[])() = {&Random::make<Options>...};
+        if (oneIn(20))
+            return nullptr;
+        (this->*makers[below(int(sizeof...(Options)))])();
+        return m_option.get();
+    }
+    template <typename Option>
+    void make()
+    {
+        m_option = option<Option>();
+    }
+
+    /// Mostly small, sometimes at an end of the range.
+    void pick(int &value)
+    {
+        const int numbers[] = {std::numeric_limits<int>::max(), std::numeric_limits<int>::min(),
+                               static_cast<int>(m_generator.generate())};
+        const int which = below(8);
+        value = which < 3 ? numbers[which] : below(120) - 20;
+    }
+    void pick(bool &value) { value = oneIn(2); }
+    void pick(QIcon &value) { value = oneIn(2) ? QIcon() : m_icon; }
+    void pick(QSize &value) { value = size(); }
+    void pick(QRect &value) { value = rect(); }
+    void pick(QFont &value) { value = font(); }
+    void pick(QBrush &value) { value = oneIn(5) ? QBrush(Qt::darkGreen) : QBrush(); }
+    void pick(QString &value) { value = oneIn(9) ? QString(400, QLatin1Char('w')) : text(); }
+    void pick(Qt::Alignment &value) { value = Qt::Alignment(flags() & 0xff); }
+    template <typename Enum, typename = std::enable_if_t<std::is_enum_v<Enum>>>
+    void pick(Enum &value)
+    {
+        // The others have at most four values, or room for so many.
+        constexpr bool hasEight =
+            isOneOf<Enum, QTabBar::Shape, Qt::ArrowType, Qt::ToolButtonStyle,
+                    QStyleOptionMenuItem::MenuItemType, QStyleOptionViewItem::ViewItemPosition>;
+        value = static_cast<Enum>(below(hasEight ? 8 : 4));
+    }
+    template <typename Enum>
+    void pick(QFlags<Enum> &value)
+    {
+        value = QFlags<Enum>(static_cast<int>(m_generator.generate() & 0x7fffffff));
+    }
+
+    QRandomGenerator m_generator;
+    const QVector<QPalette> m_palettes = extremePalettes();
+    const QIcon m_icon = redIcon();
+    std::shared_ptr<QStyleOption> m_option;
+};
+
+/// A painter as any widget could leave it.
+class Setting
+{
+public:
+    Setting(Random &random, const QFont &font)
+        : m_font(font)
+        , m_pen(random.oneIn(5) ? QBrush(Qt::Dense4Pattern)
+                                : QColor(200, 100, 50, random.oneIn(2) ? 255 : 128),
+                1.0)
+        , m_direction(Qt::LayoutDirection(random.below(3)))
+        , m_mode(random.oneIn(9) ? Qt::OpaqueMode : Qt::TransparentMode)
+        , m_ratio(random.oneOf<double>({1.0, 1.5, 2.0}))
+        , m_isClipped(random.oneIn(5))
+    {
+        if (random.oneIn(6))
+            m_transform.translate(random.below(100) / 50.0, random.below(100) / 50.0);
+        if (random.oneIn(9))
+            m_transform.rotate(random.below(90));
+        if (random.oneIn(9))
+            m_transform.scale(1.3, 1.1);
+    }
+
+    /// What \a draw paints when it is called twice; null when it leaves the painter changed.
+    QImage picture(const Drawing &draw) const
+    {
+        QImage image(QSizeF(220 * m_ratio, 70 * m_ratio).toSize(),
+                     QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(m_ratio);
+        image.fill(background);
+        QPainter painter(&image);
+        painter.setFont(m_font);
+        painter.setPen(m_pen);
+        painter.setLayoutDirection(m_direction);
+        painter.setBackgroundMode(m_mode);
+        painter.setTransform(m_transform, true);
+        if (m_isClipped)
+            painter.setClipRect(30, 0, 60, 40);
+        const QVariantList state = stateOf(painter);
+        draw(painter);
+        draw(painter);
+        return stateOf(painter) == state ? image : QImage();
+    }
+
+private:
+    QFont m_font;
+    QPen m_pen;
+    Qt::LayoutDirection m_direction;
+    Qt::BGMode m_mode;
+    qreal m_ratio;
+    bool m_isClipped;
+    QTransform m_transform;
+};
+
+/// The style with the common style's items.
+class CommonItems : public DarkFusionStyle
+{
+public:
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        QCommonStyle::drawControl(element, option, painter, widget);
+    }
+    QRect subElementRect(SubElement element, const QStyleOption *option,
+                         const QWidget *widget) const override
+    {
+        return QCommonStyle::subElementRect(element, option, widget);
+    }
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                           const QWidget *widget) const override
+    {
+        return QCommonStyle::sizeFromContents(type, option, size, widget);
+    }
+};
+
+} // namespace
+
+class TestStyleFuzz : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void painting();
+    void geometry();
+    void hugeRange();
+    void keptTexts();
+    void keptItems();
+
+private:
+    template <typename Element, typename Make, typename Paint>
+    QString firstFault(Make make, Paint paint);
+    QString fault(const QStyleOption *option, const Drawing &paint);
+
+    DarkUX m_theme;
+    std::unique_ptr<DarkFusionStyle> m_style{m_theme.style()};
+    QMainWindow m_window;
+    QVector<const QWidget *> m_widgets;
+    QImage m_image;
+};
+
+void TestStyleFuzz::initTestCase()
+{
+    m_image = picture(QSize(64, 48), [](QPainter &) {});
+    auto *text = new QTextEdit;
+    m_window.setCentralWidget(text);
+    m_widgets = {nullptr,
+                 &m_window,
+                 m_window.addToolBar(QString()),
+                 text,
+                 text->verticalScrollBar(),
+                 new QComboBox(&m_window),
+                 new QPushButton(&m_window),
+                 new QTabBar(&m_window)};
+}
+
+/// What is wrong after \a paint with \a option, or nothing.
+QString TestStyleFuzz::fault(const QStyleOption *option, const Drawing &paint)
+{
+    const bool paintsNothing = !option || option->rect.isEmpty();
+    const QImage before = paintsNothing ? m_image.copy() : QImage();
+    QPainter painter(&m_image);
+    painter.setPen(QPen(Qt::magenta, 3, Qt::DashLine));
+    painter.setBrush(Qt::Dense4Pattern);
+    painter.setClipRect(0, 0, 55, 40);
+    painter.translate(2, 1);
+    const QVariantList state = stateOf(painter);
+    paint(painter);
+    if (stateOf(painter) != state)
+        return QStringLiteral("leaves the painter changed");
+    if (paintsNothing && m_image != before)
+        return QStringLiteral("paints something nowhere");
+    return QString();
+}
+
+template <typename Element, typename Make, typename Paint>
+QString TestStyleFuzz::firstFault(Make make, Paint paint)
+{
+    const QVector<Element> elements = ownElements<Element>();
+    Random random(0);
+    for (int round = 0; round < styleRounds; ++round) {
+        const Element element = random.oneOf(elements);
+        const auto *option = (random.*make)();
+        const QWidget *widget = random.oneOf(m_widgets);
+        const QString message = fault(option, [&](QPainter &painter) {
+            (m_style.get()->*paint)(element, option, &painter, widget);
+        });
+        if (!message.isEmpty())
+            return QStringLiteral("round %1, element %2: %3").arg(round).arg(element).arg(message);
+    }
+    return QString();
+}
+
+void TestStyleFuzz::painting()
+{
+    QCOMPARE(firstFault<QStyle::PrimitiveElement>(&Random::simple, &QStyle::drawPrimitive),
+             QString());
+    QCOMPARE(firstFault<QStyle::ControlElement>(&Random::simple, &QStyle::drawControl), QString());
+    QCOMPARE(firstFault<QStyle::ComplexControl>(&Random::complex, &QStyle::drawComplexControl),
+             QString());
+}
+
+/// The questions that layouts and mouse events ask.
+void TestStyleFuzz::geometry()
+{
+    Random random(0);
+    QVector<QStyle::ComplexControl> controls = ownElements<QStyle::ComplexControl>();
+    controls.removeOne(QStyle::CC_Dial); // has no parts to ask for
+    for (int round = 0; round < styleRounds; ++round) {
+        const QWidget *widget = random.oneOf(m_widgets);
+        const auto control = random.oneOf(controls);
+        const QStyleOptionComplex *complex = random.complex();
+        m_style->subControlRect(control, complex, QStyle::SubControl(1 << random.below(14)),
+                                widget);
+        m_style->hitTestComplexControl(control, complex, random.rect().topLeft(), widget);
+
+        // Beyond the last of each kind, too.
+        const QStyleOption *option = random.simple();
+        const int question = random.below(140) - 1;
+        m_style->subElementRect(QStyle::SubElement(question), option, widget);
+        m_style->sizeFromContents(QStyle::ContentsType(question), option, random.size(), widget);
+        m_style->pixelMetric(QStyle::PixelMetric(question), option, widget);
+        m_style->styleHint(QStyle::StyleHint(question), option, widget);
+        if (round % 50 == 0) {
+            m_style->standardPixmap(QStyle::StandardPixmap(question), option, widget);
+            m_style->standardIcon(QStyle::StandardPixmap(question), option, widget);
+        }
+    }
+}
+
+/// A range that a slider can really have, but that the toolkit's arithmetic does not stand.
+void TestStyleFuzz::hugeRange()
+{
+    auto huge = makeOption<QStyleOptionSlider>(QRect(0, 0, 120, 20));
+    huge.orientation = Qt::Horizontal;
+    huge.minimum = -1;
+    huge.maximum = std::numeric_limits<int>::max();
+    huge.tickPosition = QSlider::TicksBelow;
+    auto plain = huge;
+    plain.minimum = 0;
+    plain.maximum = 100;
+    for (const auto control : {QStyle::CC_Slider, QStyle::CC_ScrollBar}) {
+        const auto handle =
+            control == QStyle::CC_Slider ? QStyle::SC_SliderHandle : QStyle::SC_ScrollBarSlider;
+        for (bool isAtEnd : {false, true}) {
+            huge.sliderPosition = isAtEnd ? huge.maximum : huge.minimum;
+            plain.sliderPosition = isAtEnd ? plain.maximum : plain.minimum;
+            const QRect place = m_style->subControlRect(control, &huge, handle);
+            QCOMPARE(place.center().x() > 60, isAtEnd);
+            QCOMPARE(place, m_style->subControlRect(control, &plain, handle));
+            m_style->drawComplexControl(control, &huge, std::make_unique<QPainter>(&m_image).get());
+        }
+    }
+}
+
+void TestStyleFuzz::keptTexts()
+{
+    Random random(0);
+    for (int round = 0; round < textRounds; ++round) {
+        const QString text = random.text();
+        const QFont font = random.font();
+        const Setting setting(random, font);
+        const int flags = random.flags();
+        QTextOption option(
+            Qt::Alignment(flags & (Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask)));
+        option.setTextDirection(Qt::LayoutDirection(random.below(3)));
+        const QRectF rect(random.below(160) / 4.0, random.below(120) / 4.0, random.below(800) / 4.0,
+                          random.below(200) / 4.0);
+        const bool byFlags = random.oneIn(2);
+        const QImage kept = setting.picture([&](QPainter &painter) {
+            if (byFlags)
+                KeptText::draw(&painter, rect, flags, text);
+            else
+                KeptText::draw(&painter, rect, text, option);
+        });
+        const QImage shaped = setting.picture([&](QPainter &painter) {
+            if (byFlags)
+                painter.drawText(rect, flags, text);
+            else
+                painter.drawText(rect, text, option);
+        });
+        QVERIFY2(!kept.isNull() && kept == shaped, qPrintable(QString::number(round) + text));
+
+        const QFontMetrics metrics(font);
+        const auto mode = Qt::TextElideMode(random.below(4));
+        const int width = random.below(220);
+        for (int time = 0; time < 2; ++time) {
+            QCOMPARE(KeptText::boundingRect(metrics, text), metrics.boundingRect(text));
+            QCOMPARE(KeptText::horizontalAdvance(metrics, text), metrics.horizontalAdvance(text));
+            QCOMPARE(KeptText::elided(font, text, mode, width),
+                     metrics.elidedText(text, mode, width));
+        }
+    }
+}
+
+/// In places and pixels as the common style shows them.
+void TestStyleFuzz::keptItems()
+{
+    const CommonItems commonItems;
+    const QStyle &common = commonItems;
+    Random random(0);
+    for (int round = 0; round < textRounds; ++round) {
+        const auto item = random.option<QStyleOptionViewItem>();
+        item->fontMetrics = QFontMetrics(item->font);
+        item->features.setFlag(QStyleOptionViewItem::HasDisplay, !random.oneIn(4));
+        item->state.setFlag(QStyle::State_Editing, random.oneIn(20));
+        if (item->features & QStyleOptionViewItem::WrapText && random.oneIn(2))
+            item->rect.setWidth(item->fontMetrics.horizontalAdvance(item->text)
+                                + random.below(12)); // about as wide as the line
+        const Setting setting(random, random.font());
+        const auto facesOf = [&](const QStyle &style) {
+            QVariantList faces = {
+                style.sizeFromContents(QStyle::CT_ItemViewItem, item.get(), QSize())};
+            for (auto element :
+                 {QStyle::SE_ItemViewItemCheckIndicator, QStyle::SE_ItemViewItemDecoration,
+                  QStyle::SE_ItemViewItemText, QStyle::SE_ItemViewItemFocusRect})
+                faces << style.subElementRect(element, item.get());
+            return faces << setting.picture([&](QPainter &painter) {
+                style.drawControl(QStyle::CE_ItemViewItem, item.get(), &painter);
+            });
+        };
+        const QVariantList faces = facesOf(*m_style);
+        QVERIFY2(!faces.last().value<QImage>().isNull() && faces == facesOf(common),
+                 qPrintable(QString::number(round) + item->text));
+    }
+}
+
+NOCTURNE_TEST_MAIN(TestStyleFuzz)
+#include "tst_style_fuzz_internals.moc"
