@@ -36,6 +36,12 @@ inline bool sendDrag(QWidget *widget, const QPoint &position)
     return sendMouse(widget, QEvent::MouseMove, position, Qt::NoButton, Qt::LeftButton);
 }
 
+/// The key that is called Qt::Key_\a name.
+inline Qt::Key keyCalled(const QString &name)
+{
+    return Qt::Key(QMetaEnum::fromType<Qt::Key>().keyToValue(("Key_" + name).toLatin1()));
+}
+
 inline QWheelEvent wheelOver(const QWidget &widget, const QPoint &position = QPoint(5, 5))
 {
     return QWheelEvent(position, widget.mapToGlobal(position), QPoint(), QPoint(0, -120),
@@ -112,14 +118,14 @@ public:
     virtual QPoint grip() const { return {}; }
     /// Whether anything is left of a gesture.
     virtual bool isHeld() const = 0;
-    /// Does what the steps here do not know.
-    virtual void perform(const QString &verb, int number)
-    {
-        QFAIL(qPrintable(QString("%1 %2").arg(verb).arg(number)));
-    }
+    /// Does what the steps here do not know, and says whether it does.
+    virtual bool perform(const QString &, const QVector<int> &) { return false; }
 
     /// Carries out steps such as "press 20, move 30, release 30" and returns what was noted.
-    /// Presses, and moves with a button, that are left to the parent note "ignored".
+    /// Presses, and moves with a button, that are left to the parent note "ignored". "key Left"
+    /// presses that key and "ctrl 1" holds one; a second number of a place is further down; the
+    /// name of a property or a slot sets or calls it, as in "value 7" and "setSpan 1 2", and with a
+    /// question mark notes it, as in "value?".
     QString run(const QString &script)
     {
         static const QHash<QString, std::pair<QEvent::Type, Qt::MouseButton>> events = {
@@ -130,34 +136,46 @@ public:
             {"double", {QEvent::MouseButtonDblClick, Qt::LeftButton}},
             {"move", {QEvent::MouseMove, Qt::NoButton}}};
         for (const QString &step : script.split(", ", Qt::SkipEmptyParts)) {
-            const QString verb = step.section(' ', 0, 0);
-            const int number = step.section(' ', 1).toInt();
+            const QStringList words = step.split(' ');
+            const QString &verb = words.first();
+            QVector<int> numbers;
+            for (const QString &word : words.mid(1))
+                numbers << word.toInt();
+            const int number = numbers.value(0);
             if (events.contains(verb))
-                send(events[verb].first, place(number) + grip(), events[verb].second);
+                send(events[verb].first, place(number) + grip() + QPoint(0, numbers.value(1)),
+                     events[verb].second);
+            else if (verb == "ctrl")
+                m_modifiers.setFlag(Qt::ControlModifier, number);
+            else if (verb == "shift")
+                m_modifiers.setFlag(Qt::ShiftModifier, number);
+            else if (verb == "drag") // from the first place to the others
+                drag(numbers);
             else if (verb == "jump") // to the place itself
                 send(QEvent::MouseButtonPress, place(number), Qt::LeftButton);
             else if (verb == "leave") // the drag area
                 send(QEvent::MouseMove, place(number) + QPoint(60, 60), Qt::NoButton);
             else if (verb == "held")
                 note("held")(isHeld());
-            else if (!showOrTakeAway(verb))
-                perform(verb, number);
+            else if (verb == "key")
+                QTest::keyPress(this, keyCalled(words.at(1)), m_modifiers);
+            else if (!perform(verb, numbers) && !showOrTakeAway(verb) && !access(verb, numbers))
+                qFatal("unknown: %s", qPrintable(step));
         }
         return takeLog();
     }
 
-    bool send(QEvent::Type type, const QPoint &point, Qt::MouseButton button,
-              Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    bool send(QEvent::Type type, const QPoint &point, Qt::MouseButton button)
     {
         m_buttons.setFlag(button, button && type != QEvent::MouseButtonRelease);
-        const bool taken = sendMouse(this, type, point, button, m_buttons, modifiers);
+        const bool taken = sendMouse(this, type, point, button, m_buttons, m_modifiers);
         if (!taken && m_buttons && type != QEvent::MouseButtonRelease)
             m_log << "ignored";
         return taken;
     }
 
     /// A slot that adds the name and the values of a signal to the log.
-    auto note(const char *name)
+    auto note(const QString &name)
     {
         return [this, name](auto... values) {
             const QStringList entry{name, QString::number(values)...};
@@ -168,6 +186,29 @@ public:
     QString takeLog() { return std::exchange(m_log, {}).join(", "); }
 
 private:
+    void drag(const QVector<int> &numbers)
+    {
+        send(QEvent::MouseButtonPress, place(numbers.first()) + grip(), Qt::LeftButton);
+        for (int number : numbers.mid(1))
+            send(QEvent::MouseMove, place(number) + grip(), Qt::NoButton);
+        send(QEvent::MouseButtonRelease, place(numbers.last()) + grip(), Qt::LeftButton);
+    }
+
+    bool access(const QString &name, QVector<int> numbers)
+    {
+        const QByteArray latin = name.toLatin1();
+        if (name.endsWith('?')) {
+            note(name.chopped(1) + ' ' + this->property(latin.chopped(1)).toString())();
+            return true;
+        }
+        if (this->metaObject()->indexOfProperty(latin) >= 0)
+            return this->setProperty(latin, numbers.value(0));
+        QGenericArgument arguments[3];
+        for (int i = 0; i < numbers.size(); ++i)
+            arguments[i] = {"int", &numbers[i]};
+        return QMetaObject::invokeMethod(this, latin, arguments[0], arguments[1], arguments[2]);
+    }
+
     bool showOrTakeAway(const QString &verb)
     {
         if (verb == "show") {
@@ -205,6 +246,7 @@ private:
 
     QStringList m_log;
     Qt::MouseButtons m_buttons;
+    Qt::KeyboardModifiers m_modifiers;
     std::unique_ptr<QWidget> m_above;
 };
 
