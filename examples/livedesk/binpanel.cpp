@@ -1,16 +1,11 @@
-#include "binpanel.h"
-
-#include "desk.h"
+#include "panels.h"
 #include "testpictures.h"
 
 #include <nocturne/CroppingLabel>
 #include <nocturne/ItemDelegate>
 #include <nocturne/ListWidget>
 
-#include <QtCore/QEvent>
-#include <QtCore/QSignalBlocker>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
+#include <QtWidgets/QtWidgets>
 
 namespace {
 
@@ -23,59 +18,16 @@ QIcon thumbnail(const Clip &clip)
         picture.scaled(thumbnailSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
 
-} // namespace
-
-BinPanel::BinPanel(Desk *desk, QWidget *parent)
-    : QWidget(parent)
-    , m_desk(desk)
-    , m_list(new ListWidget)
-    , m_name(new CroppingLabel)
-    , m_remove(new QPushButton)
+void showClips(ListWidget *list, const DeskState &state)
 {
-    m_list->setObjectName(QStringLiteral("bin"));
-    m_list->setViewMode(QListView::IconMode);
-    m_list->setResizeMode(QListView::Adjust);
-    m_list->setIconSize(thumbnailSize);
-    m_list->setDragDropMode(QAbstractItemView::DragDrop);
-    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_list->setItemDelegate(new ItemDelegate(m_list));
-    m_name->setObjectName(QStringLiteral("clipName"));
-    m_name->setEditable(true);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(m_list, 1);
-    layout->addWidget(m_name);
-    layout->addWidget(m_remove);
-
-    connect(m_list, &ListWidget::dragDropFiles, desk, &Desk::addFiles);
-    connect(m_list, &ListWidget::itemMoved, this, &BinPanel::move);
-    connect(m_list, &QListWidget::currentRowChanged, desk, &Desk::select);
-    connect(m_name, &CroppingLabel::editFinished, this, &BinPanel::rename);
-    connect(m_remove, &QPushButton::clicked, desk,
-            [this] { m_desk->removeClip(m_list->currentRow()); });
-    connect(desk, &Desk::changed, this, &BinPanel::refresh);
-    retranslate();
-    refresh();
-}
-
-void BinPanel::changeEvent(QEvent *event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        retranslate();
-}
-
-void BinPanel::refresh()
-{
-    const QSignalBlocker blocker(m_list);
-    const DeskState &state = m_desk->state();
-    while (m_list->count() > state.clips.size())
-        delete m_list->takeItem(m_list->count() - 1);
+    const QSignalBlocker blocker(list);
+    while (list->count() > state.clips.size())
+        delete list->takeItem(list->count() - 1);
     for (int row = 0; row < state.clips.size(); ++row) {
         const Clip &clip = state.clips.at(row);
-        if (row == m_list->count())
-            m_list->addItem(new QListWidgetItem);
-        QListWidgetItem *item = m_list->item(row);
+        if (row == list->count())
+            list->addItem(new QListWidgetItem);
+        QListWidgetItem *item = list->item(row);
         const QVariant shown = QVariantList{clip.pattern, clip.in};
         if (item->data(Qt::UserRole) != shown) {
             item->setData(Qt::UserRole, shown);
@@ -83,30 +35,54 @@ void BinPanel::refresh()
         }
         item->setText(clip.name);
     }
-    m_list->setCurrentRow(state.current);
-
-    const Clip *clip = state.currentClip();
-    m_name->setText(clip ? clip->name : QString());
-    m_name->setEnabled(clip);
-    m_remove->setEnabled(clip);
+    list->setCurrentRow(state.current);
 }
 
-void BinPanel::retranslate()
+ListWidget *clipList(Desk *desk)
 {
-    m_remove->setText(tr("Remove clip"));
-    m_list->setToolTip(tr("Drop files here"));
+    auto *list = new ListWidget;
+    list->setObjectName("bin");
+    list->setViewMode(QListView::IconMode);
+    list->setResizeMode(QListView::Adjust);
+    list->setIconSize(thumbnailSize);
+    list->setDragDropMode(QAbstractItemView::DragDrop);
+    list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    list->setItemDelegate(new ItemDelegate(list));
+    QObject::connect(list, &ListWidget::dragDropFiles, desk, &Desk::addFiles);
+    QObject::connect(list, &ListWidget::itemMoved, desk,
+                     [=](QListWidgetItem *item, QListWidgetItem *target) {
+                         const int to = target ? list->row(target) : list->count() - 1;
+                         desk->moveClip(list->row(item), to);
+                     });
+    QObject::connect(list, &QListWidget::currentRowChanged, desk, &Desk::select);
+    desk->follow(list, [=] { showClips(list, desk->state()); });
+    desk->speak(list, [=] { list->setToolTip(Desk::tr("Drop files here")); });
+    return list;
 }
 
-void BinPanel::move(QListWidgetItem *item, QListWidgetItem *target)
-{
-    const int to = target ? m_list->row(target) : m_list->count() - 1;
-    m_desk->moveClip(m_list->row(item), to);
-}
+} // namespace
 
-void BinPanel::rename(const QString &name)
+QWidget *binPanel(Desk *desk)
 {
-    m_desk->edit(Desk::Clips, Desk::NewStep, tr("Rename clip"), [&](DeskState &state) {
-        if (state.currentClip())
-            state.clips[state.current].name = name.trimmed();
+    auto *name = new CroppingLabel;
+    name->setObjectName("clipName");
+    name->setEditable(true);
+    auto *remove = new QPushButton;
+
+    auto *panel = new QWidget;
+    auto *layout = new QVBoxLayout(panel);
+    layout->addWidget(clipList(desk), 1);
+    layout->addWidget(name);
+    layout->addWidget(remove);
+
+    QObject::connect(name, &CroppingLabel::editFinished, desk, &Desk::renameClip);
+    QObject::connect(remove, &QPushButton::clicked, desk, &Desk::removeClip);
+    desk->follow(panel, [=] {
+        const Clip *clip = desk->state().currentClip();
+        name->setText(clip ? clip->name : QString());
+        name->setEnabled(clip);
+        remove->setEnabled(clip);
     });
+    desk->speak(panel, [=] { remove->setText(Desk::tr("Remove clip")); });
+    return panel;
 }

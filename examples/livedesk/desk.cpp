@@ -6,27 +6,27 @@
 
 #include <QUndoCommand>
 
+#include <utility>
+
 class EditCommand : public QUndoCommand
 {
 public:
-    EditCommand(Desk *desk, Desk::Kind kind, Desk::Step step, const QString &text,
-                const DeskState &after)
+    EditCommand(Desk *desk, const QString &text, bool first, const DeskState &after)
         : QUndoCommand(text)
         , m_desk(desk)
-        , m_kind(kind)
-        , m_step(step)
+        , m_first(first)
         , m_before(desk->state())
         , m_after(after)
     {}
 
-    int id() const override { return m_kind; }
+    int id() const override { return 0; }
     void undo() override { m_desk->setState(m_before); }
     void redo() override { m_desk->setState(m_after); }
 
     bool mergeWith(const QUndoCommand *other) override
     {
         const auto *next = static_cast<const EditCommand *>(other);
-        if (next->m_step == Desk::NewStep)
+        if (next->m_first || next->text() != text())
             return false;
         m_after = next->m_after;
         return true;
@@ -34,23 +34,31 @@ public:
 
 private:
     Desk *m_desk;
-    Desk::Kind m_kind;
-    Desk::Step m_step;
+    bool m_first;
     DeskState m_before;
     DeskState m_after;
 };
 
-Desk::Desk(QObject *parent)
-    : QObject(parent)
-{}
-
-void Desk::edit(Kind kind, Step step, const QString &text,
-                const std::function<void(DeskState &)> &change)
+void Desk::edit(const QString &text, bool first, const std::function<void(DeskState &)> &change)
 {
     DeskState after = m_state;
     change(after);
-    if (!(after == m_state))
-        m_history.push(new EditCommand(this, kind, step, text, after));
+    if (after == m_state)
+        return;
+    const bool begin = std::exchange(m_begin, false);
+    m_history.push(new EditCommand(this, text, first || begin, after));
+}
+
+void Desk::follow(QObject *panel, const std::function<void()> &show)
+{
+    connect(this, &Desk::changed, panel, show);
+    show();
+}
+
+void Desk::speak(QObject *panel, const std::function<void()> &write)
+{
+    connect(this, &Desk::languageChanged, panel, write);
+    write();
 }
 
 void Desk::load(const DeskState &state)
@@ -70,7 +78,7 @@ void Desk::select(int row)
 
 void Desk::addFiles(const QStringList &files)
 {
-    edit(Clips, NewStep, tr("Add clips"), [&](DeskState &state) {
+    edit(tr("Add clips"), true, [&](DeskState &state) {
         for (const QString &file : files) {
             if (file.isEmpty())
                 continue;
@@ -87,31 +95,39 @@ void Desk::addFiles(const QStringList &files)
     });
 }
 
-void Desk::removeClip(int row)
-{
-    edit(Clips, NewStep, tr("Remove clip"), [=](DeskState &state) {
-        if (row < 0 || row >= state.clips.size())
-            return;
-        state.clips.removeAt(row);
-        if (state.current >= row)
-            state.current = qMax(state.current - 1, state.clips.isEmpty() ? -1 : 0);
-    });
-}
-
 void Desk::moveClip(int from, int to)
 {
-    edit(Clips, NewStep, tr("Move clip"), [=](DeskState &state) {
+    edit(tr("Move clip"), true, [=](DeskState &state) {
         const int last = state.clips.size() - 1;
         if (from < 0 || from > last || to < 0 || to > last)
             return;
         state.clips.move(from, to);
-        if (state.current == from)
-            state.current = to;
-        else if (from < state.current && to >= state.current)
-            --state.current;
-        else if (from > state.current && to <= state.current)
-            ++state.current;
+        state.current = to;
     });
+}
+
+void Desk::removeClip()
+{
+    edit(tr("Remove clip"), true, [](DeskState &state) {
+        if (!state.currentClip())
+            return;
+        state.clips.removeAt(state.current);
+        if (state.current > 0 || state.clips.isEmpty())
+            --state.current;
+    });
+}
+
+void Desk::renameClip(const QString &name)
+{
+    edit(tr("Rename clip"), true, [&](DeskState &state) {
+        if (Clip *clip = state.currentClip())
+            clip->name = name.trimmed();
+    });
+}
+
+void Desk::setAmount(double percent, bool first)
+{
+    edit(tr("Amount"), first, [=](DeskState &state) { state.look.amount = int(percent); });
 }
 
 void Desk::setState(const DeskState &state)

@@ -3,7 +3,6 @@
 #include "testpictures.h"
 
 #include <QtCore/QJsonArray>
-#include <QtGui/QKeySequence>
 
 #include <algorithm>
 #include <cmath>
@@ -14,39 +13,25 @@ constexpr int longestClip = 25 * 3600; // an hour
 constexpr int mostClips = 1000;
 constexpr int mostStops = 64;
 
-int boundedInt(const QJsonValue &value, int low, int high, int fallback)
+/// The number called \a key from \a low to \a high; \a fallback when there is none.
+int number(const QJsonObject &object, const char *key, int low, int high, int fallback)
 {
+    const QJsonValue value = object[QLatin1String(key)];
     if (!value.isDouble() || !std::isfinite(value.toDouble()))
         return fallback;
-    return int(qBound(double(low), value.toDouble(), double(high)));
-}
-
-QJsonObject clipToJson(const Clip &clip)
-{
-    return {{QStringLiteral("name"), clip.name},       {QStringLiteral("path"), clip.path},
-            {QStringLiteral("pattern"), clip.pattern}, {QStringLiteral("length"), clip.length},
-            {QStringLiteral("in"), clip.in},           {QStringLiteral("out"), clip.out}};
+    return int(std::clamp(value.toDouble(), double(low), double(high)));
 }
 
 Clip clipFromJson(const QJsonObject &object)
 {
     Clip clip;
-    clip.name = object.value(QStringLiteral("name")).toString();
-    clip.path = object.value(QStringLiteral("path")).toString();
-    clip.pattern = boundedInt(object.value(QStringLiteral("pattern")), 0, testPatternCount - 1, 0);
-    clip.length = boundedInt(object.value(QStringLiteral("length")), 2, longestClip, 250);
-    clip.in = boundedInt(object.value(QStringLiteral("in")), 0, clip.length - 1, 0);
-    clip.out =
-        boundedInt(object.value(QStringLiteral("out")), clip.in, clip.length - 1, clip.length - 1);
+    clip.name = object["name"].toString();
+    clip.path = object["path"].toString();
+    clip.pattern = number(object, "pattern", 0, testPatternCount - 1, 0);
+    clip.length = number(object, "length", 2, longestClip, 250);
+    clip.in = number(object, "in", 0, clip.length - 1, 0);
+    clip.out = number(object, "out", clip.in, clip.length - 1, clip.length - 1);
     return clip;
-}
-
-QJsonArray rampToJson(const Ramp &ramp)
-{
-    QJsonArray stops;
-    for (const QPair<double, QColor> &stop : ramp)
-        stops << QJsonArray{stop.first, stop.second.name(QColor::HexArgb)};
-    return stops;
 }
 
 Ramp rampFromJson(const QJsonArray &stops)
@@ -64,20 +49,14 @@ Ramp rampFromJson(const QJsonArray &stops)
 Look lookFromJson(const QJsonObject &object)
 {
     Look look;
-    look.black = boundedInt(object.value(QStringLiteral("black")), 0, 254, look.black);
-    look.white = boundedInt(object.value(QStringLiteral("white")), look.black + 1, 255, look.white);
-    look.amount = boundedInt(object.value(QStringLiteral("amount")), 0, 100, look.amount);
-    look.ramp = rampFromJson(object.value(QStringLiteral("ramp")).toArray());
-    look.position.setX(boundedInt(object.value(QStringLiteral("x")), -pictureSize.width(),
-                                  pictureSize.width(), 0));
-    look.position.setY(boundedInt(object.value(QStringLiteral("y")), -pictureSize.height(),
-                                  pictureSize.height(), 0));
+    look.black = number(object, "black", 0, 254, look.black);
+    look.white = number(object, "white", look.black + 1, 255, look.white);
+    look.amount = number(object, "amount", 0, 100, look.amount);
+    look.ramp = rampFromJson(object["ramp"].toArray());
+    look.x = number(object, "x", -pictureSize.width(), pictureSize.width(), 0);
+    look.y = number(object, "y", -pictureSize.height(), pictureSize.height(), 0);
+    look.transition = number(object, "transition", 1, 250, 25);
     return look;
-}
-
-QString shortcutFromJson(const QJsonValue &value, const QString &fallback)
-{
-    return value.isString() ? QKeySequence(value.toString()).toString() : fallback;
 }
 
 } // namespace
@@ -89,62 +68,40 @@ bool isSameRamp(const Ramp &a, const Ramp &b)
     });
 }
 
-bool Clip::operator==(const Clip &other) const
-{
-    return name == other.name && path == other.path && pattern == other.pattern
-           && length == other.length && in == other.in && out == other.out;
-}
-
-bool Look::operator==(const Look &other) const
-{
-    return black == other.black && white == other.white && amount == other.amount
-           && isSameRamp(ramp, other.ramp) && position == other.position;
-}
-
-bool DeskState::operator==(const DeskState &other) const
-{
-    return clips == other.clips && current == other.current && look == other.look
-           && transition == other.transition && takeShortcut == other.takeShortcut
-           && playShortcut == other.playShortcut;
-}
-
-const Clip *DeskState::currentClip() const
-{
-    return current >= 0 && current < clips.size() ? &clips.at(current) : nullptr;
-}
-
 QJsonObject DeskState::toJson() const
 {
-    QJsonArray list;
+    QJsonArray clipArray;
     for (const Clip &clip : clips)
-        list << clipToJson(clip);
-    const QJsonObject lookObject{
-        {QStringLiteral("black"), look.black},    {QStringLiteral("white"), look.white},
-        {QStringLiteral("amount"), look.amount},  {QStringLiteral("ramp"), rampToJson(look.ramp)},
-        {QStringLiteral("x"), look.position.x()}, {QStringLiteral("y"), look.position.y()},
-    };
-    return {{QStringLiteral("clips"), list},
-            {QStringLiteral("current"), current},
-            {QStringLiteral("look"), lookObject},
-            {QStringLiteral("transition"), transition},
-            {QStringLiteral("takeShortcut"), takeShortcut},
-            {QStringLiteral("playShortcut"), playShortcut}};
+        clipArray << QJsonObject{{"name", clip.name},       {"path", clip.path},
+                                 {"pattern", clip.pattern}, {"length", clip.length},
+                                 {"in", clip.in},           {"out", clip.out}};
+    QJsonArray rampArray;
+    for (const auto &stop : look.ramp)
+        rampArray << QJsonArray{stop.first, stop.second.name(QColor::HexArgb)};
+    const QJsonObject lookObject{{"black", look.black},
+                                 {"white", look.white},
+                                 {"amount", look.amount},
+                                 {"ramp", rampArray},
+                                 {"x", look.x},
+                                 {"y", look.y},
+                                 {"transition", look.transition}};
+    return {{"clips", clipArray},
+            {"current", current},
+            {"look", lookObject},
+            {"takeShortcut", takeShortcut},
+            {"playShortcut", playShortcut}};
 }
 
 DeskState DeskState::fromJson(const QJsonObject &object)
 {
     DeskState state;
-    for (const QJsonValue &value : object.value(QStringLiteral("clips")).toArray()) {
+    for (const QJsonValue &value : object["clips"].toArray()) {
         if (state.clips.size() < mostClips)
             state.clips << clipFromJson(value.toObject());
     }
-    state.current =
-        boundedInt(object.value(QStringLiteral("current")), -1, state.clips.size() - 1, -1);
-    state.look = lookFromJson(object.value(QStringLiteral("look")).toObject());
-    state.transition = boundedInt(object.value(QStringLiteral("transition")), 1, 250, 25);
-    state.takeShortcut =
-        shortcutFromJson(object.value(QStringLiteral("takeShortcut")), state.takeShortcut);
-    state.playShortcut =
-        shortcutFromJson(object.value(QStringLiteral("playShortcut")), state.playShortcut);
+    state.current = number(object, "current", -1, state.clips.size() - 1, -1);
+    state.look = lookFromJson(object["look"].toObject());
+    state.takeShortcut = object["takeShortcut"].toString(state.takeShortcut);
+    state.playShortcut = object["playShortcut"].toString(state.playShortcut);
     return state;
 }

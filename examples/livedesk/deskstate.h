@@ -3,10 +3,11 @@
 
 #include <QtCore/QJsonObject>
 #include <QtCore/QPair>
-#include <QtCore/QPoint>
 #include <QtCore/QString>
 #include <QtCore/QVector>
 #include <QtGui/QColor>
+
+#include <tuple>
 
 using Ramp = QVector<QPair<double, QColor>>;
 
@@ -23,34 +24,43 @@ struct Clip
     int in = 0;       ///< first frame shown
     int out = 249;    ///< last frame shown, at least in
 
-    bool operator==(const Clip &other) const;
+    auto fields() const { return std::tie(name, path, pattern, length, in, out); }
+    bool operator==(const Clip &other) const { return fields() == other.fields(); }
 };
 
-/// What is done to every picture.
+/// What is done to every picture, and how one follows another.
 struct Look
 {
     int black = 0;   ///< brightness that becomes black, 0 to 255
     int white = 255; ///< brightness that becomes white, above black
     int amount = 0;  ///< how much of the ramp is mixed in, in percent
     Ramp ramp = {{0.0, Qt::black}, {1.0, Qt::white}};
-    QPoint position; ///< of the picture in the frame, in pixels of 640 x 360
+    int x = 0; ///< of the picture in the frame, in pixels of 640 x 360
+    int y = 0;
+    int transition = 25; ///< length of a mix in frames, 1 to 250
 
-    bool operator==(const Look &other) const;
+    auto numbers() const { return std::tie(black, white, amount, x, y, transition); }
+    bool operator==(const Look &other) const
+    {
+        return numbers() == other.numbers() && isSameRamp(ramp, other.ramp);
+    }
 };
 
 /// Everything that can be undone, and that is kept from one start to the next.
 struct DeskState
 {
     QVector<Clip> clips;
-    int current = -1; ///< row of the clip in the preview, -1 for none
+    int current = -1; ///< row in clips of the one in the preview, -1 for none
     Look look;
-    int transition = 25; ///< length of a mix in frames, 1 to 250
-    QString takeShortcut = QStringLiteral("Return");
-    QString playShortcut = QStringLiteral("Space");
+    QString takeShortcut = "Return";
+    QString playShortcut = "Space";
 
-    bool operator==(const DeskState &other) const;
+    auto fields() const { return std::tie(clips, current, look, takeShortcut, playShortcut); }
+    bool operator==(const DeskState &other) const { return fields() == other.fields(); }
 
-    const Clip *currentClip() const;
+    /// Null for none.
+    const Clip *currentClip() const { return current < 0 ? nullptr : &clips.at(current); }
+    Clip *currentClip() { return current < 0 ? nullptr : &clips[current]; }
 
     QJsonObject toJson() const;
 

@@ -1,6 +1,4 @@
-#include "lookpanel.h"
-
-#include "desk.h"
+#include "panels.h"
 #include "testpictures.h"
 
 #include <nocturne/GradientTool>
@@ -8,131 +6,107 @@
 #include <nocturne/SpanSlider>
 #include <nocturne/SpinBox>
 
-#include <QtCore/QEvent>
-#include <QtCore/QSignalBlocker>
-#include <QtWidgets/QFormLayout>
-#include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QLabel>
+#include <QtWidgets/QtWidgets>
 
-#include <utility>
+namespace {
 
-LookPanel::LookPanel(Desk *desk, QWidget *parent)
-    : QWidget(parent)
-    , m_desk(desk)
-    , m_levels(new SpanSlider(Qt::Horizontal))
-    , m_ramp(new GradientTool)
-    , m_amount(new Slider(Qt::Horizontal))
-    , m_x(positionBox(QStringLiteral("x"), pictureSize.width(), true))
-    , m_y(positionBox(QStringLiteral("y"), pictureSize.height(), false))
-    , m_transition(new SpinBox)
-    , m_levelsLabel(new QLabel)
-    , m_rampLabel(new QLabel)
-    , m_amountLabel(new QLabel)
-    , m_positionLabel(new QLabel)
-    , m_transitionLabel(new QLabel)
+QWidget *levelsControl(Desk *desk)
 {
-    m_levels->setObjectName(QStringLiteral("levels"));
-    m_levels->setRange(0, 255);
-    m_levels->setHandleMovementMode(SpanSlider::NoOverlapping);
-    m_ramp->setObjectName(QStringLiteral("ramp"));
-    m_ramp->setFixedHeight(48);
-    m_amount->setObjectName(QStringLiteral("amount"));
-    m_amount->setRange(0, 100);
-    m_transition->setObjectName(QStringLiteral("transition"));
-    m_transition->setRange(1, 250);
-
-    auto *position = new QHBoxLayout;
-    position->addWidget(m_x);
-    position->addWidget(m_y);
-    auto *form = new QFormLayout(this);
-    form->addRow(m_levelsLabel, m_levels);
-    form->addRow(m_rampLabel, m_ramp);
-    form->addRow(m_amountLabel, m_amount);
-    form->addRow(m_positionLabel, position);
-    form->addRow(m_transitionLabel, m_transition);
-
-    connect(m_levels, &SpanSlider::sliderPressed, this, [this] { m_newLevels = true; });
-    connect(m_levels, &SpanSlider::spanChanged, this, [this](int black, int white) {
-        const bool first = std::exchange(m_newLevels, false) || !m_levels->isSliderDown();
-        m_desk->edit(Desk::Levels, first ? Desk::NewStep : Desk::SameGesture, tr("Levels"),
-                     [=](DeskState &state) {
-                         state.look.black = black;
-                         state.look.white = white;
-                     });
+    auto *slider = new SpanSlider(Qt::Horizontal);
+    slider->setObjectName("levels");
+    slider->setRange(0, 255);
+    slider->setHandleMovementMode(SpanSlider::NoOverlapping);
+    QObject::connect(slider, &SpanSlider::sliderPressed, desk, &Desk::beginGesture);
+    QObject::connect(slider, &SpanSlider::spanChanged, desk, [=](int black, int white) {
+        desk->edit(Desk::tr("Levels"), !slider->isSliderDown(), [=](DeskState &state) {
+            state.look.black = black;
+            state.look.white = white;
+        });
     });
+    desk->follow(slider, [=] {
+        const QSignalBlocker blocker(slider);
+        slider->setSpan(desk->state().look.black, desk->state().look.white);
+    });
+    return slider;
+}
+
+QWidget *rampControl(Desk *desk)
+{
+    auto *tool = new GradientTool;
+    tool->setObjectName("ramp");
+    tool->setFixedHeight(48);
     // A press that adds a stop and the drag that moves it are one gesture.
-    connect(m_ramp, &GradientTool::mousePressed, this, [this] { m_newRamp = true; });
-    connect(m_ramp, &GradientTool::rampChanged, this, [this](double, bool first) {
-        if (m_ramp->isMousePressed())
-            first = std::exchange(m_newRamp, false);
-        m_desk->edit(Desk::Grade, first ? Desk::NewStep : Desk::SameGesture, tr("Colour ramp"),
-                     [this](DeskState &state) { state.look.ramp = m_ramp->getRamp(); });
+    QObject::connect(tool, &GradientTool::mousePressed, desk, &Desk::beginGesture);
+    QObject::connect(tool, &GradientTool::rampChanged, desk, [=](double, bool first) {
+        desk->edit(Desk::tr("Colour ramp"), first && !tool->isMousePressed(),
+                   [=](DeskState &state) { state.look.ramp = tool->getRamp(); });
     });
-    connect(m_amount, &Slider::valueChanged, this,
-            [this](double value, bool first) { setAmount(int(value), first); });
-    connect(m_transition, QOverload<double, bool>::of(&SpinBox::valueChanged), this,
-            [this](double value, bool first) {
-                m_desk->edit(Desk::Transition, first ? Desk::NewStep : Desk::SameGesture,
-                             tr("Transition"),
-                             [=](DeskState &state) { state.transition = int(value); });
-            });
-    connect(desk, &Desk::changed, this, &LookPanel::refresh);
-    retranslate();
-    refresh();
+    desk->follow(tool, [=] {
+        if (!isSameRamp(tool->getRamp(), desk->state().look.ramp))
+            tool->setRamp(desk->state().look.ramp);
+    });
+    return tool;
 }
 
-void LookPanel::setAmount(int percent, bool newStep)
+QWidget *amountControl(Desk *desk)
 {
-    m_desk->edit(Desk::Amount, newStep ? Desk::NewStep : Desk::SameGesture, tr("Amount"),
-                 [=](DeskState &state) { state.look.amount = percent; });
+    auto *slider = new Slider(Qt::Horizontal);
+    slider->setObjectName("amount");
+    slider->setRange(0, 100);
+    QObject::connect(slider, &Slider::valueChanged, desk, &Desk::setAmount);
+    QObject::connect(slider, &QSlider::valueChanged, desk, [=](int value) { // by keys
+        if (!slider->isMousePressed())
+            desk->setAmount(value, true);
+    });
+    desk->follow(slider, [=] { slider->positionChange(desk->state().look.amount); });
+    return slider;
 }
 
-void LookPanel::changeEvent(QEvent *event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        retranslate();
-}
-
-void LookPanel::refresh()
-{
-    const Look &look = m_desk->state().look;
-    const QSignalBlocker blockLevels(m_levels);
-    const QSignalBlocker blockX(m_x);
-    const QSignalBlocker blockY(m_y);
-    const QSignalBlocker blockTransition(m_transition);
-    m_levels->setSpan(look.black, look.white);
-    if (!isSameRamp(m_ramp->getRamp(), look.ramp))
-        m_ramp->setRamp(look.ramp);
-    m_amount->positionChange(look.amount);
-    m_x->setValue(look.position.x());
-    m_y->setValue(look.position.y());
-    m_transition->setValue(m_desk->state().transition);
-}
-
-void LookPanel::retranslate()
-{
-    m_levelsLabel->setText(tr("Levels"));
-    m_rampLabel->setText(tr("Colour ramp"));
-    m_amountLabel->setText(tr("Amount"));
-    m_positionLabel->setText(tr("Position"));
-    m_transitionLabel->setText(tr("Transition"));
-}
-
-SpinBox *LookPanel::positionBox(const QString &name, int range, bool horizontal)
+/// A field for a \a number of the look. Its steps in the history are called \a text.
+QWidget *numberControl(Desk *desk, const char *name, int Look::*number, int low, int high,
+                       const char *text)
 {
     auto *box = new SpinBox;
     box->setObjectName(name);
-    box->setRange(-range, range);
-    connect(box, QOverload<double, bool>::of(&SpinBox::valueChanged), this,
-            [this, horizontal](double value, bool first) {
-                m_desk->edit(Desk::Position, first ? Desk::NewStep : Desk::SameGesture,
-                             tr("Position"), [=](DeskState &state) {
-                                 if (horizontal)
-                                     state.look.position.setX(int(value));
-                                 else
-                                     state.look.position.setY(int(value));
-                             });
-            });
+    box->setRange(low, high);
+    const auto changed = QOverload<double, bool>::of(&SpinBox::valueChanged);
+    QObject::connect(box, changed, desk, [=](double value, bool first) {
+        desk->edit(Desk::tr(text), first,
+                   [=](DeskState &state) { state.look.*number = int(value); });
+    });
+    desk->follow(box, [=] {
+        const QSignalBlocker blocker(box);
+        box->setValue(desk->state().look.*number);
+    });
     return box;
+}
+
+} // namespace
+
+QWidget *lookPanel(Desk *desk)
+{
+    const char *const position = QT_TRANSLATE_NOOP("Desk", "Position");
+    const char *const transition = QT_TRANSLATE_NOOP("Desk", "Transition");
+    const int width = pictureSize.width();
+    const int height = pictureSize.height();
+    auto *place = new QHBoxLayout;
+    place->addWidget(numberControl(desk, "x", &Look::x, -width, width, position));
+    place->addWidget(numberControl(desk, "y", &Look::y, -height, height, position));
+
+    auto *panel = new QWidget;
+    auto *form = new QFormLayout(panel);
+    form->addRow(label(desk, QT_TRANSLATE_NOOP("Desk", "Levels")), levelsControl(desk));
+    form->addRow(label(desk, QT_TRANSLATE_NOOP("Desk", "Colour ramp")), rampControl(desk));
+    form->addRow(label(desk, QT_TRANSLATE_NOOP("Desk", "Amount")), amountControl(desk));
+    form->addRow(label(desk, position), place);
+    form->addRow(label(desk, transition),
+                 numberControl(desk, "transition", &Look::transition, 1, 250, transition));
+    return panel;
+}
+
+QLabel *label(Desk *desk, const char *text)
+{
+    auto *label = new QLabel;
+    desk->speak(label, [=] { label->setText(Desk::tr(text)); });
+    return label;
 }

@@ -1,7 +1,6 @@
 #include "player.h"
 
 #include "desk.h"
-#include "monitor.h"
 #include "testpictures.h"
 
 #include <nocturne/ColorBar>
@@ -10,30 +9,23 @@
 #include <nocturne/LetterBoxWidget>
 #include <nocturne/RangeSlider>
 
-#include <QtCore/QEvent>
-#include <QtCore/QSignalBlocker>
-#include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
+#include <QtWidgets/QtWidgets>
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
 constexpr int framesPerSecond = 25;
 
-LetterBoxWidget *letterBox(Monitor *monitor, const QString &name)
+LetterBoxWidget *letterBox(Monitor *monitor)
 {
-    monitor->setObjectName(name);
     auto *box = new LetterBoxWidget;
     box->setWidget(monitor);
     box->enableBackground();
     return box;
 }
 
-DelayButton *takeButton(const QString &name)
+DelayButton *takeButton(const char *name)
 {
     auto *button = new DelayButton;
     button->setObjectName(name);
@@ -44,76 +36,104 @@ DelayButton *takeButton(const QString &name)
 
 QString timeCode(int frame)
 {
-    return QStringLiteral("%1:%2")
+    return QString("%1:%2")
         .arg(frame / framesPerSecond)
         .arg(frame % framesPerSecond, 2, 10, QLatin1Char('0'));
 }
 
+int frameAfter(int frame, const Clip &clip)
+{
+    return frame >= clip.out ? clip.in : frame + 1;
+}
+
 } // namespace
 
-Player::Player(Desk *desk, QWidget *parent)
-    : QWidget(parent)
-    , m_desk(desk)
-    , m_preview(new Monitor)
-    , m_programMonitor(new Monitor)
+Monitor::Monitor(const QString &name)
+{
+    setObjectName(name);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setSizeIncrement(pictureSize); // the ratio that a letter box keeps
+    setMinimumSize(pictureSize / 4);
+}
+
+void Monitor::setPicture(const QImage &picture)
+{
+    m_picture = picture;
+    update();
+}
+
+void Monitor::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::black);
+    painter.drawImage(rect(), m_picture);
+}
+
+Player::Player(Desk *desk)
+    : m_desk(desk)
+    , m_preview(new Monitor("preview"))
+    , m_programMonitor(new Monitor("program"))
     , m_trim(new RangeSlider(Qt::Horizontal))
     , m_play(new QPushButton)
-    , m_cut(takeButton(QStringLiteral("cut")))
-    , m_auto(takeButton(QStringLiteral("auto")))
     , m_tally(new ColorBar)
     , m_time(new QLabel)
+    , m_ramp(new GradientTool(this))
 {
-    m_trim->setObjectName(QStringLiteral("trim"));
+    m_ramp->hide();
+    m_trim->setObjectName("trim");
     m_trim->setEnableRange(true);
     m_trim->setFrameRate(framesPerSecond);
     m_trim->setMinimumHeight(40);
-    m_play->setObjectName(QStringLiteral("play"));
-    m_play->setIcon(QIcon(QStringLiteral(":/resources/appicons/play.png")));
+    m_play->setObjectName("play");
+    m_play->setIcon(QIcon(":/resources/appicons/play.png"));
     m_tally->setElipse(true);
     m_tally->setFixedSize(18, 18);
+    DelayButton *cut = takeButton("cut");
+    DelayButton *mix = takeButton("auto");
 
-    auto *monitors = new QVBoxLayout;
-
-    monitors->addWidget(letterBox(m_programMonitor, QStringLiteral("program")));
-    monitors->addWidget(letterBox(m_preview, QStringLiteral("preview")));
     auto *transport = new QHBoxLayout;
     transport->addWidget(m_play);
     transport->addWidget(m_time);
     transport->addStretch();
     transport->addWidget(m_tally);
-    transport->addWidget(m_cut);
-    transport->addWidget(m_auto);
+    transport->addWidget(cut);
+    transport->addWidget(mix);
     auto *layout = new QVBoxLayout(this);
-    layout->addLayout(monitors, 1);
+    layout->addWidget(letterBox(m_programMonitor), 1);
+    layout->addWidget(letterBox(m_preview), 1);
     layout->addWidget(m_trim);
     layout->addLayout(transport);
 
-    connect(m_trim, &RangeSlider::mousePressed, this, [this] { m_newTrim = true; });
-    connect(m_trim, &RangeSlider::minimumValueChanged, this,
-            [this](int in) { trim(in, m_trim->maximumValue()); });
-    connect(m_trim, &RangeSlider::maximumValueChanged, this,
-            [this](int out) { trim(m_trim->minimumValue(), out); });
-    connect(m_trim, &RangeSlider::mainValueChanged, this, &Player::seek);
+    connect(m_trim, &RangeSlider::mousePressed, desk, &Desk::beginGesture);
+    connect(m_trim, &RangeSlider::minimumValueChanged, this, &Player::trim);
+    connect(m_trim, &RangeSlider::maximumValueChanged, this, &Player::trim);
+    connect(m_trim, &RangeSlider::mainValueChanged, this, [this](int frame) {
+        m_playHead = frame;
+        showPreview();
+    });
     connect(m_play, &QPushButton::clicked, this, &Player::togglePlay);
-    connect(m_cut, &QPushButton::clicked, this, &Player::cut);
-    connect(m_auto, &QPushButton::clicked, this, &Player::autoMix);
+    connect(cut, &QPushButton::clicked, this, &Player::cut);
+    connect(mix, &QPushButton::clicked, this, &Player::autoMix);
     connect(&m_clock, &QTimer::timeout, this, &Player::nextFrame);
-    connect(desk, &Desk::changed, this, &Player::refresh);
     m_clock.start(1000 / framesPerSecond);
-    retranslate();
-    refresh();
+    desk->follow(this, [this] { refresh(); });
+    desk->speak(this, [=] {
+        refresh();
+        cut->setText(tr("Cut"));
+        mix->setText(tr("Auto"));
+        m_trim->setHandleToolTip(tr("Frame %1"));
+    });
 }
 
-QImage Player::pictureAt(int frame) const
+QImage Player::picture(const Clip &clip, int frame) const
 {
-    const Clip *clip = m_desk->state().currentClip();
-    return clip ? gradedPicture(*clip, frame) : QImage();
+    return graded(testPicture(clip.pattern, frame), m_desk->state().look, m_ramp->getColorTable());
 }
 
 void Player::togglePlay()
 {
     m_playing = !m_playing && m_desk->state().currentClip();
-    retranslate();
+    refresh();
 }
 
 void Player::cut()
@@ -121,6 +141,7 @@ void Player::cut()
     const Clip *clip = m_desk->state().currentClip();
     if (!clip)
         return;
+    m_tally->stopFlicker();
     m_leaving = Program();
     m_program = {*clip, m_playHead};
     refresh();
@@ -136,63 +157,35 @@ void Player::autoMix()
         m_tally->startFlicker();
 }
 
-void Player::changeEvent(QEvent *event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        retranslate();
-}
-
 void Player::refresh()
 {
     const DeskState &state = m_desk->state();
     const Clip *clip = state.currentClip();
-    if (m_colorTable.isEmpty() || !isSameRamp(m_colorTableRamp, state.look.ramp)) {
-        GradientTool table;
-        table.setRamp(state.look.ramp);
-        m_colorTable = table.getColorTable();
-        m_colorTableRamp = state.look.ramp;
-    }
-    {
-        const QSignalBlocker blocker(m_trim);
-        m_trim->setEnabled(clip);
-        m_trim->setRange(0, clip ? clip->length - 1 : 1);
-        if (!m_trim->isMousePressed()) {
-            m_playHead = clip ? std::clamp(m_playHead, clip->in, clip->out) : 0;
-            m_trim->setValues(clip ? clip->in : 0, clip ? clip->out : 1, m_playHead);
-        }
-    }
-    if (!clip)
-        m_playing = false;
+    if (!isSameRamp(m_ramp->getRamp(), state.look.ramp))
+        m_ramp->setRamp(state.look.ramp);
+    m_playing = m_playing && clip;
+    m_play->setText(m_playing ? tr("Pause") : tr("Play"));
     m_play->setEnabled(clip);
+    m_trim->setEnabled(clip);
+    const QSignalBlocker blocker(m_trim);
+    m_trim->setRange(0, clip ? clip->length - 1 : 1);
+    if (!m_trim->isMousePressed()) {
+        m_playHead = clip ? std::clamp(m_playHead, clip->in, clip->out) : 0;
+        m_trim->setValues(clip ? clip->in : 0, clip ? clip->out : 1, m_playHead);
+    }
     const bool live = clip && m_program.isValid() && m_program.clip.path == clip->path;
     m_tally->setColor(live ? Qt::red : m_program.isValid() ? Qt::darkGreen : Qt::darkGray);
     showPreview();
     showProgram();
 }
 
-void Player::retranslate()
+void Player::trim()
 {
-    m_play->setText(m_playing ? tr("Pause") : tr("Play"));
-    m_cut->setText(tr("Cut"));
-    m_auto->setText(tr("Auto"));
-    m_trim->setHandleToolTip(tr("Frame %1"));
-}
-
-void Player::seek(int frame)
-{
-    m_playHead = frame;
-    showPreview();
-}
-
-void Player::trim(int in, int out)
-{
-    const Desk::Step step = std::exchange(m_newTrim, false) ? Desk::NewStep : Desk::SameGesture;
-    m_desk->edit(Desk::Trim, step, tr("Trim"), [=](DeskState &state) {
-        if (!state.currentClip())
-            return;
-        state.clips[state.current].in = in;
-        state.clips[state.current].out = out;
+    m_desk->edit(tr("Trim"), !m_trim->isMousePressed(), [this](DeskState &state) {
+        if (Clip *clip = state.currentClip()) {
+            clip->in = m_trim->minimumValue();
+            clip->out = m_trim->maximumValue();
+        }
     });
 }
 
@@ -200,16 +193,15 @@ void Player::nextFrame()
 {
     const Clip *clip = m_desk->state().currentClip();
     if (m_playing && clip && !m_trim->isMousePressed()) {
-        m_playHead = m_playHead >= clip->out ? clip->in : m_playHead + 1;
+        m_playHead = frameAfter(m_playHead, *clip);
         m_trim->positionChange(m_playHead);
         showPreview();
     }
     for (Program *program : {&m_program, &m_leaving}) {
         if (program->isValid())
-            program->frame =
-                program->frame >= program->clip.out ? program->clip.in : program->frame + 1;
+            program->frame = frameAfter(program->frame, program->clip);
     }
-    if (m_leaving.isValid() && ++m_mixFrame >= m_desk->state().transition) {
+    if (m_leaving.isValid() && ++m_mixFrame >= m_desk->state().look.transition) {
         m_leaving = Program();
         m_tally->stopFlicker();
     }
@@ -219,7 +211,8 @@ void Player::nextFrame()
 
 void Player::showPreview()
 {
-    m_preview->setPicture(pictureAt(m_playHead));
+    const Clip *clip = m_desk->state().currentClip();
+    m_preview->setPicture(clip ? picture(*clip, m_playHead) : QImage());
     m_time->setText(timeCode(m_playHead));
 }
 
@@ -227,15 +220,10 @@ void Player::showProgram()
 {
     if (!m_program.isValid())
         return;
-    QImage picture = gradedPicture(m_program.clip, m_program.frame);
+    QImage shown = picture(m_program.clip, m_program.frame);
     if (m_leaving.isValid()) {
-        picture = mixed(gradedPicture(m_leaving.clip, m_leaving.frame), picture,
-                        double(m_mixFrame) / m_desk->state().transition);
+        shown = mixed(picture(m_leaving.clip, m_leaving.frame), shown,
+                      double(m_mixFrame) / m_desk->state().look.transition);
     }
-    m_programMonitor->setPicture(picture);
-}
-
-QImage Player::gradedPicture(const Clip &clip, int frame) const
-{
-    return graded(testPicture(clip.pattern, frame), m_desk->state().look, m_colorTable);
+    m_programMonitor->setPicture(shown);
 }

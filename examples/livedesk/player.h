@@ -4,15 +4,33 @@
 #include "deskstate.h"
 
 #include <QtCore/QTimer>
+#include <QtGui/QImage>
 #include <QtWidgets/QWidget>
 
 class ColorBar;
-class DelayButton;
 class Desk;
-class Monitor;
+class GradientTool;
 class QLabel;
 class QPushButton;
 class RangeSlider;
+
+/// Shows a picture as large as the widget. Made to be held by a LetterBoxWidget.
+class Monitor : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Monitor(const QString &name);
+
+    void setPicture(const QImage &picture);
+    const QImage &picture() const { return m_picture; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QImage m_picture;
+};
 
 /// Preview and program with transport, trim and transition.
 class Player : public QWidget
@@ -20,10 +38,10 @@ class Player : public QWidget
     Q_OBJECT
 
 public:
-    explicit Player(Desk *desk, QWidget *parent = nullptr);
+    explicit Player(Desk *desk);
 
-    /// The current clip's picture at \a frame with the look on it; null without a clip.
-    QImage pictureAt(int frame) const;
+    /// The \a clip's picture at \a frame with the look on it.
+    QImage picture(const Clip &clip, int frame) const;
 
     int playHead() const { return m_playHead; }
     bool isOnAir() const { return m_program.isValid(); }
@@ -34,9 +52,6 @@ public Q_SLOTS:
     void cut();
     /// Puts the preview on air by a mix of the set length.
     void autoMix();
-
-protected:
-    void changeEvent(QEvent *event) override;
 
 private:
     /// What is on air: a clip with its own play-head.
@@ -49,32 +64,25 @@ private:
     };
 
     void refresh();
-    void retranslate();
-    void seek(int frame);
-    void trim(int in, int out);
+    void trim();
     void nextFrame();
     void showPreview();
     void showProgram();
-    QImage gradedPicture(const Clip &clip, int frame) const;
 
     Desk *m_desk;
     Monitor *m_preview;
     Monitor *m_programMonitor;
     RangeSlider *m_trim;
     QPushButton *m_play;
-    DelayButton *m_cut;
-    DelayButton *m_auto;
     ColorBar *m_tally;
     QLabel *m_time;
     QTimer m_clock;
-    QVector<unsigned int> m_colorTable;
-    Ramp m_colorTableRamp;
+    GradientTool *m_ramp; ///< not to be seen: gives the colours of the state's ramp
     Program m_program;
     Program m_leaving;
     int m_mixFrame = 0;
     int m_playHead = 0;
     bool m_playing = false;
-    bool m_newTrim = false;
 };
 
 #endif

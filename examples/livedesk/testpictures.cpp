@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr int framesPerTurn = 100;
-
 void paintBars(QPainter &painter, int frame)
 {
     const std::array<QColor, 8> bars{Qt::white,   Qt::yellow, Qt::cyan, Qt::green,
@@ -35,10 +33,10 @@ void paintGrid(QPainter &painter, int frame)
 {
     painter.fillRect(QRect(QPoint(), pictureSize), QColor(24, 28, 36));
     painter.setPen(QColor(90, 100, 120));
-    for (int x = 0; x < pictureSize.width(); x += 40)
-        painter.drawLine(x, 0, x, pictureSize.height());
-    for (int y = 0; y < pictureSize.height(); y += 40)
-        painter.drawLine(0, y, pictureSize.width(), y);
+    for (int i = 0; i < pictureSize.width(); i += 40) {
+        painter.drawLine(i, 0, i, pictureSize.height());
+        painter.drawLine(0, i, pictureSize.width(), i);
+    }
     painter.fillRect(frame * 5 % pictureSize.width(), 0, 6, pictureSize.height(),
                      QColor(240, 200, 80));
 }
@@ -49,18 +47,15 @@ void paintClock(QPainter &painter, int frame)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(230, 120, 60));
-    painter.drawPie(QRect(200, 60, 240, 240), 90 * 16,
-                    -360 * 16 * (frame % framesPerTurn) / framesPerTurn);
+    const int turn = 360 * 16 * (frame % 100) / 100;
+    painter.drawPie(QRect(200, 60, 240, 240), 90 * 16, -turn);
 }
 
-unsigned int mixedColor(unsigned int under, unsigned int over, int share256)
+QRgb mixedColor(QRgb under, QRgb over, int share256)
 {
-    const auto channel = [=](int shift) {
-        const int a = int(under >> shift & 0xff);
-        const int b = int(over >> shift & 0xff);
-        return static_cast<unsigned int>(a + (b - a) * share256 / 256) << shift;
-    };
-    return 0xff000000u | channel(16) | channel(8) | channel(0);
+    const auto mix = [=](int a, int b) { return a + (b - a) * share256 / 256; };
+    return qRgb(mix(qRed(under), qRed(over)), mix(qGreen(under), qGreen(over)),
+                mix(qBlue(under), qBlue(over)));
 }
 
 } // namespace
@@ -69,44 +64,28 @@ QImage testPicture(int pattern, int frame)
 {
     QImage picture(pictureSize, QImage::Format_RGB32);
     QPainter painter(&picture);
-    switch (pattern) {
-    case 0:
-        paintBars(painter, frame);
-        break;
-    case 1:
-        paintRamp(painter, frame);
-        break;
-    case 2:
-        paintGrid(painter, frame);
-        break;
-    default:
-        paintClock(painter, frame);
-        break;
-    }
+    const std::array patterns{paintBars, paintRamp, paintGrid, paintClock};
+    static_assert(patterns.size() == testPatternCount);
+    patterns.at(pattern)(painter, frame);
     return picture;
 }
 
-QImage graded(const QImage &picture, const Look &look, const QVector<unsigned int> &colorTable)
+QImage graded(QImage picture, const Look &look, const QVector<unsigned int> &colorTable)
 {
     std::array<int, 256> levels;
     for (int i = 0; i < 256; ++i)
         levels[i] = qBound(0, (i - look.black) * 255 / qMax(1, look.white - look.black), 255);
-    const int share = look.amount * 256 / 100;
-
-    QImage result(picture.size(), QImage::Format_RGB32);
-    result.fill(Qt::black);
-    const QRect shown = QRect(look.position, picture.size()).intersected(picture.rect());
-    for (int y = shown.top(); y <= shown.bottom(); ++y) {
-        const auto *source =
-            reinterpret_cast<const QRgb *>(picture.constScanLine(y - look.position.y()));
-        auto *target = reinterpret_cast<QRgb *>(result.scanLine(y));
-        for (int x = shown.left(); x <= shown.right(); ++x) {
-            const QRgb pixel = source[x - look.position.x()];
+    for (int y = 0; y < picture.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(picture.scanLine(y));
+        for (int x = 0; x < picture.width(); ++x) {
             const QRgb level =
-                qRgb(levels[qRed(pixel)], levels[qGreen(pixel)], levels[qBlue(pixel)]);
-            target[x] = mixedColor(level, colorTable.at(qGray(level)), share);
+                qRgb(levels[qRed(line[x])], levels[qGreen(line[x])], levels[qBlue(line[x])]);
+            line[x] = mixedColor(level, colorTable.at(qGray(level)), look.amount * 256 / 100);
         }
     }
+    QImage result(picture.size(), QImage::Format_RGB32);
+    result.fill(Qt::black);
+    QPainter(&result).drawImage(look.x, look.y, picture);
     return result;
 }
 

@@ -14,7 +14,7 @@ QImage testPicture(int pattern, int frame);
 
 /// \a picture with levels, ramp and position of \a look. \a colorTable holds the ramp as 256
 /// colours 0xffRRGGBB.
-QImage graded(const QImage &picture, const Look &look, const QVector<unsigned int> &colorTable);
+QImage graded(QImage picture, const Look &look, const QVector<unsigned int> &colorTable);
 
 /// \a share, 0.0 to 1.0, of \a over on top of \a under.
 QImage mixed(const QImage &under, const QImage &over, double share);

@@ -10,9 +10,8 @@
 #include <nocturne/SpanSlider>
 #include <nocturne/SpinBox>
 
-#include <controlpanel.h>
 #include <deskwindow.h>
-#include <monitor.h>
+#include <panels.h>
 #include <player.h>
 
 #include <QtCore/QFile>
@@ -134,18 +133,17 @@ private Q_SLOTS:
         };
         QCOMPARE(pixel(100), QColor(Qt::yellow));
         Desk *desk = m_window->desk();
-        desk->edit(Desk::Position, Desk::NewStep, {},
-                   [](DeskState &state) { state.look.position = QPoint(80, 0); });
+        desk->edit("Position", true, [](DeskState &state) { state.look.x = 80; });
         QCOMPARE(pixel(40), QColor(Qt::black));
         QCOMPARE(pixel(180), QColor(Qt::yellow));
-        desk->edit(Desk::Grade, Desk::NewStep, {}, [](DeskState &state) {
-            state.look.position = QPoint();
+        desk->edit("Grade", true, [](DeskState &state) {
+            state.look.x = 0;
             state.look.amount = 100;
             state.look.ramp = {{0.0, Qt::red}, {1.0, Qt::blue}};
         });
         QCOMPARE(pixel(20), QColor(Qt::blue)); // white
         QCOMPARE(pixel(620), QColor(Qt::red)); // black
-        desk->edit(Desk::Levels, Desk::NewStep, {}, [](DeskState &state) {
+        desk->edit("Levels", true, [](DeskState &state) {
             state.look.amount = 0;
             state.look.black = 254;
             state.look.white = 255;
@@ -328,11 +326,11 @@ private:
         QCOMPARE(state().look.ramp.size(), stops + 1);
 
         auto *position = find<SpinBox>("x");
-        const int left = state().look.position.x();
+        const int left = state().look.x;
         auto *field = position->findChild<QWidget *>("qt_spinbox_lineedit");
         drag(field, {20, 8}, {32, 8}, 12);
         expectSteps(1, "a drag of the position");
-        QVERIFY(state().look.position.x() > left);
+        QVERIFY(state().look.x > left);
 
         QTest::mouseClick(find<QAbstractButton>("cut"), Qt::LeftButton);
         QVERIFY(m_window->player()->isOnAir());

@@ -1,18 +1,21 @@
-#ifndef CONTROLPANEL_H
-#define CONTROLPANEL_H
+#ifndef PANELS_H
+#define PANELS_H
+
+#include "desk.h"
 
 #include <nocturne/QMidiMessage>
 
 #include <QtCore/QElapsedTimer>
 #include <QtWidgets/QWidget>
 
-class ComboBox;
-class Desk;
-class KeySequenceEdit;
 class MidiSequenceEdit;
 class QLabel;
-class QMidiIn;
-class QPushButton;
+
+/// The clips: dropped from outside, moved by dragging, renamed below the list.
+QWidget *binPanel(Desk *desk);
+
+/// Levels, colour ramp and position of the picture, and the length of a transition.
+QWidget *lookPanel(Desk *desk);
 
 /// Shortcuts and the MIDI control of the ramp's amount.
 class ControlPanel : public QWidget
@@ -20,7 +23,7 @@ class ControlPanel : public QWidget
     Q_OBJECT
 
 public:
-    explicit ControlPanel(Desk *desk, QWidget *parent = nullptr);
+    explicit ControlPanel(Desk *desk);
 
     /// The control that sets the amount: type, channel and key of \a message count.
     void setBinding(const QMidiMessage &message);
@@ -30,31 +33,17 @@ public:
     /// the binding.
     void takeMidi(const QMidiMessage &message);
 
-Q_SIGNALS:
-    /// The bound control was moved to \a percent. \a newStep is true when it had rested before.
-    void amountChanged(int percent, bool newStep);
-
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
-    void refresh();
-    void retranslate();
-    void listPorts();
+    QWidget *shortcutField(const char *name, QString DeskState::*shortcut);
+    QLayout *portChoice();
 
     Desk *m_desk;
-    QMidiIn *m_input;
-    KeySequenceEdit *m_take;
-    KeySequenceEdit *m_play;
     MidiSequenceEdit *m_learn;
-    ComboBox *m_ports;
-    QPushButton *m_rescan;
-    QLabel *m_takeLabel;
-    QLabel *m_playLabel;
-    QLabel *m_portLabel;
-    QLabel *m_learnLabel;
     QMidiMessage m_binding;
     QElapsedTimer m_sinceMidi;
 };
+
+/// A label with \a text in the language of the moment, which stands in the context "Desk".
+QLabel *label(Desk *desk, const char *text);
 
 #endif
