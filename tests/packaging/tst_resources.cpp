@@ -13,7 +13,6 @@
 namespace {
 
 const QString root = ":/resources/";
-const QString catalogueFolder = root + "locales/";
 
 /// The files of \a folder that hosts rely on, below the root.
 QStringList listed(const QString &folder = {})
@@ -23,60 +22,50 @@ QStringList listed(const QString &folder = {})
     return QString::fromLatin1(list.readAll()).split('\n', Qt::SkipEmptyParts).filter(folder);
 }
 
-/// The catalogues without their suffix.
-QStringList baseNames()
-{
-    return listed("locales/").replaceInStrings("locales/", "").replaceInStrings(".qm", "");
-}
+using Text = QPair<QString, QString>; ///< the context and the words
 
-QSize sizeOf(const QString &icon)
+/// A name of a translation catalogue, such as "de_DE", and what is in it.
+struct Catalogue
 {
-    if (icon.startsWith("appicon"))
-        return {256, 256};
-    if (icon.startsWith("splash"))
-        return {640, 400};
-    return {64, 64};
-}
-
-struct Message
-{
-    QString context;
-    QString source;
-    QString translation = {};
-    bool finished = false;
-
-    QString key() const { return context + source; }
-    QString in(const QTranslator &translator) const
+    explicit Catalogue(const QString &file)
+        : name(file.section('/', -1).section('.', 0, 0))
     {
-        return translator.translate(context.toUtf8(), source.toUtf8());
+        isLoaded = translator.load(root + "locales/" + name + ".qm");
     }
+    static QStringList files() { return listed("locales/"); }
+    QString text(const Text &text) const
+    {
+        return translator.translate(text.first.toUtf8(), text.second.toUtf8());
+    }
+
+    QString name;
+    QTranslator translator;
+    bool isLoaded;
 };
 
-/// The messages of a catalogue's source; none if it is not well formed.
-QVector<Message> messagesOf(const QString &path)
+/// The translations of a catalogue's source by context and text, empty where it is unfinished.
+/// Those that are no longer used are left out; there are none if it is not well formed.
+QMap<Text, QString> messagesOf(const QString &path)
 {
-    QVector<Message> messages;
+    QMap<Text, QString> messages;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return messages;
+    file.open(QIODevice::ReadOnly);
     QXmlStreamReader xml(&file);
-    QString context;
-    QString source;
+    Text text;
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
         if (xml.name() == QLatin1String("name")) {
-            context = xml.readElementText();
+            text.first = xml.readElementText();
         } else if (xml.name() == QLatin1String("source")) {
-            source = xml.readElementText();
+            text.second = xml.readElementText();
         } else if (xml.name() == QLatin1String("translation")) {
-            // A text that is no longer used is kept as "vanished" or "obsolete".
-            const QString type = xml.attributes().value("type").toString();
+            const QString type = xml.attributes().value("type").toString(); // or "vanished"
             if (type.isEmpty() || type == "unfinished")
-                messages << Message{context, source, xml.readElementText(), type.isEmpty()};
+                messages[text] = type.isEmpty() ? xml.readElementText() : QString();
         }
     }
-    return xml.hasError() ? QVector<Message>() : messages;
+    return xml.hasError() ? QMap<Text, QString>() : messages;
 }
 
 /// The place holders of a text and how often each occurs.
@@ -103,7 +92,7 @@ private Q_SLOTS:
     /// Packed by zlib where that saves at least 70 percent, with a time of change.
     void holdsExactlyTheListedFiles()
     {
-        QStringList actual;
+        QSet<QString> actual;
         QDirIterator it(root, QDir::Files, QDirIterator::Subdirectories);
         while (it.hasNext()) {
             const QResource resource(it.next());
@@ -112,15 +101,12 @@ private Q_SLOTS:
             const int saved = 100 * (data.size() - qCompress(data).size()) / data.size();
             QVERIFY2(resource.compressionAlgorithm()
                          == (saved >= 70 ? QResource::ZlibCompression : QResource::NoCompression),
-                     qPrintable(actual.last()));
+                     qPrintable(it.filePath()));
             QVERIFY(resource.lastModified().isValid());
         }
-        QStringList expected = listed();
+        const QStringList expected = listed();
         QCOMPARE(expected.size(), 139 + 13);
-        expected.sort();
-        actual.sort();
-        QCOMPARE(actual, expected);
-        QVERIFY(!QFile::exists(root + "appicons/FileOpen.png"));
+        QCOMPARE(actual, QSet<QString>(expected.begin(), expected.end()));
     }
 
     /// A state never looks like the plain image, and no two plain images look alike.
@@ -129,23 +115,21 @@ private Q_SLOTS:
         QHash<QByteArray, QString> known;
         for (const QString &path : listed("appicons/")) {
             const QString icon = path.section('/', 1);
-            const QByteArray name = icon.toLatin1();
-            if (icon.endsWith(".svg")) {
-                QFile file(root + path);
-                QVERIFY(file.open(QIODevice::ReadOnly));
-                QXmlStreamReader xml(&file);
-                QVERIFY(xml.readNextStartElement());
-                QCOMPARE(xml.name(), QString("svg"));
-                continue;
-            }
+            const bool isSplash = icon.startsWith("splash");
             QImageReader reader(root + path);
             reader.setDecideFormatFromContent(true);
-            QCOMPARE(reader.format(), QByteArray(icon.endsWith(".jpg") ? "jpeg" : "png"));
+            QCOMPARE(reader.format(), icon.section('.', -1).replace("jpg", "jpeg").toLatin1());
+            if (icon.endsWith(".svg"))
+                continue;
             const QImage image = reader.read().convertToFormat(QImage::Format_ARGB32);
-            QVERIFY2(image.size() == sizeOf(icon), name);
-            const double seen = share(image);
-            QVERIFY2(seen > 0.03, name);
-            QVERIFY2(icon.startsWith("splash") || icon.endsWith(".jpg") || seen < 0.97, name);
+            const QSize size = icon.startsWith("appicon") ? QSize(256, 256) : QSize(64, 64);
+            QCOMPARE(image.size(), isSplash ? QSize(640, 400) : size);
+            int seen = 0;
+            for (int i = 0; i < image.width() * image.height(); ++i)
+                seen += qAlpha(image.pixel(i % image.width(), i / image.width())) > 32;
+            const double share = 1.0 * seen / (image.width() * image.height());
+            const bool isOpaque = isSplash || icon.endsWith(".jpg");
+            QVERIFY2(share > 0.03 && (isOpaque || share < 0.97), qPrintable(icon));
             const QByteArray pixels(reinterpret_cast<const char *>(image.constBits()),
                                     int(image.sizeInBytes()));
             QVERIFY2(!known.contains(pixels), qPrintable(icon + " is " + known.value(pixels)));
@@ -160,26 +144,25 @@ private Q_SLOTS:
         const QString collected = scratch.filePath("code.ts");
         QProcess::execute("lupdate", {"-silent", NOCTURNE_SOURCE_DIR "/nocturne",
                                       NOCTURNE_SOURCE_DIR "/examples/gallery", "-ts", collected});
-        const QVector<Message> texts = messagesOf(collected);
+        const auto texts = messagesOf(collected).keys();
         QVERIFY(texts.size() > 4);
-        for (const QString &catalogue : baseNames()) {
-            QTranslator translator;
-            QVERIFY(translator.load(catalogueFolder + catalogue + ".qm"));
-            for (const Message &text : texts)
-                QVERIFY2(!text.in(translator).isEmpty(), qPrintable(catalogue + text.key()));
-            for (const Message &text :
-                 {Message{"ComboFileChooser", "Media (*.%1)"},
-                  Message{"FileChooser", "Media (*.%1)"}, Message{"FileChooser", "load"},
-                  Message{"LineEditButton", "Clear"}})
+        for (const QString &file : Catalogue::files()) {
+            const Catalogue catalogue(file);
+            QVERIFY(catalogue.isLoaded);
+            for (const auto &text : texts)
+                QVERIFY2(!catalogue.text(text).isEmpty(), qPrintable(file + text.second));
+            for (const Text &text :
+                 std::initializer_list<Text>{{"ComboFileChooser", "Media (*.%1)"},
+                                             {"FileChooser", "Media (*.%1)"},
+                                             {"FileChooser", "load"},
+                                             {"LineEditButton", "Clear"}})
             {
-                const QString translated = text.in(translator);
-                QVERIFY2(!translated.isEmpty() && translated != text.source,
-                         qPrintable(catalogue + text.key()));
+                const QString translated = catalogue.text(text);
+                QVERIFY2(!translated.isEmpty() && translated != text.second,
+                         qPrintable(file + text.second));
             }
         }
-        QTranslator german;
-        QVERIFY(german.load(catalogueFolder + "de_DE.qm"));
-        QCOMPARE(german.translate("FileChooser", "load"), QString("Laden"));
+        QCOMPARE(Catalogue("de_DE").text({"FileChooser", "load"}), QString("Laden"));
     }
 
     /// Nothing is left untranslated, every translation keeps the place holders of its text, and an
@@ -187,46 +170,26 @@ private Q_SLOTS:
     void catalogueSources()
     {
         const QString folder = NOCTURNE_SOURCE_DIR "/nocturne/resources/locales/";
-        const QStringList files = QDir(folder).entryList({"*.ts"}, QDir::Files);
-        QVERIFY(!files.isEmpty());
-        for (const QString &file : files) {
-            const QVector<Message> messages = messagesOf(folder + file);
+        for (const QString &file : QDir(folder).entryList({"*.ts"}, QDir::Files)) {
+            const auto messages = messagesOf(folder + file);
             QVERIFY2(!messages.isEmpty(), qPrintable(file));
-            for (const Message &message : messages) {
-                const QString where = file + ": " + message.source;
-                QVERIFY2(message.finished && !message.translation.isEmpty(), qPrintable(where));
-                QVERIFY2(placeHolders(message.translation) == placeHolders(message.source),
-                         qPrintable(where));
+            for (auto it = messages.begin(); it != messages.end(); ++it) {
+                QVERIFY2(!it->isEmpty() && placeHolders(*it) == placeHolders(it.key().second),
+                         qPrintable(file + ": " + it.key().second));
             }
         }
-
-        const QStringList editions = baseNames().filter("-");
+        const QStringList editions = Catalogue::files().filter("-");
         QCOMPARE(editions.size(), 5);
-        for (const QString &edition : editions) {
-            QTranslator translator;
-            QVERIFY(translator.load(catalogueFolder + edition + ".qm"));
-            QVERIFY(translator.translate("Gallery", "libnocturne gallery")
-                        .contains(edition.section('-', 1)));
-            QHash<QString, QString> own;
-            for (const Message &message : messagesOf(folder + edition + ".ts"))
-                own.insert(message.key(), message.translation);
-            const auto messages = messagesOf(folder + edition.section('-', 0, 0) + ".ts");
+        for (const QString &file : editions) {
+            const Catalogue edition(file);
+            QVERIFY(edition.text({"Gallery", "libnocturne gallery"})
+                        .contains(edition.name.section('-', 1)));
+            const auto own = messagesOf(folder + edition.name + ".ts");
+            const auto messages = messagesOf(folder + edition.name.section('-', 0, 0) + ".ts");
             QVERIFY(!messages.isEmpty());
-            for (const Message &message : messages)
-                QCOMPARE(message.in(translator), own.value(message.key(), message.translation));
+            for (auto it = messages.begin(); it != messages.end(); ++it)
+                QCOMPARE(edition.text(it.key()), own.value(it.key(), *it));
         }
-    }
-
-private:
-    /// The part of an image's pixels that can be seen.
-    static double share(const QImage &image)
-    {
-        int seen = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x)
-                seen += qAlpha(image.pixel(x, y)) > 32;
-        }
-        return double(seen) / (image.width() * image.height());
     }
 };
 
