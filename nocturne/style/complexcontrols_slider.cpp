@@ -2,6 +2,7 @@
 #include "stylecolors_p.h"
 #include "styleelements_p.h"
 
+#include <nocturne/painting/devicepixels_p.h>
 #include <nocturne/painting/themepaint_p.h>
 
 #include <limits>
@@ -113,10 +114,22 @@ void paintSliderTicks(const PaintCall &call, const QStyleOptionSlider *option, Q
     const int length = proxy->pixelMetric(QStyle::PM_SliderLength, option, call.widget);
     const int span = (horizontal ? rect.width() : rect.height()) - length;
 
+    const bool focused =
+        option->state & QStyle::State_HasFocus && option->state & QStyle::State_KeyboardFocusChange;
+    const QColor color = focused ? StyleColors::highlightedOutlineColor(option->palette)
+                                 : StyleColors::outlineColor(option->palette);
+    const bool isOnPixels = wholeRatio(*painter) == 1;
     QVector<QLine> lines;
     const auto addLine = [&](int position, int from, int to) {
-        lines << (horizontal ? QLine(position, from, position, to)
-                             : QLine(from, position, to, position));
+        const int start = qMin(from, to);
+        const int length = qMax(from, to) - start + 1;
+        if (isOnPixels)
+            painter->fillRect(horizontal ? QRect(position, start, 1, length)
+                                         : QRect(start, position, length, 1),
+                              color);
+        else
+            lines << (horizontal ? QLine(position, from, position, to)
+                                 : QLine(from, position, to, position));
     };
     const int nearEdge = horizontal ? rect.top() : rect.left();
     const int farEdge = horizontal ? rect.bottom() : rect.right();
@@ -130,11 +143,11 @@ void paintSliderTicks(const PaintCall &call, const QStyleOptionSlider *option, Q
             addLine(position, farEdge - extra, farEdge - tickSize);
     });
 
-    const bool focused =
-        option->state & QStyle::State_HasFocus && option->state & QStyle::State_KeyboardFocusChange;
-    painter->setPen(focused ? StyleColors::highlightedOutlineColor(option->palette)
-                            : StyleColors::outlineColor(option->palette));
-    painter->drawLines(lines);
+    if (!isOnPixels) {
+        const PainterSaver saver(painter);
+        painter->setPen(color);
+        painter->drawLines(lines);
+    }
 }
 
 void paintSliderHandle(const QStyleOptionSlider *option, QPainter *painter, const QRect &handle)
@@ -174,10 +187,8 @@ void paintSlider(const PaintCall &call)
         }
     }
     if (option->subControls & QStyle::SC_SliderTickmarks
-        && option->tickPosition != QSlider::NoTicks) {
-        const PainterSaver saver(painter);
+        && option->tickPosition != QSlider::NoTicks)
         paintSliderTicks(call, option, painter);
-    }
     if (option->subControls & QStyle::SC_SliderHandle)
         paintSliderHandle(option, painter, handle);
 }

@@ -2,9 +2,11 @@
 #include "styleelements_p.h"
 #include "stylehelpers_p.h"
 
+#include <nocturne/painting/devicepixels_p.h>
 #include <nocturne/painting/kepttext_p.h>
 #include <nocturne/painting/themepaint_p.h>
 
+#include <QtGui/QPainterPath>
 #include <QtWidgets/QMainWindow>
 
 namespace Nocturne::StylePaint {
@@ -24,6 +26,72 @@ QColor rubberBandFill(const QColor &highlight, bool isOpaque)
     const auto channel = [](int value) { return qMin(value / 2 + 110, 255); };
     return QColor(channel(highlight.red()), channel(highlight.green()), channel(highlight.blue()),
                   isOpaque ? 255 : rubberBandFillAlpha);
+}
+
+constexpr int bandCorner = 4; // beyond this, the edges of a band look the same all along
+
+/// The corners of the rectangle \a r, rounded by one unit and begun where drawRoundedRect() begins.
+QPainterPath bandCorners(const QRectF &r)
+{
+    constexpr qreal reach = bandCorner - 0.5;
+    constexpr qreal bend = 1 - 0.5522847498; // of the curve that comes closest to a circle
+    QPainterPath path;
+    path.moveTo(r.left() + 1, r.top());
+    path.lineTo(r.left() + reach, r.top());
+    path.moveTo(r.right() - reach, r.top());
+    path.lineTo(r.right() - 1, r.top());
+    path.cubicTo(r.right() - bend, r.top(), r.right(), r.top() + bend, r.right(), r.top() + 1);
+    path.lineTo(r.right(), r.top() + reach);
+    path.moveTo(r.right(), r.bottom() - reach);
+    path.lineTo(r.right(), r.bottom() - 1);
+    path.cubicTo(r.right(), r.bottom() - bend, r.right() - bend, r.bottom(), r.right() - 1,
+                 r.bottom());
+    path.lineTo(r.right() - reach, r.bottom());
+    path.moveTo(r.left() + reach, r.bottom());
+    path.lineTo(r.left() + 1, r.bottom());
+    path.cubicTo(r.left() + bend, r.bottom(), r.left(), r.bottom() - bend, r.left(),
+                 r.bottom() - 1);
+    path.lineTo(r.left(), r.bottom() - reach);
+    path.moveTo(r.left(), r.top() + reach);
+    path.lineTo(r.left(), r.top() + 1);
+    path.cubicTo(r.left(), r.top() + bend, r.left() + bend, r.top(), r.left() + 1, r.top());
+    return path;
+}
+
+/// Draws the outermost units of \a r as a rounded rectangle. On whole pixels only the corners need
+/// smoothing, and smoothing the rest is what takes time. (A clip may cut a long line in other
+/// places than a short one.)
+void drawBandLine(QPainter *painter, const QRect &r, const QColor &color)
+{
+    const bool isLarge = r.width() > 2 * bandCorner && r.height() > 2 * bandCorner;
+    const bool isOnPixels = isLarge && wholeRatio(*painter) == 1 && !painter->hasClipping();
+    const QRect straight = r.adjusted(bandCorner, bandCorner, -bandCorner, -bandCorner);
+    if (isOnPixels) {
+        fillRow(painter, straight.left(), straight.right(), r.top(), color);
+        fillRow(painter, straight.left(), straight.right(), r.bottom(), color);
+        fillColumn(painter, r.left(), straight.top(), straight.bottom(), color);
+        fillColumn(painter, r.right(), straight.top(), straight.bottom(), color);
+    }
+    const PainterSaver saver(painter);
+    beginSharpAntialiasing(painter);
+    painter->setBrush(Qt::NoBrush);
+    const QRectF line = r.adjusted(0, 0, -1, -1);
+    if (isOnPixels) {
+        painter->setPen(QPen(color, 1, Qt::SolidLine, Qt::FlatCap));
+        painter->drawPath(bandCorners(line));
+    } else {
+        painter->setPen(color);
+        painter->drawRoundedRect(line, 1, 1);
+    }
+}
+
+void fillBand(QPainter *painter, const QRect &r, const QColor &color)
+{
+    const PainterSaver saver(painter);
+    beginSharpAntialiasing(painter);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(color);
+    painter->drawRoundedRect(r.adjusted(0, 0, -1, -1), 1, 1);
 }
 
 /// Turns the painter by a quarter to the left within the option's rectangle; what is painted then
@@ -125,47 +193,60 @@ QBrush toolBarFill(const PaintCall &call)
     return gradient;
 }
 
+template <typename Shows>
+QVector<QPoint> sizeGripCorners(Shows shows)
+{
+    QVector<QPoint> corners;
+    for (int x = firstDot; x < dotsEnd; x += dotStep) {
+        for (int y = firstDot; y < dotsEnd; y += dotStep) {
+            if (shows(x, y))
+                corners << QPoint(x, y);
+        }
+    }
+    return corners;
+}
+
+template <typename At>
+QVector<QPoint> splitterCorners(At at)
+{
+    QVector<QPoint> corners;
+    for (int position = firstDot; position < dotsEnd; position += dotStep)
+        corners << at(position);
+    return corners;
+}
+
 } // namespace
 
 void paintSizeGrip(const PaintCall &call)
 {
-    const QPoint centre = call.rect().center();
-    for (int x = firstDot; x < dotsEnd; x += dotStep) {
-        for (int y = firstDot; y < dotsEnd; y += dotStep) {
-            if (call.isRightToLeft() ? y > x : x > -y)
-                paintGripDot(call.painter, centre.x() + x, centre.y() + y);
-        }
-    }
+    static const GripDots leftToRight(sizeGripCorners([](int x, int y) { return x > -y; }));
+    static const GripDots rightToLeft(sizeGripCorners([](int x, int y) { return y > x; }));
+    (call.isRightToLeft() ? rightToLeft : leftToRight).paint(call.painter, call.rect().center());
 }
 
 void paintSplitter(const PaintCall &call)
 {
+    static const GripDots across(splitterCorners([](int position) { return QPoint(1, position); }));
+    static const GripDots along(splitterCorners([](int position) { return QPoint(position, 0); }));
     const QRect &r = call.rect();
-    if (r.width() <= 1 || r.height() <= 1)
-        return;
-    const QPoint centre = r.center();
-    for (int i = firstDot; i < dotsEnd; i += dotStep) {
-        if (call.has(QStyle::State_Horizontal))
-            paintGripDot(call.painter, centre.x() + 1, centre.y() + i);
-        else
-            paintGripDot(call.painter, centre.x() + i, centre.y());
-    }
+    if (r.width() > 1 && r.height() > 1)
+        (call.has(QStyle::State_Horizontal) ? across : along).paint(call.painter, r.center());
 }
 
 void paintRubberBand(const PaintCall &call)
 {
     if (!call.as<QStyleOptionRubberBand>())
         return;
-    const QRect &r = call.rect();
     const QColor highlight = call.palette().color(QPalette::Active, QPalette::Highlight);
     const bool isTopLevel = call.widget && call.widget->isWindow();
-    const PainterSaver saver(call.painter);
-    beginSharpAntialiasing(call.painter);
-    call.painter->setPen(StyleColors::withAlpha(highlight.darker(120), rubberBandOutlineAlpha));
-    call.painter->setBrush(rubberBandFill(highlight, isTopLevel));
-    call.painter->drawRoundedRect(r.adjusted(0, 0, -1, -1), 1, 1);
-    call.painter->setPen(QColor::fromRgba(rubberBandContrast));
-    call.painter->drawRoundedRect(r.adjusted(1, 1, -2, -2), 1, 1);
+    const QColor fill = rubberBandFill(highlight, isTopLevel);
+    const QRect &r = call.rect();
+    const QRect inner = r.adjusted(1, 1, -1, -1);
+    fillBand(call.painter, r, fill);
+    drawBandLine(call.painter, r,
+                 StyleColors::withAlpha(highlight.darker(120), rubberBandOutlineAlpha));
+    fillBand(call.painter, inner, fill);
+    drawBandLine(call.painter, inner, QColor::fromRgba(rubberBandContrast));
 }
 
 void paintDockWidgetTitle(const PaintCall &call)

@@ -5,7 +5,9 @@
 #include <nocturne/painting/themepaint_p.h>
 
 #include <QtCore/QtMath>
+
 #include <QtGui/QPainterPath>
+#include <initializer_list>
 
 namespace Nocturne::StylePaint {
 
@@ -105,14 +107,14 @@ void paintRadioButton(QPainter *painter, const PaintCall &call, const QPointF &c
     }
 }
 
-template <std::size_t Columns, std::size_t Rows>
-void paintDots(const PaintCall &call, const int (&columns)[Columns], const int (&rows)[Rows])
+QVector<QPoint> dotGrid(std::initializer_list<int> columns, std::initializer_list<int> rows)
 {
-    const QPoint centre = call.rect().center();
+    QVector<QPoint> corners;
     for (const int x : columns) {
         for (const int y : rows)
-            paintGripDot(call.painter, centre.x() + x, centre.y() + y);
+            corners << QPoint(x, y);
     }
+    return corners;
 }
 
 } // namespace
@@ -206,10 +208,10 @@ void paintIndicatorRadioButton(const PaintCall &call)
 
 void paintIndicatorToolBarHandle(const PaintCall &call)
 {
-    if (call.has(QStyle::State_Horizontal))
-        paintDots(call, {-3, 0}, {-8, -5, -2, 1, 4, 7});
-    else
-        paintDots(call, {-6, -3, 0, 3, 6, 9}, {-3, 0});
+    static const GripDots upright(dotGrid({-3, 0}, {-8, -5, -2, 1, 4, 7}));
+    static const GripDots lying(dotGrid({-6, -3, 0, 3, 6, 9}, {-3, 0}));
+    (call.has(QStyle::State_Horizontal) ? upright : lying)
+        .paint(call.painter, call.rect().center());
 }
 
 void paintIndicatorToolBarSeparator(const PaintCall &call)

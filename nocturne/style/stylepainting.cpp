@@ -3,6 +3,8 @@
 #include "darkfusionstyle_p.h"
 #include "stylecolors_p.h"
 
+#include <nocturne/painting/devicepixels_p.h>
+
 namespace Nocturne::StylePaint {
 
 void beginSharpAntialiasing(QPainter *painter)
@@ -21,10 +23,48 @@ void fillOutline(QPainter *painter, const QRect &rect, const QColor &color)
         fillColumn(painter, rect.right(), rect.top() + 1, rect.bottom() - 1, color);
 }
 
-void paintGripDot(QPainter *painter, int x, int y)
+namespace {
+
+constexpr int gripDotExtent = 2;
+
+void fillDots(QPainter *painter, const QVector<QPoint> &corners, const QPoint &origin, int extent,
+              QRgb color)
 {
-    painter->fillRect(x, y, 2, 2, QColor::fromRgba(StyleColors::lightShade));
-    painter->fillRect(x, y, 1, 1, QColor::fromRgba(StyleColors::darkShade));
+    for (const QPoint &corner : corners)
+        painter->fillRect(QRect(origin + corner, QSize(extent, extent)), QColor::fromRgba(color));
+}
+
+QImage dotsImage(const QVector<QPoint> &corners, const QRect &bounds, int extent, QRgb color)
+{
+    QImage image(bounds.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    fillDots(&painter, corners, -bounds.topLeft(), extent, color);
+    return image;
+}
+
+} // namespace
+
+GripDots::GripDots(const QVector<QPoint> &corners)
+    : m_corners(corners)
+{
+    QRect bounds;
+    for (const QPoint &corner : corners)
+        bounds |= QRect(corner, QSize(gripDotExtent, gripDotExtent));
+    m_topLeft = bounds.topLeft();
+    m_light = dotsImage(corners, bounds, gripDotExtent, StyleColors::lightShade);
+    m_dark = dotsImage(corners, bounds, 1, StyleColors::darkShade);
+}
+
+void GripDots::paint(QPainter *painter, const QPoint &centre) const
+{
+    if (wholeRatio(*painter) == 1) {
+        painter->drawImage(centre + m_topLeft, m_light);
+        painter->drawImage(centre + m_topLeft, m_dark);
+    } else {
+        fillDots(painter, m_corners, centre, gripDotExtent, StyleColors::lightShade);
+        fillDots(painter, m_corners, centre, 1, StyleColors::darkShade);
+    }
 }
 
 QPixmap arrowPixmap(const QColor &color, int rotation)

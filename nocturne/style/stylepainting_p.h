@@ -4,6 +4,7 @@
 #include "darkfusionstyle.h"
 #include "stylehelpers_p.h"
 
+#include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
 
@@ -92,8 +93,22 @@ void fillColumn(QPainter *painter, int x, int top, int bottom, const Fill &fill)
 /// The outermost units of \a rect.
 void fillOutline(QPainter *painter, const QRect &rect, const QColor &color);
 
-/// One dot of a grip or handle: two units wide and light, its upper left unit dark.
-void paintGripDot(QPainter *painter, int x, int y);
+/// The dots of a grip or handle: two units wide and light, their upper left units dark. They are
+/// kept as two pictures, because what is light lies beneath what is dark.
+class GripDots
+{
+public:
+    /// The upper left corners of the dots, which do not touch, in units from the grip's centre.
+    explicit GripDots(const QVector<QPoint> &corners);
+
+    void paint(QPainter *painter, const QPoint &centre) const;
+
+private:
+    const QVector<QPoint> m_corners;
+    QPoint m_topLeft;
+    QImage m_light;
+    QImage m_dark;
+};
 
 /// The arrow on the buttons of a complex control, in \a color, turned clockwise from upward.
 QPixmap arrowPixmap(const QColor &color, int rotation);
