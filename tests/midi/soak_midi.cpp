@@ -31,14 +31,6 @@ int threadCount()
         .size();
 }
 
-QMidiMessage::Bytes systemExclusive(int length)
-{
-    QMidiMessage::Bytes bytes(size_t(length), 0x40);
-    bytes.front() = 0xF0;
-    bytes.back() = 0xF7;
-    return bytes;
-}
-
 /// The two ports that count, for the life of one server.
 class Count
 {
@@ -88,12 +80,48 @@ private:
 /// Whether everything that was sent has come within a few seconds.
 bool hasArrived(const Count &count)
 {
-    QElapsedTimer timer;
-    timer.start();
-    while (count.received() < count.sent() && !timer.hasExpired(20000))
+    for (int i = 0; i < 1000 && count.received() < count.sent(); ++i)
         QThread::msleep(20);
     return count.received() == count.sent();
 }
+
+/// A few ports of a kind.
+template <typename Port>
+class Ports
+{
+public:
+    explicit Ports(QRandomGenerator &dice)
+        : m_dice(dice)
+    {}
+
+    Port *any() { return m_ports.empty() ? nullptr : m_ports[size_t(roll(m_ports.size()))].get(); }
+
+    /// Makes, ends or opens one of them, in one of several ways.
+    void change()
+    {
+        const int way = roll(4);
+        Port *port = any();
+        if (way == 0 && m_ports.size() < mostPorts) {
+            m_ports.push_back(std::make_unique<Port>());
+        } else if (way == 1 && port) {
+            m_ports.erase(m_ports.begin() + roll(m_ports.size()));
+        } else if (way == 2 && port) {
+            port->openVirtualPort(QStringLiteral("port %1").arg(roll(20)));
+        } else if (port) {
+            const QStringList names = port->portNames();
+            port->openPort(names.value(roll(size_t(names.size()) + 1)));
+        }
+    }
+
+    auto begin() const { return m_ports.begin(); }
+    auto end() const { return m_ports.end(); }
+
+private:
+    int roll(size_t count) { return int(m_dice.bounded(quint32(count))); }
+
+    QRandomGenerator &m_dice;
+    std::vector<std::unique_ptr<Port>> m_ports;
+};
 
 } // namespace
 
@@ -102,10 +130,8 @@ int main(int argc, char *argv[])
     QCoreApplication app(argc, argv);
     QCommandLineParser parser;
     parser.addHelpOption();
-    parser.addOptions({{QStringLiteral("minutes"), QStringLiteral("How long."),
-                        QStringLiteral("number"), QStringLiteral("10")},
-                       {QStringLiteral("seed"), QStringLiteral("The first random number."),
-                        QStringLiteral("number"), QStringLiteral("1")}});
+    parser.addOptions({{"minutes", "How long.", "number", "10"},
+                       {"seed", "The first random number.", "number", "1"}});
     parser.process(app);
     const qint64 length = qint64(parser.value(QStringLiteral("minutes")).toDouble() * 60000);
     QRandomGenerator dice(parser.value(QStringLiteral("seed")).toUInt());
@@ -126,59 +152,26 @@ int main(int argc, char *argv[])
         }
         ++servers;
         auto count = std::make_unique<Count>(servers);
-        std::vector<std::unique_ptr<QMidiOut>> outputs;
-        std::vector<std::unique_ptr<QMidiIn>> inputs;
-        const auto name = [&] { return QStringLiteral("port %1").arg(roll(20)); };
-        const auto some = [&](auto &ports) { return ports[size_t(roll(int(ports.size())))].get(); };
-
+        Ports<QMidiOut> outputs(dice);
+        Ports<QMidiIn> inputs(dice);
         for (int left = 200 + roll(800); left > 0 && !timer.hasExpired(length); --left, ++steps) {
             count->send();
-            switch (roll(10)) {
-            case 0:
-                if (outputs.size() < mostPorts)
-                    outputs.push_back(std::make_unique<QMidiOut>());
-                break;
-            case 1:
-                if (inputs.size() < mostPorts)
-                    inputs.push_back(std::make_unique<QMidiIn>());
-                break;
-            case 2:
-                if (!outputs.empty())
-                    outputs.erase(outputs.begin() + roll(int(outputs.size())));
-                break;
-            case 3:
-                if (!inputs.empty())
-                    inputs.erase(inputs.begin() + roll(int(inputs.size())));
-                break;
-            case 4:
-                if (!outputs.empty())
-                    some(outputs)->openVirtualPort(name());
-                break;
-            case 5:
-                if (!inputs.empty())
-                    some(inputs)->openVirtualPort(name());
-                break;
-            case 6:
-                if (!inputs.empty()) {
-                    QMidiIn *input = some(inputs);
-                    const QStringList names = input->portNames();
-                    if (!names.isEmpty())
-                        input->openPort(names.at(roll(names.size())));
-                }
-                break;
-            case 7:
-                if (!outputs.empty())
-                    some(outputs)->openPort(unsigned(roll(8)));
-                break;
-            default:
-                if (!outputs.empty()) {
-                    QMidiOut *output = some(outputs);
-                    for (int i = roll(200); i > 0; --i)
-                        output->sendControlChange(1, 7, quint8(i % 128));
-                    QMidiMessage dump;
-                    dump.setRawMessage(systemExclusive(2 + roll(3000)));
-                    output->sendMessage(dump);
-                }
+            const int kind = roll(10);
+            if (kind < 4) {
+                outputs.change();
+            } else if (kind < 8) {
+                inputs.change();
+            } else if (QMidiOut *output = outputs.any()) {
+                if (roll(3) == 0)
+                    output->openPort(unsigned(roll(8)));
+                for (int i = roll(200); i > 0; --i)
+                    output->sendControlChange(1, 7, quint8(i % 128));
+                QMidiMessage dump;
+                QMidiMessage::Bytes bytes(size_t(2 + roll(3000)), 0x40);
+                bytes.front() = 0xF0;
+                bytes.back() = 0xF7;
+                dump.setRawMessage(bytes);
+                output->sendMessage(dump);
             }
             QCoreApplication::processEvents();
         }

@@ -217,13 +217,9 @@ private Q_SLOTS:
         {
             const Diagnostics diagnostics;
             Nocturne::MidiPort::report(type, "100% of it %s failed");
-            const QString written = diagnostics.standardError();
-            QCOMPARE(
-                written,
-                QString(type == RtMidiError::DEBUG_WARNING ? "" : "\n100% of it %s failed\n\n"));
-            QCOMPARE(warnings, type < RtMidiError::UNSPECIFIED
-                                   ? QStringList()
-                                   : QStringList{"100% of it %s failed"});
+            QCOMPARE(diagnostics.standardError().contains("\n100% of it %s failed\n\n"),
+                     type != RtMidiError::DEBUG_WARNING);
+            QCOMPARE(warnings.contains("100% of it %s failed"), type >= RtMidiError::UNSPECIFIED);
         }
     }
 
@@ -308,19 +304,18 @@ private Q_SLOTS:
         RtMidi::getCompiledApi(compiled);
         QCOMPARE(tried.size(), int(compiled.size()) + 1);
         QCOMPARE(tried.first(), RtMidi::UNSPECIFIED);
+        port.guarded([] { throw RtMidiError("lost", RtMidiError::SYSTEM_ERROR); }); // no device
+        QVERIFY(port.portNames().isEmpty() && !port.openPort("x") && !port.isOpen());
         QCOMPARE(warnings, QStringList{"There is no MIDI output: no such thing"});
-        QCOMPARE(port.portNames(), QStringList());
-        QVERIFY(!port.openPort("x") && !port.isOpen());
 
-        Nocturne::MidiPort other("port");
-        const auto device = other.createDevice<RtMidiOut>("output", [](RtMidi::Api) {
+        const auto device = port.createDevice<RtMidiOut>("output", [](RtMidi::Api) {
             return std::make_unique<RtMidiOut>(RtMidi::RTMIDI_DUMMY, "client");
         });
         if (!device)
             return;
         warnings.clear();
-        other.guarded([] { throw RtMidiError("lost", RtMidiError::SYSTEM_ERROR); });
-        other.guarded([] { throw std::out_of_range("beyond"); });
+        port.guarded([] { throw RtMidiError("lost", RtMidiError::SYSTEM_ERROR); });
+        port.guarded([] { throw std::out_of_range("beyond"); });
         QCOMPARE(warnings, QStringList({"lost", "beyond"}));
     }
 
@@ -382,7 +377,15 @@ private Q_SLOTS:
         QVERIFY(output.openPort(listed(output, "Device:in")));
         settle();
 
-        std::vector<Bytes> expected;
+        std::vector<Bytes> expected = {
+            {0xB0, 2, 3}, {0x9F, 60, 100}, {0x8F, 60, 100}, {0x81, 61, 0}, {0x9F, 62, 1}};
+        output.sendControlChange(1, 2, 3);
+        for (quint8 type : {144, 128, 160})
+            output.sendNote(type, 16, 60, 100);
+        output.sendNoteOff(2, 61, 0);
+        output.sendNoteOn(16, 62, 1);
+        debugLines.clear();
+        warnings.clear();
         QStringList expectedLines;
         for (int type = 0; type < 256; ++type) {
             QMidiMessage message;
@@ -402,15 +405,6 @@ private Q_SLOTS:
         QCOMPARE(debugLines, expectedLines);
         QCOMPARE(warnings.filter("no bytes").size(), 256 - expectedLines.size());
         QVERIFY(warnings.contains("QMidiOut: a message of type 224 has no bytes to send"));
-
-        output.sendControlChange(1, 2, 3);
-        for (quint8 type : {144, 128, 160})
-            output.sendNote(type, 16, 60, 100);
-        output.sendNoteOff(2, 61, 0);
-        output.sendNoteOn(16, 62, 1);
-        for (const Bytes &bytes : {Bytes{0xB0, 2, 3}, Bytes{0x9F, 60, 100}, Bytes{0x8F, 60, 100},
-                                   Bytes{0x81, 61, 0}, Bytes{0x9F, 62, 1}})
-            expected.push_back(bytes);
         QTRY_VERIFY(device.count() >= expected.size());
         std::vector<Bytes> received = device.take();
         received.erase(std::remove_if(received.begin(), received.end(),
@@ -425,13 +419,13 @@ private Q_SLOTS:
             Bytes data(size, 0x2A);
             data.front() = 0xF0;
             message.setSysExData(data);
-            const Bytes sent = message.rawMessage();
+            const std::vector<Bytes> sent = {message.rawMessage()};
             output.sendMessage(message);
             if (size <= 16000)
                 QTRY_COMPARE(device.count(), size_t(1));
             QTest::qWait(100);
             received = device.take();
-            QVERIFY(received == std::vector<Bytes>{sent} || (size > 16000 && received.empty()));
+            QVERIFY(received == sent || (size > 16000 && received.empty()));
         }
     }
 
@@ -443,31 +437,29 @@ private Q_SLOTS:
         QVERIFY(input.openPort(listed(input, "Keys:out")));
         QVector<QMidiMessage> received; // filled on the service's thread, read when it is quiet
         std::atomic<Qt::HANDLE> thread{nullptr};
-        connect(
-            &input, &QMidiIn::midiMessageReceived, &input,
-            [&](const QMidiMessage &message) {
-                received << message;
-                thread = QThread::currentThreadId();
-            },
-            Qt::DirectConnection);
+        const auto keep = [&](const QMidiMessage &message) {
+            received << message;
+            thread = QThread::currentThreadId();
+        };
+        connect(&input, &QMidiIn::midiMessageReceived, &input, keep, Qt::DirectConnection);
         // Queued delivery, by pointer and by name.
         MessageCounter byPointer(input);
         MessageCounter byName;
         connect(&input, SIGNAL(midiMessageReceived(QMidiMessage)), &byName,
                 SLOT(receive(QMidiMessage)));
         settle();
+        const QSet<int> undefined = {0xF4, 0xF5, 0xF7, 0xF9, 0xFD};
+        const QSet<int> filtered = {0xF0, 0xF1, 0xF8, 0xFE};
         QVector<int> expected;
         for (int status = 0x80; status < 0x100; ++status) {
-            if (QVector<int>{0xF4, 0xF5, 0xF7, 0xF9, 0xFD}.contains(status)) // undefined
+            if (undefined.contains(status))
                 continue;
             const int kind = status < 0xF0 ? status & 0xF0 : status;
             const bool twoBytes = kind == 0xC0 || kind == 0xD0 || kind == 0xF1 || kind == 0xF3;
-            Bytes bytes(kind >= 0xF6 ? 1 : twoBytes ? 2 : 3, 0x40);
+            Bytes bytes(kind >= 0xF6 ? 1 : twoBytes ? 2 : 3, status == 0xF0 ? 0xF7 : 0x40);
             bytes.front() = static_cast<unsigned char>(status);
-            if (status == 0xF0)
-                bytes.back() = 0xF7;
             sender.send(bytes);
-            if (!QVector<int>{0xF0, 0xF1, 0xF8, 0xFE}.contains(status)) // filtered
+            if (!filtered.contains(status))
                 expected << status;
         }
         QTRY_VERIFY(byName.count >= expected.size());
@@ -494,7 +486,7 @@ private Q_SLOTS:
         output.openVirtualPort("Flood");
         QMidiIn input;
         QVERIFY(input.openPort(listed(input, "Flood")));
-        std::vector<int> expected(100000);
+        std::vector<int> expected(60000);
         std::iota(expected.begin(), expected.end(), 0);
         std::vector<int> queued;
         connect(&input, &QMidiIn::midiMessageReceived, this,
@@ -516,14 +508,14 @@ private Q_SLOTS:
         Fire fire;
         QMidiIn kept;
         MessageCounter messages(kept);
-        for (int i = 0; i < 15; ++i) {
+        for (int i = 0; i < 8; ++i) {
             QVERIFY(kept.openPort(listed(kept, "Fire")));
             auto input = std::make_unique<QMidiIn>();
             MessageCounter queued(*input);
             std::atomic<int> direct{0};
-            connect(
-                input.get(), &QMidiIn::midiMessageReceived, input.get(),
-                [&direct](const QMidiMessage &) { ++direct; }, Qt::DirectConnection);
+            const auto count = [&direct](const QMidiMessage &) { ++direct; };
+            connect(input.get(), &QMidiIn::midiMessageReceived, input.get(), count,
+                    Qt::DirectConnection);
             QVERIFY(input->openPort(listed(*input, "Fire")));
             const int before = messages.count;
             QTRY_VERIFY(direct > 0 && messages.count > before + 10);
@@ -553,7 +545,8 @@ private Q_SLOTS:
         // None of these may hang; a send that waits for the dead server would do so without end.
         QElapsedTimer timer;
         timer.start();
-        for (int i = 0; i < 300; ++i) {
+        const auto isTold = [] { return !warnings.filter("stopped taking messages").isEmpty(); };
+        for (int i = 0; i < 300 && !isTold(); ++i) {
             QElapsedTimer call;
             call.start();
             for (int j = 0; j < 100; ++j)
@@ -561,7 +554,7 @@ private Q_SLOTS:
             QVERIFY2(call.elapsed() < 500, qPrintable(QString("%1 ms").arg(call.elapsed())));
             QTest::qWait(10);
         }
-        QVERIFY(!warnings.filter("stopped taking messages").isEmpty());
+        QVERIFY(isTold());
         QVERIFY(output->portNames().isEmpty());
         QVERIFY(!output->openPort(name));
         input->openPort("none");

@@ -31,83 +31,55 @@ struct Sample
     QString name() const { return control + ": " + part; }
 };
 
-template <typename W>
-QWidget *make(QWidget *parent)
-{
-    return new W(parent);
-}
-
-template <>
-QWidget *make<QTableWidget>(QWidget *parent)
-{
-    auto *table = new QTableWidget(3, 1, parent);
-    table->setAlternatingRowColors(true);
-    table->verticalHeader()->setDefaultSectionSize(20);
-    for (int row = 0; row < 3; ++row)
-        table->setItem(row, 0, new QTableWidgetItem(" "));
-    table->setCurrentCell(2, 0, QItemSelectionModel::NoUpdate);
-    return table;
-}
-
-template <>
-QWidget *make<QMenu>(QWidget *parent)
-{
-    auto *menu = new QMenu(parent);
-    menu->addAction(" ");
-    return menu;
-}
-
-template <>
-QWidget *make<QTabBar>(QWidget *parent)
-{
-    auto *bar = new QTabBar(parent);
-    for (int i = 0; i < 2; ++i)
-        bar->addTab("WWWWW");
-    return bar;
-}
-
-template <>
-QWidget *make<QComboBox>(QWidget *parent)
-{
-    auto *box = new QComboBox(parent);
-    box->addItem(" ");
-    return box;
-}
-
-template <>
-QWidget *make<QMdiSubWindow>(QWidget *parent)
-{
-    auto *area = new QMdiArea(parent);
-    area->resize(220, 120);
-    return area->addSubWindow(new QWidget);
-}
-
 template <typename... W>
 QHash<QString, QWidget *(*)(QWidget *parent)> makersOf()
 {
-    return {{W::staticMetaObject.className(), make<W>}...};
+    return {{W::staticMetaObject.className(),
+             [](QWidget *parent) -> QWidget * { return new W(parent); }}...};
 }
 
-const auto makers = makersOf<QLabel, QPushButton, QToolButton, QCheckBox, QRadioButton, QLineEdit,
-                             QTextEdit, QGroupBox, QComboBox, QSpinBox, QTabBar, QProgressBar,
-                             QTableWidget, QMenu, QMdiSubWindow, QDockWidget, QSlider, QDial,
-                             QScrollBar, QSizeGrip, RangeSlider, CheckBox>();
+/// A control with something in it.
+QWidget *makeControl(const QString &type, QWidget *parent)
+{
+    static const auto makers =
+        makersOf<QLabel, QPushButton, QToolButton, QCheckBox, QRadioButton, QLineEdit, QTextEdit,
+                 QGroupBox, QComboBox, QSpinBox, QTabBar, QProgressBar, QTableWidget, QMenu,
+                 QMdiArea, QDockWidget, QSlider, QDial, QScrollBar, QSizeGrip, RangeSlider,
+                 CheckBox>();
+    QWidget *control = makers[type](parent);
+    if (auto *table = qobject_cast<QTableWidget *>(control)) {
+        table->setColumnCount(1);
+        table->setRowCount(3);
+        table->setAlternatingRowColors(true);
+        table->verticalHeader()->setDefaultSectionSize(20);
+        for (int row = 0; row < 3; ++row)
+            table->setItem(row, 0, new QTableWidgetItem(" "));
+        table->setCurrentCell(2, 0, QItemSelectionModel::NoUpdate);
+    } else if (auto *menu = qobject_cast<QMenu *>(control)) {
+        menu->addAction(" ");
+    } else if (auto *bar = qobject_cast<QTabBar *>(control)) {
+        for (int i = 0; i < 2; ++i)
+            bar->addTab("WWWWW");
+    } else if (auto *box = qobject_cast<QComboBox *>(control)) {
+        box->addItem(" ");
+    } else if (auto *area = qobject_cast<QMdiArea *>(control)) {
+        area->resize(220, 120);
+        return area->addSubWindow(new QWidget);
+    }
+    return control;
+}
 
 const QVector<Sample> &samples()
 {
-    static const QVector<Sample> rows = [] {
-        QVector<Sample> found;
-        QFile file(NOCTURNE_SOURCE_DIR "/tests/style/data/samples.txt");
-        if (!file.open(QIODevice::ReadOnly))
-            qFatal("%s is missing", qPrintable(file.fileName()));
-        for (const QString &line : QString::fromUtf8(file.readAll()).split('\n')) {
-            const QStringList cells = line.split('|');
-            if (!line.startsWith('#') && cells.size() == 5)
-                found.append({cells[0].trimmed(), cells[1].trimmed(), cells[2].trimmed(),
-                              cells[3].trimmed(), cells[4].trimmed()});
-        }
-        return found;
-    }();
+    static QVector<Sample> rows;
+    QFile file(NOCTURNE_SOURCE_DIR "/tests/style/data/samples.txt");
+    if (!rows.isEmpty() || !file.open(QIODevice::ReadOnly))
+        return rows;
+    for (const QString &line : QString::fromUtf8(file.readAll()).split('\n')) {
+        const QStringList cells = line.simplified().split(QRegularExpression(" ?\\| ?"));
+        if (cells.size() == 5 && !line.startsWith('#'))
+            rows.append({cells[0], cells[1], cells[2], cells[3], cells[4]});
+    }
     return rows;
 }
 
@@ -209,7 +181,7 @@ public:
     explicit Stage(const Sample &sample, State state = State::Normal,
                    Qt::LayoutDirection direction = Qt::LeftToRight)
         : m_sample(sample)
-        , m_control(makers[sample.type](this))
+        , m_control(makeControl(sample.type, this))
     {
         setFixedSize(220, 120);
         setLayoutDirection(direction);

@@ -70,11 +70,6 @@ inline void setHighDpiPixmaps(bool on)
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, on);
 }
 
-inline QString programsPath()
-{
-    return QLibraryInfo::location(QLibraryInfo::BinariesPath);
-}
-
 /// Where the tools stand that a build runs.
 inline QString toolsPath()
 {
@@ -106,11 +101,6 @@ inline void setShortcutWidth(QStyleOptionMenuItem &option, int width)
 }
 
 inline void setHighDpiPixmaps(bool) {}
-
-inline QString programsPath()
-{
-    return QLibraryInfo::path(QLibraryInfo::BinariesPath);
-}
 
 inline QString toolsPath()
 {
