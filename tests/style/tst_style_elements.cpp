@@ -190,7 +190,6 @@ private Q_SLOTS:
     void groupBox();
     void labelWithIcon();
     void menuSeparatorWithText();
-    void menuItemText_data();
     void menuItemText();
     void rememberedScrollBar();
     void sliderInAClip();
@@ -426,15 +425,16 @@ void TestStyleElements::groupBox()
     const int height = option.fontMetrics.height();
     const QSize text = option.fontMetrics.boundingRect(option.text).size() + QSize(2, 2);
     const QRect label(QPoint(19, 1), text);
-    const QRect box(1, text.height() > 14 ? (text.height() - 14) / 2 : 0, 14, 14);
-    const auto place = [&](QStyle::SubControl part) {
-        return m_style->subControlRect(QStyle::CC_GroupBox, &option, part);
+    const QRect box(1, qMax(0, (text.height() - 14) / 2), 14, 14);
+    const auto places = [&] {
+        QVector<QRect> rects;
+        for (auto part : {QStyle::SC_GroupBoxFrame, QStyle::SC_GroupBoxContents,
+                          QStyle::SC_GroupBoxLabel, QStyle::SC_GroupBoxCheckBox})
+            rects << m_style->subControlRect(QStyle::CC_GroupBox, &option, part);
+        return rects;
     };
-    QCOMPARE(place(QStyle::SC_GroupBoxFrame), option.rect);
-    QCOMPARE(place(QStyle::SC_GroupBoxContents),
-             QRect(QPoint(3, qMax(14, height) + 6), QPoint(196, 96)));
-    QCOMPARE(place(QStyle::SC_GroupBoxLabel), label);
-    QCOMPARE(place(QStyle::SC_GroupBoxCheckBox), box);
+    const QRect contents(QPoint(3, qMax(14, height) + 6), QPoint(196, 96));
+    QCOMPARE(places(), (QVector<QRect>{option.rect, contents, label, box}));
     m_recorder.log.clear();
     picture([&](QPainter &painter) {
         m_recorder.drawComplexControl(QStyle::CC_GroupBox, &option, &painter);
@@ -446,10 +446,10 @@ void TestStyleElements::groupBox()
                      "PE_FrameFocusRect " + nameOf(label.adjusted(-2, -1, 2, 1)) + state,
                      "PE_IndicatorCheckBox " + nameOf(box) + state}));
     option.direction = Qt::RightToLeft;
-    QCOMPARE(place(QStyle::SC_GroupBoxLabel), QRect(QPoint(181 - text.width(), 1), text));
-    QCOMPARE(place(QStyle::SC_GroupBoxCheckBox), QRect(185, box.top(), 14, 14));
+    QCOMPARE(places().mid(2),
+             (QVector<QRect>{label.translated(162 - text.width(), 0), box.translated(184, 0)}));
     option.subControls = QStyle::SC_GroupBoxLabel;
-    QCOMPARE(place(QStyle::SC_GroupBoxLabel), QRect(QPoint(200 - text.width(), 1), text));
+    QCOMPARE(places().at(2), QRect(QPoint(200 - text.width(), 1), text));
 
     const auto frame = makeOption<QStyleOption>(QRect(0, 0, 60, 50));
     QCOMPARE(painted(paint(QStyle::PE_FrameGroupBox, frame)).boundingRect(),
@@ -490,62 +490,57 @@ void TestStyleElements::menuSeparatorWithText()
     }
 }
 
-void TestStyleElements::menuItemText_data()
-{
-    QTest::addColumn<QString>("look");
-    for (const char *look : {"", "mirrored", "selected", "disabled", "disabled mirrored",
-                             "disabled selected", "combobox", "popup", "default"})
-        QTest::newRow(look) << look;
-}
-
+/// As the toolkit would draw it, text and shortcut each in a place of its own.
 void TestStyleElements::menuItemText()
 {
-    QFETCH(QString, look);
-    const bool isSelected = look.contains("selected");
-    const bool isEnabled = !look.contains("disabled");
-    const bool isDefault = look == "default";
     QObject popupItem;
-    popupItem.setProperty("_q_isComboBoxPopupItem", look == "popup");
-    auto option = makeOption<QStyleOptionMenuItem>(QRect(3, 2, 115, 28),
-                                                   isEnabled ? enabled : QStyle::State());
-    option.state.setFlag(QStyle::State_Selected, isSelected);
-    if (isDefault)
-        option.menuItemType = QStyleOptionMenuItem::DefaultItem;
-    option.direction = look.contains("mirrored") ? Qt::RightToLeft : Qt::LeftToRight;
-    option.styleObject = &popupItem;
-    option.maxIconWidth = 22;
-    QtVersion::setShortcutWidth(option, 24);
-    option.font.setPixelSize(11);
-    option.text = QStringLiteral("&Open\tF1\tF2");
+    popupItem.setProperty("_q_isComboBoxPopupItem", true);
+    for (const QString look : {"", "mirrored", "selected", "disabled", "disabled mirrored",
+                               "disabled selected", "combobox", "popup", "default"})
+    {
+        const bool isSelected = look.contains("selected");
+        const bool isEnabled = !look.contains("disabled");
+        const bool isMirrored = look.contains("mirrored");
+        auto option = makeOption<QStyleOptionMenuItem>(QRect(3, 2, 115, 28),
+                                                       isEnabled ? enabled : QStyle::State());
+        option.state.setFlag(QStyle::State_Selected, isSelected);
+        if (look == "default")
+            option.menuItemType = QStyleOptionMenuItem::DefaultItem;
+        option.direction = isMirrored ? Qt::RightToLeft : Qt::LeftToRight;
+        option.styleObject = look == "popup" ? &popupItem : nullptr;
+        option.maxIconWidth = 22;
+        QtVersion::setShortcutWidth(option, 24);
+        option.font.setPixelSize(11);
+        option.text = QStringLiteral("&Open\tF1\tF2");
 
-    const int column = look == "combobox" || look == "popup" ? 20 : 22;
-    const QRect text(3 + column + 7, 2 + 8, 115 - (column + 7) - 24 - 14, 28 - 16);
-    const QRect right(text.topRight(), QPoint(option.rect.right(), text.bottom()));
-    const QRect shortcut = QStyle::visualRect(option.direction, option.rect, right);
-    const int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic | Qt::TextDontClip
-                      | Qt::TextSingleLine;
-    const QImage expected = picture([&](QPainter &painter) {
-        painter.setLayoutDirection(option.direction);
-        if (!isEnabled && !isSelected) {
-            painter.setPen(option.palette.color(QPalette::Light));
-            painter.drawText(shortcut.translated(1, 1), flags, QStringLiteral("F1\tF2"));
-        }
-        painter.setPen(option.palette.color(isSelected && isEnabled ? QPalette::HighlightedText
-                                                                    : QPalette::Text));
-        painter.drawText(shortcut, flags, QStringLiteral("F1\tF2"));
-        QFont font = option.font;
-        font.setPointSizeF(QFontInfo(font).pointSizeF());
-        font.setBold(isDefault);
-        painter.setFont(font);
-        painter.drawText(QStyle::visualRect(option.direction, option.rect, text), flags,
-                         QStringLiteral("&Open"));
-    });
-    QCOMPARE(picture([&](QPainter &painter) {
-                 painter.setLayoutDirection(option.direction);
-                 m_style->drawControl(QStyle::CE_MenuItem, &option, &painter,
-                                      m_widgets.value(look));
-             }),
-             expected);
+        const int column = look == "combobox" || look == "popup" ? 20 : 22;
+        const QRect text(3 + column + 7, 2 + 8, 115 - (column + 7) - 24 - 14, 28 - 16);
+        const QRect right(text.topRight(), QPoint(option.rect.right(), text.bottom()));
+        const QRect shortcut = QStyle::visualRect(option.direction, option.rect, right);
+        const int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic | Qt::TextDontClip
+                          | Qt::TextSingleLine;
+        const QImage expected = picture([&](QPainter &painter) {
+            painter.setLayoutDirection(option.direction);
+            if (!isEnabled && !isSelected) {
+                painter.setPen(option.palette.color(QPalette::Light));
+                painter.drawText(shortcut.translated(1, 1), flags, QStringLiteral("F1\tF2"));
+            }
+            painter.setPen(option.palette.color(isSelected && isEnabled ? QPalette::HighlightedText
+                                                                        : QPalette::Text));
+            painter.drawText(shortcut, flags, QStringLiteral("F1\tF2"));
+            QFont font = option.font;
+            font.setPointSizeF(QFontInfo(font).pointSizeF());
+            font.setBold(look == "default");
+            painter.setFont(font);
+            painter.drawText(QStyle::visualRect(option.direction, option.rect, text), flags,
+                             QStringLiteral("&Open"));
+        });
+        const QImage image = picture([&](QPainter &painter) {
+            painter.setLayoutDirection(option.direction);
+            m_style->drawControl(QStyle::CE_MenuItem, &option, &painter, m_widgets.value(look));
+        });
+        QVERIFY2(image == expected, qPrintable(look));
+    }
 }
 
 /// A transient bar notes what it showed, whatever changes alone; a solid one notes nothing.

@@ -110,7 +110,8 @@ public:
             QString::fromUtf8(
                 "Button|Quick fox|&Open file|Save && close|a &b &c|end&|&|A\tB|\t|two\nlines||x|"
                 "&Item\tCtrl+I|مرحبا بالعالم|&مرحبا|שלום עולם|abc שלום 123|شكرا (thanks)|\u200fabc|"
-                "हिन्दी पाठ|ไทย|日本語テキスト|😀 emoji 👍🏽|  "
+                "हिन्दी पाठ|ไทย|日本語テキスト|😀 emoji 👍🏽| "
+                " "
                 "lead, "
                 "trail "
                 " "
