@@ -40,10 +40,27 @@ inline void compareProbes(const QImage &image, const QString &probes)
     }
 }
 
-/// What \a make has to paint, without its children, at one and two device pixels per unit.
-inline void addPainting(const char *name, const MakeWidget &make, const char *at1, const char *at2)
+/// Makes a widget of that class with these properties, and has \a finish done to it.
+template <typename Class>
+MakeWidget made(const QSize &size, const QVector<QPair<const char *, QVariant>> &properties = {},
+                const std::function<void(Class *)> &finish = {})
 {
-    QTest::newRow(name) << make << QString(at1) << QString(at2);
+    return [=] {
+        auto *widget = new Class;
+        widget->resize(size);
+        for (const auto &property : properties)
+            widget->setProperty(property.first, property.second);
+        if (finish)
+            finish(widget);
+        return widget;
+    };
+}
+
+/// What \a make has to paint, without its children, at one and two device pixels per unit.
+inline void addPainting(const QString &name, const MakeWidget &make, const QString &at1,
+                        const QString &at2 = {})
+{
+    QTest::newRow(qPrintable(name)) << make << at1 << at2;
 }
 
 inline void addPaintingColumns()
