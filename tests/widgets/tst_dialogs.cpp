@@ -34,27 +34,23 @@ public:
 /// Types \a path into the dialog and confirms it as a user does, or presses Escape.
 void answer(QFileDialog *dialog, const QString &path = {})
 {
-    if (path.isEmpty()) {
-        QTest::keyClick(dialog, Qt::Key_Escape);
-        return;
-    }
     auto *edit = dialog->findChild<QLineEdit *>("fileNameEdit");
     edit->setText(path);
-    QTest::keyClick(edit, Qt::Key_Return);
+    QTest::keyClick(edit, path.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
 }
 
-void click(QWidget &chooser)
+/// Opens the dialog of \a chooser, has it looked at and answers it.
+void choose(
+    QWidget &chooser, const QString &path = {},
+    const std::function<void(QFileDialog *)> &look = [](QFileDialog *) {})
 {
+    whenOpen<QFileDialog>([=](QFileDialog *dialog) {
+        look(dialog);
+        answer(dialog, path);
+    });
     QTest::mouseClick(chooser.findChild<QAbstractButton *>(), Qt::LeftButton);
 }
 
-void openAndAnswer(QWidget &chooser, const QString &path = {})
-{
-    whenOpen<QFileDialog>([path](QFileDialog *dialog) { answer(dialog, path); });
-    click(chooser);
-}
-
-/// All balloons, and the one that is seen.
 QVector<QBalloonTip *> balloons()
 {
     QVector<QBalloonTip *> found;
@@ -65,6 +61,7 @@ QVector<QBalloonTip *> balloons()
     return found;
 }
 
+/// The one that is seen.
 QBalloonTip *currentBalloon()
 {
     for (QBalloonTip *balloon : balloons()) {
@@ -106,26 +103,18 @@ private Q_SLOTS:
     void messageBoxes()
     {
         using Box = QMessageBoxEx;
-        const auto onOpen = [](QMessageBox::Icon icon) {
-            whenOpen<QMessageBox>([icon](QMessageBox *box) {
-                QCOMPARE(box->icon(), icon);
-                QCOMPARE(box->windowTitle() + box->text(), QString("title?"));
-                QCOMPARE(box->standardButtons(), Box::Retry | Box::Cancel);
-                QTest::keyClick(box, Qt::Key_Return);
-            });
-        };
-        using Open = Box::StandardButton (*)(QWidget *, const QString &, const QString &,
-                                             Box::StandardButtons, Box::StandardButton);
-        const QVector<QPair<Box::Icon, Open>> functions = {{Box::Information, &Box::information},
-                                                           {Box::Question, &Box::question},
-                                                           {Box::Warning, &Box::warning},
-                                                           {Box::Critical, &Box::critical}};
-        for (const auto &function : functions) {
+        int icon = Box::Information;
+        for (auto open : {&Box::information, &Box::warning, &Box::critical, &Box::question}) {
             for (auto button : {Box::Retry, Box::Cancel}) {
-                onOpen(function.first);
-                QCOMPARE(function.second(nullptr, "title", "?", Box::Retry | Box::Cancel, button),
-                         button);
+                whenOpen<QMessageBox>([icon](QMessageBox *box) {
+                    QCOMPARE(int(box->icon()), icon);
+                    QCOMPARE(box->windowTitle() + box->text(), QString("title?"));
+                    QCOMPARE(box->standardButtons(), Box::Retry | Box::Cancel);
+                    QTest::keyClick(box, Qt::Key_Return);
+                });
+                QCOMPARE(open(nullptr, "title", "?", Box::Retry | Box::Cancel, button), button);
             }
+            ++icon;
         }
         whenOpen<QMessageBox>([](QMessageBox *box) { QTest::keyClick(box, Qt::Key_Escape); });
         QCOMPARE(Box::question(nullptr, {}, {}, Box::Yes | Box::Cancel), Box::Cancel);
@@ -167,17 +156,15 @@ private Q_SLOTS:
         chooser.setFileName(m_still);
         QCOMPARE(std::exchange(heard, {}), QStringList({"a", "ab", m_still}));
 
-        whenOpen<QFileDialog>([this](QFileDialog *dialog) {
+        choose(chooser, {}, [this](QFileDialog *dialog) {
             QCOMPARE(dialog->windowTitle(), m_still);
             QCOMPARE(dialog->directory().absolutePath(), m_dir.path());
             QCOMPARE(dialog->fileMode(), QFileDialog::ExistingFile);
-            answer(dialog);
         });
-        click(chooser);
         QCOMPARE(heard, QStringList());
-        openAndAnswer(chooser, m_clip); // reported by the field and by the choice
-        openAndAnswer(chooser, m_clip);
-        openAndAnswer(chooser);
+        choose(chooser, m_clip); // reported by the field and by the choice
+        choose(chooser, m_clip);
+        choose(chooser);
         QCOMPARE(heard, QStringList({m_clip, m_clip, m_clip}));
         QCOMPARE(chooser.fileName(), m_clip);
     }
@@ -189,11 +176,9 @@ private Q_SLOTS:
         ComboFileChooser combo;
         combo.setMode(ComboFileChooser::OpenDirectory);
         for (QWidget *widget : QVector<QWidget *>{&chooser, &combo}) {
-            whenOpen<QFileDialog>([this](QFileDialog *dialog) {
+            choose(*widget, m_dir.path(), [](QFileDialog *dialog) {
                 QVERIFY(dialog->testOption(QFileDialog::ShowDirsOnly));
-                answer(dialog, m_dir.path());
             });
-            click(*widget);
         }
         QCOMPARE(chooser.fileName(), m_dir.path());
         QCOMPARE(combo.fileName(), m_dir.path());
@@ -203,11 +188,10 @@ private Q_SLOTS:
     {
         const auto extensionsOf = [this](QWidget &chooser) {
             QString filter;
-            whenOpen<QFileDialog>([&](QFileDialog *dialog) {
+            choose(chooser, {}, [&](QFileDialog *dialog) {
                 filter = dialog->nameFilters().first().section('(', 1).section(')', 0, 0);
                 QCOMPARE(dialog->directory().absolutePath(), m_dir.path());
             });
-            click(chooser);
             return filter;
         };
         ComboFileChooser combo;
@@ -244,9 +228,9 @@ private Q_SLOTS:
         });
         connect(&chooser, &ComboFileChooser::fileNameChanged, this,
                 [&heard](const QString &name) { heard << name; });
-        openAndAnswer(chooser);
+        choose(chooser);
         QCOMPARE(combo->count(), 3);
-        openAndAnswer(chooser, m_clip);
+        choose(chooser, m_clip);
         QCOMPARE(heard, QStringList({"before", "before", m_clip}));
         QCOMPARE(combo->count(), 1);
         chooser.clear();
@@ -277,41 +261,35 @@ private Q_SLOTS:
         QVERIFY(balloon);
         const QSize size = balloon->sizeHint();
         QCOMPARE(balloon->size(), size);
-        QCOMPARE(balloon->contentsMargins(), top ? QMargins(4, 21, 4, 3) : QMargins(4, 3, 4, 21));
         QCOMPARE(balloon->pos(),
                  position - QPoint(left ? 18 : size.width() - 18, top ? 0 : size.height()));
+        QCOMPARE(balloon->contentsMargins(), top ? QMargins(4, 21, 4, 3) : QMargins(4, 3, 4, 21));
 
         // What is painted is what the mask keeps: paper inside, a darker line around it.
-        QImage image(size, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        balloon->render(&image, balloon->mask().boundingRect().topLeft(), QRegion(),
-                        QWidget::DrawChildren);
+        const QRegion mask = balloon->mask();
+        const QImage image = TestSupport::paintOn(size, Qt::transparent, [&](QPainter &painter) {
+            balloon->render(&painter, mask.boundingRect().topLeft(), {}, QWidget::DrawChildren);
+        });
         for (int y = 0; y < size.height(); ++y) {
             for (int x = 0; x < size.width(); ++x)
-                QCOMPARE(image.pixelColor(x, y).alpha(),
-                         balloon->mask().contains(QPoint(x, y)) ? 255 : 0);
+                QCOMPARE(image.pixelColor(x, y).alpha(), mask.contains(QPoint(x, y)) ? 255 : 0);
         }
         const int right = size.width() - 1;
-        const int bodyTop = top ? 18 : 0;
-        const int bodyBottom = bodyTop + size.height() - 19;
-        const int middle = (bodyTop + bodyBottom) / 2;
-        const QColor line = QColor(255, 255, 225).darker(160);
+        const int bottom = size.height() - 1;
+        const QRect body(0, top ? 18 : 0, size.width(), size.height() - 18);
+        const QColor paper(255, 255, 225);
         TestSupport::comparePixels(
             image, Qt::transparent,
-            {{0, bodyTop}, {right, bodyBottom}, {right / 2, top ? 10 : size.height() - 10}});
-        TestSupport::comparePixels(image, line,
-                                   {{right / 2, bodyTop}, {right / 2, bodyBottom}, {0, middle}});
-        COMPARE_PIXEL(image, 2, middle, QColor(255, 255, 225));
-        const QPoint inArrow(left ? 20 : right - 20, top ? 10 : size.height() - 10);
-        QCOMPARE(balloon->mask().contains(inArrow), arrow);
-    }
+            {body.topLeft(), body.bottomRight(), {right / 2, top ? 10 : bottom - 9}});
+        TestSupport::comparePixels(
+            image, paper.darker(160),
+            {{right / 2, body.top()}, {right / 2, body.bottom()}, {0, body.center().y()}});
+        COMPARE_PIXEL(image, 2, body.center().y(), paper);
+        QCOMPARE(mask.contains(QPoint(left ? 20 : right - 20, top ? 10 : bottom - 9)), arrow);
 
-    void balloonsStayOnTheScreen()
-    {
-        const QRect screen = QGuiApplication::primaryScreen()->geometry();
-        QCOMPARE(show(QPoint(screen.left() + 1, 100))->x(), screen.left() + 2);
-        const QBalloonTip *atTheEnd = show(QPoint(screen.right() - 1, 100));
-        QCOMPARE(atTheEnd->x(), screen.right() - atTheEnd->width() - 2);
+        // It stays on the screen.
+        balloon = show(QPoint(left ? 1 : screen.right() - 1, 100));
+        QCOMPARE(balloon->x(), left ? 2 : screen.right() - balloon->width() - 2);
     }
 
     void balloonContents()

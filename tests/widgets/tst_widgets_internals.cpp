@@ -6,7 +6,7 @@
 #include <nocturne/style/darkfusionstyle.h>
 #include <nocturne/theme/darkux.h>
 #include <nocturne/widgets/gradienttool.h>
-#include <nocturne/widgets/rangeslider_p.h>
+#include <nocturne/widgets/rangeslider.h>
 #include <nocturne/widgets/roundprogressbar.h>
 #include <nocturne/widgets/spanslider.h>
 
@@ -53,24 +53,6 @@ QString rangeOf(QAccessibleValueInterface *value)
         .arg(value->currentValue().toString(), value->minimumValue().toString(),
              value->maximumValue().toString());
 }
-
-/// What a subclass keeps besides.
-class MarkerPrivate : public RangeSliderPrivate
-{
-public:
-    using RangeSliderPrivate::RangeSliderPrivate;
-    ~MarkerPrivate() override { ++deleted; }
-
-    static inline int deleted = 0;
-};
-
-class MarkerSlider : public RangeSlider
-{
-public:
-    MarkerSlider()
-        : RangeSlider(new MarkerPrivate(this), Qt::Vertical, nullptr)
-    {}
-};
 
 /// The whole bar blurred in one piece.
 QImage blurredAtOnce(const Nocturne::GlowBar &bar)
@@ -185,7 +167,8 @@ private Q_SLOTS:
     /// Each handle has a name, a value, a place and the room it can move in, and tells of changes.
     void handlesAreAccessible()
     {
-        RangeSlider range(Qt::Horizontal);
+        auto owned = std::make_unique<RangeSlider>(Qt::Horizontal);
+        RangeSlider &range = *owned;
         range.setEnableRange(true);
         range.setValues(20, 80, 50);
         SpanSlider span(Qt::Horizontal);
@@ -197,17 +180,17 @@ private Q_SLOTS:
         compareHandles(&span, {{"Lower", "20 of 0 to 59"}, {"Upper", "60 of 21 to 99"}});
         takeTold();
 
-        const auto set = [](QSlider *slider, int handle, int value) {
-            QAccessible::queryAccessibleInterface(slider)
-                ->child(handle)
-                ->valueInterface()
-                ->setCurrentValue(value);
+        const auto handleOf = [](QSlider &slider, int number) {
+            return QAccessible::queryAccessibleInterface(&slider)->child(number);
+        };
+        const auto set = [&](QSlider &slider, int handle, int value) {
+            handleOf(slider, handle)->valueInterface()->setCurrentValue(value);
             return takeTold();
         };
-        QCOMPARE(set(&range, 0, 25), QString("Minimum 25"));
-        QCOMPARE(set(&range, 2, 1000), QString("Position 99"));
-        QCOMPARE(set(&span, 0, 90), QString("Lower 59"));
-        QCOMPARE(set(&span, 1, 70), QString("Upper 70"));
+        QCOMPARE(set(range, 0, 25), QString("Minimum 25"));
+        QCOMPARE(set(range, 2, 1000), QString("Position 99"));
+        QCOMPARE(set(span, 0, 90), QString("Lower 59"));
+        QCOMPARE(set(span, 1, 70), QString("Upper 70"));
         range.setValues(25, 81, 51);
         span.setSpan(10, 60);
         QCOMPARE(takeTold(), QString("Maximum 81, Position 51, Lower 10, Upper 60"));
@@ -215,28 +198,14 @@ private Q_SLOTS:
         // What cannot be dragged cannot be set.
         range.setEnableRange(false);
         span.setEnabled(false);
-        QVERIFY(QAccessible::queryAccessibleInterface(&range)->child(1)->state().invisible);
-        QCOMPARE(set(&range, 1, 90) + set(&span, 1, 80), QString());
-    }
+        QVERIFY(handleOf(range, 1)->state().invisible);
+        QCOMPARE(set(range, 1, 90) + set(span, 1, 80), QString());
 
-    void handlesEndWithTheirSlider()
-    {
-        auto slider = std::make_unique<RangeSlider>();
-        const QAccessible::Id handle =
-            QAccessible::uniqueId(QAccessible::queryAccessibleInterface(slider.get())->child(1));
+        // Handles end with their slider.
+        const QAccessible::Id handle = QAccessible::uniqueId(handleOf(range, 1));
         QVERIFY(QAccessible::accessibleInterface(handle));
-        slider.reset();
+        owned.reset();
         QVERIFY(!QAccessible::accessibleInterface(handle));
-    }
-
-    void subclassWithItsOwnPrivate()
-    {
-        {
-            MarkerSlider slider;
-            QCOMPARE(slider.maximumValue(), 99);
-            QCOMPARE(slider.orientation(), Qt::Vertical);
-        }
-        QCOMPARE(MarkerPrivate::deleted, 1);
     }
 
     void glowEqualsABlurOfTheWholeBar()
@@ -283,8 +252,8 @@ private:
             const QRect place = slider->style()->subControlRect(QStyle::CC_Slider, &option,
                                                                 QStyle::SC_SliderHandle, slider);
             QCOMPARE(handle->rect(), place.translated(slider->mapToGlobal(QPoint())));
-            QCOMPARE(group->childAt(handle->rect().center().x(), handle->rect().center().y()),
-                     handle);
+            const QPoint center = handle->rect().center();
+            QCOMPARE(group->childAt(center.x(), center.y()), handle);
         }
     }
 
