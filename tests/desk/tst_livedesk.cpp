@@ -1,7 +1,7 @@
+#include "gestures.h"
 #include "testsupport.h"
 #include "xserver.h"
 
-#include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
 #include <nocturne/GradientTool>
 #include <nocturne/ListWidget>
@@ -14,7 +14,6 @@
 #include <panels.h>
 #include <player.h>
 
-#include <QtCore/QFile>
 #include <QtCore/QMimeData>
 #include <QtCore/QTemporaryDir>
 #include <QtWidgets/QAbstractButton>
@@ -45,23 +44,19 @@ QMidiMessage controlChange(int key, int value)
 double residentMemory()
 {
     QFile file("/proc/self/statm");
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    return file.readAll().split(' ').value(1).toDouble() * 4;
+    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(1).toDouble() * 4 : 0;
 }
 
 /// How much \a values grow from one to the next, by linear regression.
 double slope(const std::vector<double> &values)
 {
-    const double n = double(values.size());
-    double sumX = 0, sumY = 0, sumXY = 0, sumXX = 0;
+    double products = 0, squares = 0;
     for (std::size_t i = 0; i < values.size(); ++i) {
-        sumX += double(i);
-        sumY += values[i];
-        sumXY += double(i) * values[i];
-        sumXX += double(i) * double(i);
+        const double distance = double(i) - double(values.size() - 1) / 2;
+        products += distance * values[i];
+        squares += distance * distance;
     }
-    return (n * sumXY - sumX * sumY) / (n * sumXX - sumX * sumX);
+    return products / squares;
 }
 
 /// Measures how long each event takes that is delivered from the event loop, in milliseconds.
@@ -72,21 +67,21 @@ public:
 
     bool notify(QObject *receiver, QEvent *event) override
     {
-        if (m_depth > 0)
+        if (m_nested)
             return QApplication::notify(receiver, event);
-        ++m_depth;
+        m_nested = true;
         QElapsedTimer timer;
         timer.start();
         const bool result = QApplication::notify(receiver, event);
         times.push_back(double(timer.nsecsElapsed()) / 1e6);
-        --m_depth;
+        m_nested = false;
         return result;
     }
 
     std::vector<double> times;
 
 private:
-    int m_depth = 0;
+    bool m_nested = false;
 };
 
 } // namespace
@@ -98,118 +93,96 @@ class TestLiveDesk : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_window = std::make_unique<DeskWindow>(m_folder.filePath("desk.json"));
-        m_window->show();
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        m_steps = 0;
+        openDesk();
+        QVERIFY(TestSupport::showActive(m_window.get()));
     }
 
     void cleanup()
     {
         m_window.reset();
-        QFile::remove(m_folder.filePath("desk.json"));
+        QFile::remove(m_settings);
     }
 
+    /// Undone and done again, and kept from one start to the next.
     void work()
     {
-        const DeskState start = m_window->desk()->state();
+        const DeskState start = state();
         for (int i = 0; i < 3 && !QTest::currentTestFailed(); ++i)
             workRound();
-        const DeskState end = m_window->desk()->state();
-        while (m_window->desk()->history()->canUndo())
-            m_window->desk()->history()->undo();
-        QVERIFY(m_window->desk()->state() == start);
-        while (m_window->desk()->history()->canRedo())
-            m_window->desk()->history()->redo();
-        QVERIFY(m_window->desk()->state() == end);
+        const DeskState end = state();
+        history()->setIndex(0);
+        QVERIFY(state() == start);
+        history()->setIndex(history()->count());
+        QVERIFY(state() == end);
+        m_window->controls()->setBinding(controlChange(21, 0));
+        m_window->setLanguage("de_DE");
+        m_window->close();
+        openDesk();
+        QVERIFY(state() == end);
+        QCOMPARE(m_window->controls()->binding().key(), 21);
+        QCOMPARE(history()->count(), 0);
     }
 
     void picture()
     {
-        drop({QUrl::fromLocalFile("/clips/bars.mov")});
-        const auto pixel = [this](int x) {
-            return find<Monitor>("preview")->picture().pixelColor(x, 100);
+        const auto pixel = [this](int x, int y = 100) {
+            return find<Monitor>("preview")->picture().pixelColor(x, y);
         };
+        const auto setLook = [this](const Look &look) {
+            m_window->desk()->edit("Look", true, [&](DeskState &state) { state.look = look; });
+        };
+        drop({"/clips/bars.mov"});
         QCOMPARE(pixel(100), QColor(Qt::yellow));
-        Desk *desk = m_window->desk();
-        desk->edit("Position", true, [](DeskState &state) { state.look.x = 80; });
+        Look look;
+        look.x = 80;
+        setLook(look);
         QCOMPARE(pixel(40), QColor(Qt::black));
         QCOMPARE(pixel(180), QColor(Qt::yellow));
-        desk->edit("Grade", true, [](DeskState &state) {
-            state.look.x = 0;
-            state.look.amount = 100;
-            state.look.ramp = {{0.0, Qt::red}, {1.0, Qt::blue}};
-        });
+        look = Look();
+        look.amount = 100;
+        look.ramp = {{0.0, Qt::red}, {1.0, Qt::blue}};
+        setLook(look);
         QCOMPARE(pixel(20), QColor(Qt::blue)); // white
         QCOMPARE(pixel(620), QColor(Qt::red)); // black
-        desk->edit("Levels", true, [](DeskState &state) {
-            state.look.amount = 0;
-            state.look.black = 254;
-            state.look.white = 255;
-        });
+        look = Look();
+        look.black = 254;
+        setLook(look);
         QCOMPARE(pixel(100), QColor(Qt::yellow));
-        QCOMPARE(find<Monitor>("preview")->picture().pixelColor(30, 350), QColor(Qt::black));
+        QCOMPARE(pixel(30, 350), QColor(Qt::black));
     }
 
     void midiControl()
     {
         ControlPanel *controls = m_window->controls();
         controls->takeMidi(controlChange(7, 127));
-        expectSteps(0, "a message that nothing is bound to");
-        QTest::mouseClick(find<QWidget>("learn"), Qt::LeftButton);
+        expectStep("a message that nothing is bound to", 0);
+        find<QWidget>("learn")->setFocus();
         controls->takeMidi(controlChange(7, 0));
         QCOMPARE(controls->binding().key(), 7);
-        find<QWidget>("play")->setFocus();
         find<QWidget>("learn")->clearFocus();
         for (int value : {10, 60, 127})
             controls->takeMidi(controlChange(7, value));
         controls->takeMidi(controlChange(8, 3));
-        expectSteps(1, "a fader that is moved");
-        QCOMPARE(m_window->desk()->state().look.amount, 100);
+        expectStep("a fader that is moved");
+        QCOMPARE(state().look.amount, 100);
         QTest::qWait(600);
         controls->takeMidi(controlChange(7, 0));
-        expectSteps(1, "a fader that had rested");
-    }
-
-    void settings()
-    {
-        workRound();
-        m_window->controls()->setBinding(controlChange(21, 0));
-        m_window->setLanguage("de_DE");
-        const DeskState state = m_window->desk()->state();
-        m_window->close();
-        m_window = std::make_unique<DeskWindow>(m_folder.filePath("desk.json"));
-        QVERIFY(m_window->desk()->state() == state);
-        QCOMPARE(m_window->controls()->binding().key(), 21);
-        QCOMPARE(m_window->desk()->history()->count(), 0);
+        expectStep("a fader that had rested");
     }
 
     void damagedSettings()
     {
-        const QString path = m_folder.filePath("desk.json");
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("{ \"clips\": [ {\"length\": 1e300, \"in\": -7, \"out\": \"x\"}, 3 ], "
-                   "\"current\": 99, \"look\": { \"black\": 400, \"ramp\": [[2, \"#ff0000\"]] } }");
-        file.close();
-        m_window = std::make_unique<DeskWindow>(path);
-        const DeskState state = m_window->desk()->state();
-        QCOMPARE(state.clips.size(), 2);
-        QCOMPARE(state.current, 1);
-        QCOMPARE(state.clips.first().out, state.clips.first().length - 1);
-        QCOMPARE(state.look.black, 254);
-        QCOMPARE(state.look.ramp.size(), 2);
-
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("not a desk");
-        file.close();
+        reopen("{\"clips\": [{\"length\": 1e300, \"in\": -7, \"out\": \"x\"}, 3], \"current\": 99, "
+               "\"look\": {\"black\": 400, \"ramp\": [[2, \"#ff0000\"]]}}");
+        QCOMPARE(state().clips.size(), 2);
+        QCOMPARE(state().current, 1);
+        QCOMPARE(state().clips.first().out, state().clips.first().length - 1);
+        QCOMPARE(state().look.black, 254);
+        QCOMPARE(state().look.ramp.size(), 2);
         QTest::ignoreMessage(
-            QtWarningMsg, QRegularExpression(QStringLiteral("^cannot read the settings, kept as .*"
-                                                            "desk\\.json\\.unreadable: ")));
-        m_window = std::make_unique<DeskWindow>(path);
-        QVERIFY(!QFile::exists(path));
-        QVERIFY(QFile::exists(path + ".unreadable"));
+            QtWarningMsg, QRegularExpression("^cannot read the settings, kept as .*unreadable: "));
+        reopen("not a desk");
+        QVERIFY(!QFile::exists(m_settings) && QFile::exists(m_settings + ".unreadable"));
     }
 
     void soak()
@@ -217,7 +190,7 @@ private Q_SLOTS:
         const double minutes = qEnvironmentVariable("NOCTURNE_SOAK").toDouble();
         if (minutes <= 0)
             QSKIP("runs with NOCTURNE_SOAK=<minutes>");
-        const DeskState start = m_window->desk()->state();
+        const DeskState start = state();
         QElapsedTimer clock;
         clock.start();
         std::vector<double> memory;
@@ -226,10 +199,10 @@ private Q_SLOTS:
             workRound();
             QVERIFY(!QTest::currentTestFailed());
             if (++rounds % 10 == 0) {
-                while (m_window->desk()->history()->canUndo())
-                    m_window->desk()->history()->undo();
-                QVERIFY(m_window->desk()->state() == start);
-                m_window->desk()->history()->clear();
+                while (history()->canUndo())
+                    history()->undo();
+                QVERIFY(state() == start);
+                history()->clear();
                 m_steps = 0;
                 memory.push_back(residentMemory());
             }
@@ -245,107 +218,124 @@ private Q_SLOTS:
     }
 
 private:
+    void openDesk()
+    {
+        m_window = std::make_unique<DeskWindow>(m_settings);
+        m_steps = 0;
+    }
+
+    void reopen(const QByteArray &settings)
+    {
+        QFile file(m_settings);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(settings) == settings.size());
+        file.close();
+        openDesk();
+    }
+
+    const DeskState &state() const { return m_window->desk()->state(); }
+    QUndoStack *history() const { return m_window->desk()->history(); }
+
     template <typename Widget>
-    Widget *find(const char *name)
+    Widget *find(const char *name) const
     {
         return m_window->findChild<Widget *>(name);
     }
 
-    void drop(const QList<QUrl> &urls)
+    void drop(const QStringList &files)
     {
+        QList<QUrl> urls;
+        for (const QString &file : files)
+            urls << QUrl::fromLocalFile(file);
         QMimeData data;
         data.setUrls(urls);
         QWidget *viewport = find<ListWidget>("bin")->viewport();
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
         QCoreApplication::sendEvent(viewport, &enter);
-        QDropEvent drop(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
         QCoreApplication::sendEvent(viewport, &drop);
+        expectStep("a drop of files");
     }
 
-    /// With the left button; like a real one, the pointer's events go to whoever grabs it.
-    void drag(QWidget *widget, const QPoint &from, const QPoint &to, int moves = 5)
+    /// From one x to another, with the left button and expecting one step; like a real one, the
+    /// pointer's events go to whoever grabs it.
+    void drag(QWidget *widget, int from, int to, int moves = 5)
     {
-        QCursor::setPos(widget->mapToGlobal(from));
+        const auto place = [=](int x) { return QPoint(x, widget->height() * 2 / 5); };
+        QCursor::setPos(widget->mapToGlobal(place(from)));
         QCoreApplication::processEvents();
-        QTest::mousePress(widget, Qt::LeftButton, {}, from);
+        QTest::mousePress(widget, Qt::LeftButton, {}, place(from));
         QWidget *receiver = QWidget::mouseGrabber() ? QWidget::mouseGrabber() : widget;
-        for (int i = 1; i <= moves; ++i) {
-            const QPoint place = widget->mapTo(m_window.get(), from + (to - from) * i / moves);
-            QMouseEvent move(QEvent::MouseMove, receiver->mapFrom(m_window.get(), place),
-                             m_window->mapToGlobal(place), Qt::NoButton, Qt::LeftButton,
-                             Qt::NoModifier);
-            QCoreApplication::sendEvent(receiver, &move);
-        }
-        QTest::mouseRelease(receiver, Qt::LeftButton, {},
-                            receiver->mapFrom(m_window.get(), widget->mapTo(m_window.get(), to)));
+        const auto seen = [=](int x) {
+            return receiver->mapFromGlobal(widget->mapToGlobal(place(x)));
+        };
+        for (int i = 1; i <= moves; ++i)
+            TestSupport::sendDrag(receiver, seen(from + (to - from) * i / moves));
+        QTest::mouseRelease(receiver, Qt::LeftButton, {}, seen(to));
         QCoreApplication::processEvents();
+        expectStep(qPrintable("a drag of " + widget->objectName()));
     }
 
-    void expectSteps(int steps, const char *what)
+    void click(const char *button)
+    {
+        QTest::mouseClick(find<QAbstractButton>(button), Qt::LeftButton);
+    }
+
+    void expectStep(const char *what, int steps = 1)
     {
         m_steps += steps;
-        const int seen = m_window->desk()->history()->count();
+        const int seen = history()->count();
         QVERIFY2(seen == m_steps, qPrintable(QString("%1: %2 steps").arg(what).arg(seen)));
     }
 
     /// One stretch of work with every kind of gesture.
     void workRound()
     {
-        Desk *desk = m_window->desk();
-        const auto state = [desk] { return desk->state(); };
-        drop({QUrl::fromLocalFile("/clips/opening.mov"), QUrl::fromLocalFile("/clips/stage.mov")});
-        expectSteps(1, "a drop of two files");
+        drop({"/clips/opening.mov", "/clips/stage.mov"});
         if (QTest::currentTestFailed())
             return;
 
         auto *trim = find<RangeSlider>("trim");
-        const int middle = trim->height() / 2;
         const Clip before = *state().currentClip();
         trim->setMainPosition(before.length / 2); // out of the way of the others
         QCoreApplication::processEvents();
         const int end = 7 + before.out * (trim->width() - 14) / (before.length - 1);
-        drag(trim, {end, middle}, {end - 12, middle});
-        expectSteps(1, "a trim");
+        drag(trim, end, end - 12);
         QVERIFY(state().currentClip()->out < before.out);
 
         auto *levels = find<SpanSlider>("levels");
-        const int levelsMiddle = levels->height() / 2;
         const int start = state().look.black * (levels->width() - 14) / 255 + 7;
-        drag(levels, {start, levelsMiddle}, {start + 8, levelsMiddle});
-        expectSteps(1, "a drag of the black level");
+        drag(levels, start, start + 8);
 
         auto *amount = find<Slider>("amount");
-        const int x = state().look.amount > 50 ? 10 : amount->width() - 10;
-        drag(amount, {amount->width() / 2, amount->height() / 2}, {x, amount->height() / 2});
-        expectSteps(1, "a drag of the amount");
+        drag(amount, amount->width() / 2, state().look.amount > 50 ? 10 : amount->width() - 10);
+        QTest::keyClick(amount, state().look.amount > 50 ? Qt::Key_Left : Qt::Key_Right);
+        expectStep("a key on the amount");
+        QCOMPARE(state().look.amount, amount->value());
 
         auto *ramp = find<GradientTool>("ramp");
         const int stops = state().look.ramp.size();
-        drag(ramp, {ramp->width() / 2, 15}, {ramp->width() / 3, 15});
-        expectSteps(1, "a new stop that is dragged on");
+        drag(ramp, ramp->width() / 2, ramp->width() / 3);
         QCOMPARE(state().look.ramp.size(), stops + 1);
 
-        auto *position = find<SpinBox>("x");
         const int left = state().look.x;
-        auto *field = position->findChild<QWidget *>("qt_spinbox_lineedit");
-        drag(field, {20, 8}, {32, 8}, 12);
-        expectSteps(1, "a drag of the position");
+        drag(find<SpinBox>("x")->findChild<QWidget *>("qt_spinbox_lineedit"), 20, 32, 12);
         QVERIFY(state().look.x > left);
 
-        QTest::mouseClick(find<QAbstractButton>("cut"), Qt::LeftButton);
+        click("cut");
         QVERIFY(m_window->player()->isOnAir());
-        QTest::mouseClick(find<QAbstractButton>("play"), Qt::LeftButton);
+        click("play");
         const int playHead = m_window->player()->playHead();
         QTRY_VERIFY(m_window->player()->playHead() != playHead);
-        QTest::mouseClick(find<QAbstractButton>("play"), Qt::LeftButton);
-        QTest::mouseClick(find<QAbstractButton>("render"), Qt::LeftButton);
-        QTest::mouseClick(find<QAbstractButton>("render"), Qt::LeftButton);
+        click("play");
+        click("render");
+        click("render");
         m_window->setLanguage(m_steps % 2 ? "de_DE" : QString());
         QCoreApplication::processEvents();
-        expectSteps(0, "playing, rendering and another language");
+        expectStep("playing, rendering and another language", 0);
     }
 
     QTemporaryDir m_folder;
+    const QString m_settings = m_folder.filePath("desk.json");
     std::unique_ptr<DeskWindow> m_window;
     int m_steps = 0;
 };
@@ -353,12 +343,8 @@ private:
 int main(int argc, char *argv[])
 {
     XServer server;
-    if (server.start()) {
-        qputenv("DISPLAY", server.display().toLocal8Bit());
-        qputenv("QT_QPA_PLATFORM", "xcb");
-    } else {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    qputenv("QT_QPA_PLATFORM", server.start() ? "xcb" : "offscreen");
+    qputenv("DISPLAY", server.display().toLocal8Bit());
     qputenv("QT_FONT_DPI", "96");
     TimedApplication app(argc, argv);
     DarkUX theme;
