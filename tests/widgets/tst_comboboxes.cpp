@@ -95,11 +95,10 @@ private Q_SLOTS:
         QString kinds;
         for (int row = 0; row < combo.count(); ++row) {
             const QString kind = combo.itemData(row, Qt::AccessibleDescriptionRole).toString();
-            kinds += kind + ' ';
-            const Qt::ItemFlags flags = combo.model()->index(row, 0).flags();
-            QCOMPARE(flags.testFlag(Qt::ItemIsSelectable), kind == "child");
+            const bool selectable = combo.model()->index(row, 0).flags() & Qt::ItemIsSelectable;
+            kinds += kind + (selectable ? "! " : " ");
         }
-        QCOMPARE(kinds, QString("parent child child separator parent child "));
+        QCOMPARE(kinds, QString("parent child! child! separator parent child! "));
         combo.setCurrentIndex(combo.findData(12));
         QCOMPARE(combo.currentData(Qt::DisplayRole).toString(), QString("Right    "));
         // The keys pass headings over.
@@ -114,7 +113,6 @@ private Q_SLOTS:
         other.addChildItem("a child before any parent", 1);
         other.addParentItem("group");
         QCOMPARE(other.count(), 2);
-        QVERIFY(other.itemDelegate()->inherits("ComboBoxDelegate"));
 
         QComboBox plain;
         auto *view = new ComboBoxListView(&plain);
@@ -159,12 +157,9 @@ private Q_SLOTS:
         combo.addItem("Left    ");
         const ComboBoxDelegate delegate;
         const QItemDelegate plain;
-        const QStyleOptionViewItem option;
-        const auto sizeHint = [&](const QAbstractItemDelegate &asked, int row) {
-            return asked.sizeHint(option, combo.model()->index(row, 0));
-        };
-        QCOMPARE(sizeHint(delegate, 3), QSize(0, 10));
-        QCOMPARE(sizeHint(delegate, 1), sizeHint(plain, 1));
+        QCOMPARE(delegate.sizeHint({}, combo.model()->index(3, 0)), QSize(0, 10));
+        QCOMPARE(delegate.sizeHint({}, combo.model()->index(1, 0)),
+                 plain.sizeHint({}, combo.model()->index(1, 0)));
         const QImage separator = paintedRow(combo, 3, delegate);
         QVERIFY(TestSupport::isFilled(separator, QRect(0, 9, 120, 1), Qt::gray));
         QCOMPARE(TestSupport::count(separator, separator.rect(), Qt::white), 19 * 120);
@@ -211,7 +206,7 @@ private Q_SLOTS:
         QTest::mousePress(f.combo.lineEdit(), Qt::LeftButton);
         QVERIFY(f.combo.view()->isVisible());
         QTest::mouseRelease(f.combo.lineEdit(), Qt::LeftButton);
-        QTest::qWait(QApplication::doubleClickInterval() + 50);
+        QTest::qWait(QApplication::doubleClickInterval() + 5);
 
         QWidget *popup = f.combo.view()->viewport();
         const QPoint besideTheBox = f.boxOf(1) + QPoint(60, 0);
@@ -248,42 +243,33 @@ private Q_SLOTS:
 
     void fontPreview()
     {
-        previewFonts(true);
-        previewFonts(false);
-    }
-
-private:
-    static void previewFonts(bool choose)
-    {
-        FontComboBox combo;
-        if (combo.count() < 3)
-            QSKIP("There are too few fonts");
-        combo.setCurrentIndex(0);
-        combo.show();
-        const QString before = combo.currentFont().family(); // need not be in the list
-        QStringList previews;
-        connect(&combo, &FontComboBox::highlightFontChanged, &combo, [&](const QFont &font) {
-            previews << font.family();
-            if (combo.view()->isVisible())
-                QCOMPARE(font, QFont(font.family()));
-        });
-        combo.showPopup();
-        previews.clear();
-        QTest::keyClick(combo.view(), Qt::Key_Down);
-        QTest::keyClick(combo.view(), Qt::Key_Down);
-        QStringList expected{combo.itemText(1), combo.itemText(2)};
-        QCOMPARE(previews, expected);
-
-        QTest::keyClick(combo.view(), choose ? Qt::Key_Return : Qt::Key_Escape);
-        expected << before;
-        if (choose)
-            expected << combo.itemText(2);
-        QCOMPARE(previews, expected);
-        QCOMPARE(previews.last(), combo.currentFont().family());
-
-        QCoreApplication::processEvents();
-        combo.setCurrentIndex(1);
-        QCOMPARE(previews, expected);
+        for (bool choose : {true, false}) {
+            FontComboBox combo;
+            if (combo.count() < 3)
+                QSKIP("There are too few fonts");
+            combo.setCurrentIndex(0);
+            combo.show();
+            const QString before = combo.currentFont().family(); // need not be in the list
+            QStringList previews;
+            connect(&combo, &FontComboBox::highlightFontChanged, &combo, [&](const QFont &font) {
+                previews << font.family();
+                if (combo.view()->isVisible())
+                    QCOMPARE(font, QFont(font.family()));
+            });
+            combo.showPopup();
+            previews.clear();
+            for (Qt::Key key :
+                 {Qt::Key_Down, Qt::Key_Down, choose ? Qt::Key_Return : Qt::Key_Escape})
+                QTest::keyClick(combo.view(), key);
+            QStringList expected{combo.itemText(1), combo.itemText(2), before};
+            if (choose)
+                expected << combo.itemText(2);
+            QCOMPARE(previews, expected);
+            QCOMPARE(previews.last(), combo.currentFont().family());
+            QCoreApplication::processEvents();
+            combo.setCurrentIndex(1);
+            QCOMPARE(previews, expected);
+        }
     }
 };
 
