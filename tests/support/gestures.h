@@ -5,6 +5,8 @@
 
 #include <nocturne/DarkFusionStyle>
 
+#include <QtCore/QMimeData>
+#include <QtGui/QDropEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QWheelEvent>
@@ -54,6 +56,21 @@ inline bool takesWheel(QWidget *widget)
     QWheelEvent wheel = wheelOver(*widget);
     QCoreApplication::sendEvent(widget, &wheel);
     return wheel.isAccepted();
+}
+
+/// Drags \a data to \a position of \a widget and drops it. Whether each event was accepted.
+inline QVector<bool> drop(QWidget *widget, const QMimeData &data, const QPoint &position)
+{
+    QVector<bool> accepted;
+    QDragEnterEvent enter(position, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QDragMoveEvent move(position, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QDropEvent drop(position, Qt::CopyAction, &data, Qt::LeftButton, {});
+    for (QDropEvent *event : QVector<QDropEvent *>{&enter, &move, &drop}) {
+        event->ignore();
+        QCoreApplication::sendEvent(widget, event);
+        accepted << event->isAccepted();
+    }
+    return accepted;
 }
 
 inline bool showActive(QWidget *window)

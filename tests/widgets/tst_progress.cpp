@@ -86,23 +86,17 @@ private Q_SLOTS:
     void ringRangeAndValue()
     {
         RoundProgressBar ring;
-        QVector<double> states;
-        const auto note = [&] { states << ring.minimum() << ring.maximum() << ring.value(); };
         ring.setValue(40);
-        QCOMPARE(ring.value(), 0.0);
+        QCOMPARE(ring.value(), 0.0); // while it is not shown
         ring.show();
         ring.setRange(50, 10);
-        note();
         ring.setValue(70.0);
-        note();
+        QCOMPARE(ring.value(), 50.0);
         ring.setMaximum(5);
-        note();
         ring.setMinimum(20);
-        note();
         ring.setValue(qQNaN());
-        note();
-        QCOMPARE(states,
-                 QVector<double>({10, 50, 10, 10, 50, 50, 5, 10, 10, 10, 20, 10, 10, 20, 10}));
+        QCOMPARE(QVector<double>({ring.minimum(), ring.maximum(), ring.value()}),
+                 QVector<double>({10, 20, 10}));
         ring.setDecimals(-1);
         QCOMPARE(ring.decimals(), 1);
     }
