@@ -58,6 +58,13 @@ inline bool takesWheel(QWidget *widget)
     return wheel.isAccepted();
 }
 
+/// An event that says no more than its type.
+inline void sendPlain(QObject *receiver, QEvent::Type type)
+{
+    QEvent event(type);
+    QCoreApplication::sendEvent(receiver, &event);
+}
+
 /// Drags \a data to \a position of \a widget and drops it. Whether each event was accepted.
 inline QVector<bool> drop(QWidget *widget, const QMimeData &data, const QPoint &position)
 {
@@ -246,8 +253,9 @@ private:
             m_above = std::make_unique<QWidget>();
             showActive(m_above.get());
         } else if (verb == "enter") {
-            QEvent event(QEvent::Enter);
-            QCoreApplication::sendEvent(this, &event);
+            sendPlain(this, QEvent::Enter);
+        } else if (verb == "exit") {
+            sendPlain(this, QEvent::Leave);
         } else if (verb == "lost") { // The release went elsewhere.
             m_buttons = Qt::NoButton;
         } else if (verb == "restore") {

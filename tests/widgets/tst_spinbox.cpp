@@ -30,8 +30,6 @@ public:
             setValue(numbers[0], true);
         else if (verb == "absolute")
             setValue(numbers[0], false);
-        else if (verb == "exit")
-            sendPlain(QEvent::Leave);
         else if (verb == "cursor") // or -1 where it is nobody's
             note("cursor")(QApplication::overrideCursor() ? QApplication::overrideCursor()->shape()
                                                           : -1);
@@ -47,11 +45,6 @@ public:
     }
 
     QLineEdit *field() const { return lineEdit(); }
-    void sendPlain(QEvent::Type type)
-    {
-        QEvent event(type);
-        QCoreApplication::sendEvent(this, &event);
-    }
 };
 
 /// Two spin boxes in an active window.
