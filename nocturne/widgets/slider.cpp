@@ -125,6 +125,7 @@ void Slider::mousePressEvent(QMouseEvent *event)
 
 void Slider::mouseMoveEvent(QMouseEvent *event)
 {
+    const QPointer<Slider> self(this);
     if (!isMousePressed() && m_directJump) {
         const QPoint pos = event->pos();
         const int value =
@@ -135,7 +136,8 @@ void Slider::mouseMoveEvent(QMouseEvent *event)
             Q_EMIT sliderMoveChanged(pos.x(), pos.y(), value);
         }
     }
-    QSlider::mouseMoveEvent(event);
+    if (self)
+        QSlider::mouseMoveEvent(event);
 }
 
 void Slider::mouseReleaseEvent(QMouseEvent *event)
