@@ -131,12 +131,11 @@ private Q_SLOTS:
         Dial dial;
         dial.setValue(40);
         for (QWidget *widget : QVector<QWidget *>{&grouped, &checks.combo, &fonts, &dial}) {
-            QScrollArea area;
             QWidget content;
             content.resize(200, 2000);
             widget->setParent(&content);
+            QScrollArea area;
             area.setWidget(&content);
-            area.resize(220, 200);
             area.show();
             const char *property = widget == &dial ? "value" : "currentIndex";
             const QVariant current = widget->property(property);

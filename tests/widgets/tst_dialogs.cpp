@@ -171,15 +171,15 @@ private Q_SLOTS:
 
     void directoriesOnly()
     {
+        const auto look = [](QFileDialog *dialog) {
+            QVERIFY(dialog->testOption(QFileDialog::ShowDirsOnly));
+        };
         FileChooser chooser;
         chooser.setMode(FileChooser::OpenDirectory);
+        choose(chooser, m_dir.path(), look);
         ComboFileChooser combo;
         combo.setMode(ComboFileChooser::OpenDirectory);
-        for (QWidget *widget : QVector<QWidget *>{&chooser, &combo}) {
-            choose(*widget, m_dir.path(), [](QFileDialog *dialog) {
-                QVERIFY(dialog->testOption(QFileDialog::ShowDirsOnly));
-            });
-        }
+        choose(combo, m_dir.path(), look);
         QCOMPARE(chooser.fileName(), m_dir.path());
         QCOMPARE(combo.fileName(), m_dir.path());
     }
@@ -201,15 +201,13 @@ private Q_SLOTS:
             combo.setOpenFileType(QFlags<OpenFileType>(types));
             filters << extensionsOf(combo);
         }
-        QVERIFY(filters.at(0).startsWith("*.avi *.wmv ") && filters.at(0).endsWith(" *.amv"));
-        QCOMPARE(filters.at(0).count("*."), 53);
-        QVERIFY(filters.at(1).startsWith("*.wav ") && filters.at(1).endsWith(" *.tak"));
-        QCOMPARE(filters.at(1).count("*."), 19);
-        QCOMPARE(filters.at(2), QString("*.bmp *.jpg *.png *.tga *.svg *.tiff"));
-        QCOMPARE(filters.at(3), QString("*."));
+        QVERIFY(filters[0].startsWith("*.avi *.wmv ") && filters[0].count("*.") == 53);
+        QVERIFY(filters[1].startsWith("*.wav ") && filters[1].count("*.") == 19);
+        QCOMPARE(filters[2], QString("*.bmp *.jpg *.png *.tga *.svg *.tiff"));
+        QCOMPARE(filters.takeLast(), QString("*."));
         FileChooser chooser;
         chooser.setFileName(m_still);
-        QCOMPARE(extensionsOf(chooser), QStringList(filters.mid(0, 3)).join(' '));
+        QCOMPARE(extensionsOf(chooser), filters.join(' '));
     }
 
     void comboKeepsOnlyTheChosenPath()
@@ -346,10 +344,7 @@ private Q_SLOTS:
         QBalloonTip::updateBalloonPosition(QPoint(300, 300));
         QCOMPARE(currentBalloon()->pos(), QPoint(282, 300));
         QTRY_VERIFY(!QBalloonTip::isBalloonVisible());
-        show(QPoint(200, 200), 30)->setAttribute(Qt::WA_UnderMouse);
-        QTest::qWait(100);
-        QVERIFY(QBalloonTip::isBalloonVisible());
-        show(QPoint(200, 200), 0);
+        show(QPoint(200, 200), 20)->setAttribute(Qt::WA_UnderMouse);
         QTest::qWait(50);
         QVERIFY(QBalloonTip::isBalloonVisible());
     }
