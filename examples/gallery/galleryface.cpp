@@ -31,7 +31,6 @@ void showGalleryFace(GalleryFace face)
         QApplication::setStyle(new DarkFusionStyle);
     else
         QApplication::setStyle(new DarkReadableStyle);
-    DarkUX &theme = DarkUX::getInstance();
-    theme.initialize(); // whatever palette it has now
-    LivePalette::apply(paletteOf(face, theme.palette()));
+    static const QPalette exact = DarkUX::getInstance().palette(); // what the program began with
+    LivePalette::apply(paletteOf(face, exact));
 }

@@ -190,6 +190,6 @@ void GalleryWindow::retranslate()
         item->setText(page ? page->translatedTitle()
                            : galleryHeading(item->data(pageRole).toInt() == -2));
         if (!page) // cannot be chosen, but is read like the others
-            item->setForeground(m_list->palette().color(QPalette::Active, QPalette::Text));
+            item->setForeground(palette().color(QPalette::Active, QPalette::Text));
     }
 }

@@ -7,13 +7,15 @@
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 
+#include <functional>
+
 namespace {
 
-/// A patch of one colour with its name on it.
+/// A patch of one colour, which can change, with its name on it.
 class Swatch : public QWidget
 {
 public:
-    Swatch(const QColor &color, QWidget *parent)
+    Swatch(const std::function<QColor()> &color, QWidget *parent)
         : QWidget(parent)
         , m_color(color)
     {
@@ -23,14 +25,16 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override
     {
+        const QColor color = m_color();
         QPainter painter(this);
-        painter.fillRect(rect(), m_color);
-        painter.setPen(m_color.lightness() > 128 ? Qt::black : Qt::white);
-        painter.drawText(rect(), Qt::AlignCenter, m_color.name());
+        painter.setLayoutDirection(Qt::LeftToRight); // of the name
+        painter.fillRect(rect(), color);
+        painter.setPen(color.lightness() > 128 ? Qt::black : Qt::white);
+        painter.drawText(rect(), Qt::AlignCenter, color.name());
     }
 
 private:
-    QColor m_color;
+    std::function<QColor()> m_color;
 };
 
 QWidget *createThemePage(QWidget *parent)
@@ -58,13 +62,15 @@ QWidget *createThemePage(QWidget *parent)
         grid->addWidget(new QLabel(QLatin1String(roles.valueToKey(i))), row, 0);
         column = 1;
         for (QPalette::ColorGroup group :
-             {QPalette::Active, QPalette::Disabled, QPalette::Inactive})
-            grid->addWidget(new Swatch(theme.palette().color(group, role), page), row, column++);
+             {QPalette::Active, QPalette::Disabled, QPalette::Inactive}) {
+            const auto color = [&theme, group, role] { return theme.palette().color(group, role); };
+            grid->addWidget(new Swatch(color, page), row, column++);
+        }
         ++row;
     }
     for (auto it = theme.backgroundColor().cbegin(); it != theme.backgroundColor().cend(); ++it) {
         grid->addWidget(new QLabel(Gallery::tr("Background %1").arg(it.key())), row, 0);
-        grid->addWidget(new Swatch(it.value(), page), row++, 1);
+        grid->addWidget(new Swatch([color = it.value()] { return color; }, page), row++, 1);
     }
     grid->setRowStretch(row, 1);
     return page;
