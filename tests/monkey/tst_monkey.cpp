@@ -384,6 +384,7 @@ void Monkey::changeWidget(Dice &dice)
 {
     if (!m_widget)
         makeSubject();
+    ++eventCount;
     const int what = dice.roll(10);
     if (what == 0) {
         m_widget->setEnabled(dice.coin());
@@ -482,7 +483,6 @@ void Monkey::arm(Dice &dice)
 void Monkey::step(quint32 seed)
 {
     Dice dice(seed);
-    ++eventCount;
     const int what = dice.roll(16);
     if (what == 0)
         wheel(dice);
