@@ -281,10 +281,7 @@ private Q_SLOTS:
         QVERIFY(isDrawn());
         bar.startFlicker();
         QTRY_VERIFY_WITH_TIMEOUT(isDrawn(), 2000);
-        QElapsedTimer phase;
-        phase.start();
         QTRY_VERIFY_WITH_TIMEOUT(!isDrawn(), 2000);
-        QVERIFY2(phase.elapsed() >= 200, qPrintable(QString::number(phase.elapsed())));
     }
 
 private:

@@ -137,6 +137,7 @@ private Q_SLOTS:
         addPainting("rule", frame(QFrame::HLine, QFrame::Sunken),
                     "none 20,0 20,2; black/128 0,1 39,1");
         addPainting("widget", made<Widget>({20, 20}), "w+0 0,0 19,19");
+        addPainting("letter box", made<LetterBoxWidget>({20, 20}), "w-10 10,10");
         addPainting("splitter", made<Splitter>({20, 20}), "none 10,10");
         addPainting("status bar", made<StatusBar>({100, 40}),
                     "w+0 0,0 99,0; w-4 0,20 20,20; w-7 0,39", "w-3 0,30 150,30; w-7 150,79");
@@ -182,10 +183,6 @@ private Q_SLOTS:
                          160 * 60 - 100 * 25);
             }
         }
-        const auto edit = built<LineEdit>(lineEdit);
-        edit->setPalette(QPalette(Qt::yellow, Qt::black, {}, {}, {}, Qt::yellow, {}));
-        edit->setText("MMM");
-        QVERIFY(count(TestSupport::render(*edit), edit->rect(), Qt::yellow) > 10);
     }
 
     /// Everywhere on the painted square, and on the title.
@@ -390,18 +387,6 @@ private Q_SLOTS:
         QVERIFY(!box.widget());
         box.resizeWidget();
         QCOMPARE(box.sizeHint(), QFrame().sizeHint());
-    }
-
-    void letterBoxBackgrounds()
-    {
-        LetterBoxWidget box;
-        compareProbes(TestSupport::render(box), "w-10 30,20");
-        box.setBackgroundColor(Qt::red);
-        compareProbes(TestSupport::render(box), "red 30,20");
-        box.clearBackgroundColor();
-        compareProbes(TestSupport::render(box), "none 30,20");
-        box.enableBackground();
-        compareProbes(TestSupport::render(box), "w-10 30,20");
     }
 
 private:
