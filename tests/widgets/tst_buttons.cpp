@@ -195,13 +195,10 @@ private Q_SLOTS:
         QVERIFY(!label->isWindow());
         QVERIFY(TestSupport::showExposed(&window));
         QSignalSpy clicked(label, &ClickableLabel::clicked);
-        int presses = 0;
-        for (Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
-            QTest::mousePress(label, button);
-            QCOMPARE(clicked.count(), ++presses);
-            QTest::mouseRelease(label, button);
-            QCOMPARE(clicked.count(), presses);
-        }
+        QTest::mousePress(label, Qt::LeftButton);
+        QCOMPARE(clicked.count(), 1);
+        QTest::mouseClick(label, Qt::RightButton);
+        QCOMPARE(clicked.count(), 2);
     }
 
     void colorDialog()

@@ -1,5 +1,5 @@
-#include "gestures.h"
 #include "qtversion.h"
+#include "testsupport.h"
 #include "xserver.h"
 
 #include <nocturne/DarkFusionStyle>
@@ -189,20 +189,6 @@ private Q_SLOTS:
         field.clearKeySequence();
         field.clearKeySequence();
         QCOMPARE(changes, QList<QVariantList>{{QVariant::fromValue(QKeySequence())}});
-    }
-
-    void takesShortcutsFromMenus()
-    {
-        Window window;
-        QVERIFY(TestSupport::showActive(&window));
-        QSignalSpy saved(window.actions.first(), &QAction::triggered);
-        window.setFocus();
-        QTest::keyClick(window.windowHandle(), Qt::Key_S, Qt::ControlModifier);
-        QCOMPARE(saved.count(), 1);
-        QTest::mouseClick(window.field, Qt::LeftButton);
-        QTest::keyClick(window.windowHandle(), Qt::Key_S, Qt::ControlModifier);
-        QCOMPARE(saved.count(), 1);
-        QCOMPARE(window.field->keySequence(), QKeySequence("Ctrl+S"));
     }
 
     void recordsRealKeys_data()

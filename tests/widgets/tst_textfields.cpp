@@ -12,34 +12,22 @@
 
 namespace {
 
-/// Puts a clear picture of \a size among the resources, as a host does, while it lives.
-class ClearPicture
+/// Puts a clear picture of 15 by 13 among the resources, as a host does.
+bool addClearPicture(const QTemporaryDir &folder)
 {
-public:
-    explicit ClearPicture(const QSize &size)
-    {
-        QImage picture(size, QImage::Format_RGB32);
-        picture.fill(Qt::red);
-        picture.save(m_folder.filePath("picture.png"));
-        QFile description(m_folder.filePath("host.qrc"));
-        description.open(QIODevice::WriteOnly);
-        description.write("<RCC><qresource prefix=\"/resources/icons\">"
-                          "<file alias=\"deleffect.png\">picture.png</file></qresource></RCC>");
-        description.close();
-        m_bundle = m_folder.filePath("host.rcc");
-        QProcess::execute(QtVersion::toolsPath() + "/rcc",
-                          {"--binary", description.fileName(), "-o", m_bundle});
-        m_registered = QResource::registerResource(m_bundle);
-    }
-    ~ClearPicture() { QResource::unregisterResource(m_bundle); }
-
-    bool isRegistered() const { return m_registered; }
-
-private:
-    QTemporaryDir m_folder;
-    QString m_bundle;
-    bool m_registered = false;
-};
+    QImage picture(15, 13, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QFile description(folder.filePath("host.qrc"));
+    if (!picture.save(folder.filePath("picture.png")) || !description.open(QIODevice::WriteOnly))
+        return false;
+    description.write("<RCC><qresource prefix=\"/resources/icons\">"
+                      "<file alias=\"deleffect.png\">picture.png</file></qresource></RCC>");
+    description.close();
+    const QString bundle = folder.filePath("host.rcc");
+    QProcess::execute(QtVersion::toolsPath() + "/rcc",
+                      {"--binary", description.fileName(), "-o", bundle});
+    return QResource::registerResource(bundle);
+}
 
 /// A label in an active window, with a neighbour to give the focus to, and what it reports.
 class LabelFixture
@@ -86,8 +74,8 @@ private Q_SLOTS:
     void searchField()
     {
         QCOMPARE(SearchLineEdit().textMargins(), QMargins(4, 0, 0, 0)); // without a picture
-        const ClearPicture picture(QSize(15, 13));
-        QVERIFY(picture.isRegistered());
+        const QTemporaryDir folder;
+        QVERIFY(addClearPicture(folder));
         SearchLineEdit field;
         auto *button = field.findChild<LineEditButton *>();
         QCOMPARE(button->cursor().shape(), Qt::ArrowCursor);
@@ -142,7 +130,6 @@ private Q_SLOTS:
 
         label.setFont(QFont());
         QCOMPARE(label.sizeHint().width(), 0);
-        QVERIFY(label.sizeHint().height() >= label.fontMetrics().height());
         QCOMPARE(label.minimumSizeHint().width(), dots);
         label.minimizeMaximumWidth();
         QCOMPARE(label.maximumWidth(), width + dots);
@@ -175,21 +162,18 @@ private Q_SLOTS:
 
     void aTextMayBeSetMeanwhile()
     {
-        for (bool byEscape : {true, false}) {
+        for (Qt::Key key : {Qt::Key_Escape, Qt::Key_Tab}) {
             LabelFixture f;
-            f.label->setText("old");
             f.label->editBegin();
             f.label->setText("new");
             QCOMPARE(f.editor()->selectedText(), QString("new"));
             QTest::keyClicks(f.editor(), "typed");
             f.label->setText("newer");
             QCOMPARE(f.editor()->text(), QString("typed"));
-            if (byEscape)
-                QTest::keyClick(f.editor(), Qt::Key_Escape);
-            else
-                f.neighbour->setFocus();
-            QCOMPARE(f.reports, byEscape ? QStringList{"removed newer"}
-                                         : QStringList({"finished typed|newer", "removed typed"}));
+            QTest::keyClick(f.editor(), key);
+            QCOMPARE(f.reports.join(", "),
+                     QString(key == Qt::Key_Escape ? "removed newer"
+                                                   : "finished typed|newer, removed typed"));
         }
     }
 
