@@ -249,24 +249,18 @@ void showFace(bool readable)
 
 void printTable()
 {
-    const auto cell = [](double contrast) {
-        return contrast > 0.0 ? QByteArray::number(contrast, 'f', 2) : QByteArray("–");
-    };
-    QVector<Result> results[2];
-    for (int face : {0, 1}) {
-        showFace(face == 1);
-        for (const Sample &sample : samples())
-            results[face] << measure(sample);
+    QVector<QByteArray> rows(samples().size());
+    for (bool readable : {false, true}) {
+        showFace(readable);
+        for (int i = 0; i < rows.size(); ++i) {
+            const Result result = measure(samples()[i]);
+            for (double found : {result.enabled, result.disabled})
+                rows[i] += (found > 0.0 ? QByteArray::number(found, 'f', 2) : "–") + " | ";
+        }
     }
-    int row = 0;
-    for (const Sample &sample : samples()) {
-        const Result &exact = results[0].at(row);
-        const Result &readable = results[1].at(row++);
-        std::printf("| %s | %s | %s | %s | %s | %s |\n", qPrintable(sample.control),
-                    qPrintable(sample.part), cell(exact.enabled).constData(),
-                    cell(exact.disabled).constData(), cell(readable.enabled).constData(),
-                    cell(readable.disabled).constData());
-    }
+    for (int i = 0; i < rows.size(); ++i)
+        std::printf("| %s | %s | %s\n", qPrintable(samples()[i].control),
+                    qPrintable(samples()[i].part), rows[i].trimmed().constData());
 }
 
 /// A host's own style on top, which counts what reaches it.
@@ -291,7 +285,7 @@ const Sample &sampleNamed(const QString &name)
 
 } // namespace
 
-class tst_Readable : public QObject
+class TestReadable : public QObject
 {
     Q_OBJECT
 
@@ -310,7 +304,7 @@ private Q_SLOTS:
     void livePalette();
 };
 
-void tst_Readable::contrasts_data()
+void TestReadable::contrasts_data()
 {
     QTest::addColumn<int>("index");
     int index = 0;
@@ -318,7 +312,7 @@ void tst_Readable::contrasts_data()
         QTest::newRow(qPrintable(sample.name())) << index++;
 }
 
-void tst_Readable::contrasts()
+void TestReadable::contrasts()
 {
     QFETCH(int, index);
     const Sample &sample = samples()[index];
@@ -330,7 +324,7 @@ void tst_Readable::contrasts()
 }
 
 /// The rule holds for themes it was not made for.
-void tst_Readable::palettes()
+void TestReadable::palettes()
 {
     using P = QPalette;
     const QPalette dark = DarkUX::getInstance().defaultPalette();
@@ -355,7 +349,7 @@ void tst_Readable::palettes()
 }
 
 /// What one face keeps, the other does not show, though both have the same palette.
-void tst_Readable::exactFaceBeside()
+void TestReadable::exactFaceBeside()
 {
     DarkFusionStyle exact;
     const auto picture = [&](QStyle *style) {
@@ -370,7 +364,7 @@ void tst_Readable::exactFaceBeside()
     QCOMPARE(picture(&exact), before);
 }
 
-void tst_Readable::focusByKeyboardOnly()
+void TestReadable::focusByKeyboardOnly()
 {
     QWidget window;
     QPushButton first("First", &window);
@@ -406,7 +400,7 @@ void tst_Readable::focusByKeyboardOnly()
     QCOMPARE(framed(), &second);
 }
 
-void tst_Readable::scrollBarsBesideContents()
+void TestReadable::scrollBarsBesideContents()
 {
     QTextEdit edit;
     edit.setPlainText(QString(500, QLatin1Char('\n')));
@@ -419,7 +413,7 @@ void tst_Readable::scrollBarsBesideContents()
         !QRect(bar->mapTo(&edit, QPoint()), bar->size()).intersects(edit.viewport()->geometry()));
 }
 
-void tst_Readable::listsOfComboBoxesBelowAHostsProxy()
+void TestReadable::listsOfComboBoxesBelowAHostsProxy()
 {
     Counter host(new DarkReadableStyle);
     QComboBox box;
@@ -435,7 +429,7 @@ void tst_Readable::listsOfComboBoxesBelowAHostsProxy()
     box.hidePopup();
 }
 
-void tst_Readable::rightToLeft()
+void TestReadable::rightToLeft()
 {
     for (const char *control : {"combo box, editable", "combo box"}) {
         const Sample &sample = sampleNamed(QString(control) + ": focus frame");
@@ -458,7 +452,7 @@ void tst_Readable::rightToLeft()
 }
 
 /// A mark covers the same share of a box of any size.
-void tst_Readable::marksGrow()
+void TestReadable::marksGrow()
 {
     const auto share = [](int extent) {
         QStyleOptionButton option;
@@ -480,7 +474,7 @@ void tst_Readable::marksGrow()
 }
 
 /// Disabled is darker, hovered is lighter, over the whole control.
-void tst_Readable::looksOfStates()
+void TestReadable::looksOfStates()
 {
     const auto light = [](const Sample &sample, State state) {
         const QImage image = Stage(sample, state).picture(true);
@@ -505,7 +499,7 @@ void tst_Readable::looksOfStates()
     QVERIFY(tabs.picture(true) != resting);
 }
 
-void tst_Readable::livePalette()
+void TestReadable::livePalette()
 {
     struct Painted : QWidget
     {
@@ -542,7 +536,7 @@ int main(int argc, char *argv[])
         printTable();
         return 0;
     }
-    tst_Readable test;
+    TestReadable test;
     return QTest::qExec(&test, argc, argv);
 }
 

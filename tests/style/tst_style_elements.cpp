@@ -203,12 +203,6 @@ private:
         return picture(
             [&](QPainter &painter) { m_style->drawPrimitive(element, &option, &painter); });
     }
-    QImage paint(QStyle::ControlElement element, const QStyleOption &option,
-                 const QWidget *widget = nullptr) const
-    {
-        return picture(
-            [&](QPainter &painter) { m_style->drawControl(element, &option, &painter, widget); });
-    }
     QImage paint(QStyle::ComplexControl control, const QStyleOptionComplex &option) const
     {
         return picture(option.rect.size(), [&](QPainter &painter) {
