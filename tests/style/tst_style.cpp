@@ -390,7 +390,6 @@ private Q_SLOTS:
         m_style->setBaseStyle(m_base);
     }
     void baseStyle();
-    void menuItemTexts_data();
     void menuItemTexts();
     void badge();
     void whatIsNoMenuItem();
@@ -423,25 +422,22 @@ void TestProxyStyle::baseStyle()
     QCOMPARE(m_style->styleHint(QStyle::SH_ScrollBar_Transient), 1);
 }
 
-void TestProxyStyle::menuItemTexts_data()
-{
-    QTest::addColumn<QString>("drawn");
-    QTest::newRow("&3;Open\tCtrl+O") << "Open";
-    QTest::newRow("&12;Open") << "Open";
-    QTest::newRow("&Open") << "&Open";
-    QTest::newRow("Open &3;") << "Open &3;";
-    QTest::newRow("&1;&2;Open") << "&2;Open";
-    QTest::newRow("Open\tCtrl+O\nand\tmore") << "Open";
-    QTest::newRow("&7;") << "";
-    QTest::newRow("&;Open") << "&;Open";
-    QTest::newRow("") << "";
-}
-
 void TestProxyStyle::menuItemTexts()
 {
-    QFETCH(QString, drawn);
-    drawItem(QString::fromLatin1(QTest::currentDataTag()));
-    QCOMPARE(m_base->items, QStringList(drawn + " at 23,4,72,22"));
+    const QPair<const char *, QString> rows[] = {{"&3;Open\tCtrl+O", "Open"},
+                                                 {"&12;Open", "Open"},
+                                                 {"&Open", "&Open"},
+                                                 {"Open &3;", "Open &3;"},
+                                                 {"&1;&2;Open", "&2;Open"},
+                                                 {"Open\tCtrl+O\nand\tmore", "Open"},
+                                                 {"&7;", ""},
+                                                 {"&;Open", "&;Open"},
+                                                 {"", ""}};
+    for (const auto &row : rows) {
+        m_base->items.clear();
+        drawItem(row.first);
+        QCOMPARE(m_base->items, QStringList(row.second + " at 23,4,72,22"));
+    }
 }
 
 /// 1 right and 3 down of the item, 16 wide and high, and rounded off.

@@ -285,11 +285,10 @@ void TestStyleElements::draw(const QStyle &style, QPainter &painter) const
 QString TestStyleElements::contentSize() const
 {
     const auto type = QStyle::ContentsType(number(m_element));
-    const auto sizeBy = [&](const QStyle &style) {
-        return style.sizeFromContents(type, m_option.get(), m_option->rect.size(), m_widget);
-    };
-    const QSize size = sizeBy(*m_style);
-    const QSize added = size - sizeBy(UnadjustedStyle());
+    const QSize contents = m_option->rect.size();
+    const QSize size = m_style->sizeFromContents(type, m_option.get(), contents, m_widget);
+    const QSize added =
+        size - m_style->QCommonStyle::sizeFromContents(type, m_option.get(), contents, m_widget);
     return QStringLiteral(" width %1 height %2 adds %3,%4 ")
         .arg(size.width())
         .arg(size.height())

@@ -121,18 +121,6 @@ public:
     mutable QStringList log;
 };
 
-/// The sizes that QCommonStyle computes from the metrics of our style.
-class UnadjustedStyle : public DarkFusionStyle
-{
-public:
-    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
-                           const QWidget *widget = nullptr) const override
-    {
-        return QCommonStyle::sizeFromContents(type, option, contents, // NOLINT: passes ours over
-                                              widget);
-    }
-};
-
 using Drawing = std::function<void(QPainter &painter)>;
 
 /// \a paint at the device pixel ratio of the run.
