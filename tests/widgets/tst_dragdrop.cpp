@@ -128,19 +128,25 @@ void dragAndDrop(const QPoint &from, const QPoint &to)
     QTest::qWait(50);
 }
 
-/// Drags from the window of another process to \a to; \a modifier is held.
-void dragFromProcess(const QStringList &source, const QPoint &to, const QString &modifier)
+/// A drag from the window of another process to \a to while \a modifier is held. The process has
+/// to live until the drop has arrived.
+class DragFromProcess : public QtVersion::MortalProcess
 {
-    QtVersion::MortalProcess process;
-    process.setProcessEnvironment(server().environment());
-    process.start(QCoreApplication::applicationFilePath(), QStringList{"--source"} + source);
-    QTRY_VERIFY_WITH_TIMEOUT(process.canReadLine(), 20000);
-    pointer({"keydown " + modifier});
-    dragAndDrop(sourceGeometry.center(), to);
-    pointer({"keyup " + modifier});
-    process.kill();
-    process.waitForFinished();
-}
+public:
+    DragFromProcess(const QStringList &source, const QPoint &to, const QString &modifier)
+    {
+        start(QCoreApplication::applicationFilePath(), QStringList{"--source"} + source);
+        QTRY_VERIFY_WITH_TIMEOUT(canReadLine(), 20000);
+        pointer({"keydown " + modifier});
+        dragAndDrop(sourceGeometry.center(), to);
+        pointer({"keyup " + modifier});
+    }
+    ~DragFromProcess() override
+    {
+        kill();
+        waitForFinished();
+    }
+};
 
 QPoint centerOf(const QListWidget &list, int row)
 {
@@ -214,8 +220,8 @@ private Q_SLOTS:
         for (const QString modifier : {"alt", "ctrl", "shift"}) {
             const auto list = shownList<ListWidget>();
             QSignalSpy dropped(list.get(), &ListWidget::dragDropFiles);
-            dragFromProcess(urls, centerOf(*list, 2), modifier);
-            QCOMPARE(dropped.count(), int(modifier == "alt"));
+            const DragFromProcess drag(urls, centerOf(*list, 2), modifier);
+            QTRY_COMPARE(dropped.count(), int(modifier == "alt"));
             QVERIFY(modifier != "alt" || dropped[0][0] == QStringList{""} + paths);
             QCOMPARE(textsOf(*list), QString("ABCDE"));
         }
@@ -227,8 +233,8 @@ private Q_SLOTS:
         button.setGeometry(listGeometry);
         QVERIFY(TestSupport::showExposed(&button));
         QSignalSpy arrived(&button, &ColorButton::colorChanged);
-        dragFromProcess({"#0cc84d"}, listGeometry.center(), "shift");
-        QCOMPARE(button.color().name(), QString("#0cc84d"));
+        const DragFromProcess drag({"#0cc84d"}, listGeometry.center(), "shift");
+        QTRY_COMPARE(button.color().name(), QString("#0cc84d"));
         QCOMPARE(arrived, QList<QVariantList>({{0.0, true}}));
 
         ColorButton from(Qt::magenta);
