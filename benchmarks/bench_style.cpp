@@ -9,6 +9,7 @@
 // measures DarkReadableStyle, both sides with its palette.
 
 #include "darkapplication.h"
+#include "panel.h"
 
 #include <nocturne/DarkReadableStyle>
 
@@ -566,46 +567,10 @@ Specimen longMenu()
     });
 }
 
-/// One of the eight controls that panels are made of.
-QWidget *panelControl(int number)
-{
-    const QString text = QStringLiteral("Track %1").arg(number);
-    switch (number % 8) {
-    case 0:
-        return new QPushButton(text);
-    case 1:
-        return new QCheckBox(text);
-    case 2:
-        return new QLabel(text);
-    case 3:
-        return new QSpinBox;
-    case 4:
-        return new QSlider(Qt::Horizontal);
-    case 5: {
-        auto *box = new QComboBox;
-        box->addItem(text);
-        return box;
-    }
-    case 6:
-        return new QLineEdit(text);
-    default: {
-        auto *bar = new QProgressBar;
-        bar->setValue(number % 100);
-        return bar;
-    }
-    }
-}
-
 std::function<Specimen()> panel(int controls, int columns, const QSize &size)
 {
     return [controls, columns, size] {
-        auto window = std::make_unique<QMainWindow>();
-        auto *grid = new QGridLayout;
-        for (int i = 0; i < controls; ++i)
-            grid->addWidget(panelControl(i), i / columns, i % columns);
-        auto *centre = new QWidget;
-        centre->setLayout(grid);
-        window->setCentralWidget(centre);
+        std::unique_ptr<QMainWindow> window = panelWindow(controls, columns);
         window->resize(size);
         auto *bar = window->findChild<QProgressBar *>();
         return alone<QMainWindow>(std::move(window), [bar](QMainWindow *, int step) {

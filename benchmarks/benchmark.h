@@ -57,7 +57,7 @@ public:
     const QVector<Result> &results() const { return m_results; }
 
     /// Prints a row a comparison and the sums, with the headings given for the two sides.
-    void print(const char *ourHeading, const char *peerHeading) const
+    void print(const char *ourHeading, const char *peerHeading, bool withSum = true) const
     {
         std::printf("%-44s %14s %14s %8s\n", "", ourHeading, peerHeading, "ratio");
         double ourSum = 0.0;
@@ -68,7 +68,7 @@ public:
             ourSum += result.ours;
             peerSum += result.peer;
         }
-        if (m_results.size() > 1) {
+        if (withSum && m_results.size() > 1) {
             std::printf("%-44s %11.2f us %11.2f us %8.2f\n", "sum", ourSum, peerSum,
                         peerSum > 0.0 ? ourSum / peerSum : 0.0);
         }

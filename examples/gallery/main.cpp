@@ -93,6 +93,9 @@ int main(int argc, char *argv[])
     const QCommandLineOption languageOption(QStringLiteral("language"),
                                             QStringLiteral("Begins in a language, such as de_DE."),
                                             QStringLiteral("name"));
+    const QCommandLineOption styleOption(
+        QStringLiteral("other-style"),
+        QStringLiteral("Shows everything in another style, to compare."), QStringLiteral("name"));
     const QCommandLineOption walkOption(
         QStringLiteral("keyboard-walk"),
         QStringLiteral(
@@ -102,9 +105,14 @@ int main(int argc, char *argv[])
         QStringLiteral("film-trim"),
         QStringLiteral("Films the trimming of a clip into PNG files, and ends."),
         QStringLiteral("directory"));
-    parser.addOptions({pageOption, screenshotsOption, languageOption, walkOption, trimOption});
+    parser.addOptions(
+        {pageOption, screenshotsOption, languageOption, styleOption, walkOption, trimOption});
     parser.process(app);
 
+    if (parser.isSet(styleOption) && !QApplication::setStyle(parser.value(styleOption))) {
+        std::fprintf(stderr, "there is no style named %s\n", qPrintable(parser.value(styleOption)));
+        return 1;
+    }
     if (parser.isSet(languageOption) && !useLanguage(parser.value(languageOption)))
         return 1;
 

@@ -1,5 +1,7 @@
 #include "kepttext_p.h"
 
+#include "cacheuse_p.h"
+
 #include <nocturne/theme/qtversion_p.h>
 
 #include <QtCore/QCache>
@@ -252,6 +254,7 @@ const Line *keptLine(const QFont &font, const QString &text, Qt::LayoutDirection
         return nullptr;
     const LineKey key{text, font, fontDpi(font), direction, mnemonic};
     const Line *line = lines().object(key);
+    keptTextUse.count(line);
     if (!line) {
         fontWatch().start();
         auto *shaped = shapedLine(key).release();
@@ -320,7 +323,9 @@ bool fits(const Line &line, const QRectF &rect)
 template <typename Shorten>
 QString elidedText(const ElidedKey &key, Shorten shorten)
 {
-    if (const QString *known = elidedTexts().object(key))
+    const QString *known = elidedTexts().object(key);
+    keptTextUse.count(known);
+    if (known)
         return *known;
     fontWatch().start();
     const QString text = shorten();
@@ -336,7 +341,9 @@ Measured measured(MeasureKey key, Take take)
         take(result);
         return result;
     }
-    if (const Measured *known = measures().object(key))
+    const Measured *known = measures().object(key);
+    keptTextUse.count(known);
+    if (known)
         return *known;
     fontWatch().start();
     take(result);

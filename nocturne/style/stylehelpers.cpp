@@ -303,7 +303,9 @@ QPixmap colorizedImage(const QString &fileName, const QColor &color, int rotatio
 {
     const QString key = colorizedImageKey(fileName, color.rgba(), rotation);
     QPixmap pixmap;
-    if (QPixmapCache::find(key, &pixmap))
+    const bool isKept = QPixmapCache::find(key, &pixmap);
+    keptPixmapUse.count(isKept);
+    if (isKept)
         return pixmap;
 
     QImage image = sourceImage(fileName);

@@ -1,6 +1,7 @@
 #ifndef NOCTURNE_STYLEHELPERS_P_H
 #define NOCTURNE_STYLEHELPERS_P_H
 
+#include <nocturne/painting/cacheuse_p.h>
 #include <nocturne/painting/painterguards_p.h>
 
 #include <QtGui/QPixmap>
@@ -92,7 +93,9 @@ void drawCached(QPainter *painter, const QPoint &topLeft, const QString &key, co
     if (size.isEmpty())
         return;
     QPixmap pixmap;
-    if (!QPixmapCache::find(key, &pixmap)) {
+    const bool isKept = QPixmapCache::find(key, &pixmap);
+    keptPixmapUse.count(isKept);
+    if (!isKept) {
         if (!fitsCache(size)) {
             paintAt(painter, topLeft, paint);
             return;
