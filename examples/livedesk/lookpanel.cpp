@@ -69,11 +69,11 @@ QWidget *numberControl(Desk *desk, const char *name, int Look::*number, int low,
     auto *box = new SpinBox;
     box->setObjectName(name);
     box->setRange(low, high);
-    const auto changed = QOverload<double, bool>::of(&SpinBox::valueChanged);
-    QObject::connect(box, changed, desk, [=](double value, bool first) {
-        desk->edit(Desk::tr(text), first,
-                   [=](DeskState &state) { state.look.*number = int(value); });
-    });
+    QObject::connect(box, QOverload<double, bool>::of(&SpinBox::valueChanged), desk,
+                     [=](double value, bool first) {
+                         desk->edit(Desk::tr(text), first,
+                                    [=](DeskState &state) { state.look.*number = int(value); });
+                     });
     desk->follow(box, [=] {
         const QSignalBlocker blocker(box);
         box->setValue(desk->state().look.*number);

@@ -125,30 +125,23 @@ private Q_SLOTS:
 
     void picture()
     {
-        const auto pixel = [this](int x, int y = 100) {
-            return find<Monitor>("preview")->picture().pixelColor(x, y);
-        };
-        const auto setLook = [this](const Look &look) {
+        const auto shows = [this](const Look &look, const QPoint &place, const QColor &color) {
             m_window->desk()->edit("Look", true, [&](DeskState &state) { state.look = look; });
+            QCOMPARE(find<Monitor>("preview")->picture().pixelColor(place), color);
         };
         drop({"/clips/bars.mov"});
-        QCOMPARE(pixel(100), QColor(Qt::yellow));
-        Look look;
-        look.x = 80;
-        setLook(look);
-        QCOMPARE(pixel(40), QColor(Qt::black));
-        QCOMPARE(pixel(180), QColor(Qt::yellow));
-        look = Look();
-        look.amount = 100;
-        look.ramp = {{0.0, Qt::red}, {1.0, Qt::blue}};
-        setLook(look);
-        QCOMPARE(pixel(20), QColor(Qt::blue)); // white
-        QCOMPARE(pixel(620), QColor(Qt::red)); // black
-        look = Look();
-        look.black = 254;
-        setLook(look);
-        QCOMPARE(pixel(100), QColor(Qt::yellow));
-        QCOMPARE(pixel(30, 350), QColor(Qt::black));
+        Look moved, graded, dark;
+        moved.x = 80;
+        graded.amount = 100;
+        graded.ramp = {{0.0, Qt::red}, {1.0, Qt::blue}};
+        dark.black = 254;
+        shows(Look(), {100, 100}, Qt::yellow);
+        shows(moved, {40, 100}, Qt::black);
+        shows(moved, {180, 100}, Qt::yellow);
+        shows(graded, {20, 100}, Qt::blue); // white
+        shows(graded, {620, 100}, Qt::red); // black
+        shows(dark, {100, 100}, Qt::yellow);
+        shows(dark, {30, 350}, Qt::black);
     }
 
     void midiControl()
