@@ -113,6 +113,7 @@ private Q_SLOTS:
         other.addChildItem("a child before any parent", 1);
         other.addParentItem("group");
         QCOMPARE(other.count(), 2);
+        QVERIFY(other.itemDelegate()->inherits("ComboBoxDelegate"));
 
         QComboBox plain;
         auto *view = new ComboBoxListView(&plain);
