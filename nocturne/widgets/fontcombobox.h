@@ -7,7 +7,8 @@
 
 /// A font combo box that lets the host preview the fonts the user passes over in the popup.
 ///
-/// It leaves the wheel to its parent.
+/// It leaves the wheel to its parent. A slot that wants to delete it uses deleteLater(): the popup
+/// may be closing at this moment.
 ///
 /// \code
 /// auto *fonts = new FontComboBox(panel);

@@ -10,6 +10,7 @@
 #include <QtCore/QMimeData>
 #include <QtCore/QUrl>
 #include <QtGui/QDropEvent>
+#include <QtGui/QIcon>
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
@@ -21,20 +22,69 @@ constexpr int backgroundShift = -6;
 constexpr int mostDroppedRows = 100000;
 constexpr int mostDroppedColumns = 100;
 
-/// Whether \a data holds no items, or items in places that can be. The toolkit writes outside its
-/// memory for others, and anybody can drop anything.
-bool hasSoundItems(const QMimeData *data)
+template <typename Value>
+bool skip(QDataStream &stream)
 {
-    const QByteArray items = data->data(QStringLiteral("application/x-qabstractitemmodeldatalist"));
+    Value value;
+    stream >> value;
+    return stream.status() == QDataStream::Ok;
+}
+
+/// Passes over one role of an item. False for a type that items of other programs have no need of:
+/// the toolkit believes any length that stands before the elements of the larger ones.
+bool skipRole(QDataStream &stream)
+{
+    qint32 role = 0;
+    quint32 type = 0;
+    qint8 isNull = 0;
+    stream >> role >> type >> isNull;
+    switch (type) {
+    case QMetaType::Bool:
+        return skip<bool>(stream);
+    case QMetaType::Int:
+    case QMetaType::UInt:
+        return skip<qint32>(stream);
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        return skip<qint64>(stream);
+    case QMetaType::Double:
+        return skip<double>(stream);
+    case QMetaType::QString:
+        return skip<QString>(stream);
+    case QMetaType::QByteArray:
+        return skip<QByteArray>(stream);
+    case QMetaType::QSize:
+        return skip<QSize>(stream);
+    case QMetaType::QColor:
+        return skip<QColor>(stream);
+    case QMetaType::QIcon:
+        return skip<QIcon>(stream);
+    default:
+        return false;
+    }
+}
+
+/// Whether a drop brings no items, items of this program, or such that the toolkit can take
+/// safely. Anybody can drop anything: for impossible places it writes outside its memory.
+bool hasSoundItems(const QDropEvent *event)
+{
+    if (event->source())
+        return true;
+    const QByteArray items =
+        event->mimeData()->data(QStringLiteral("application/x-qabstractitemmodeldatalist"));
     QDataStream stream(items);
     while (!stream.atEnd()) {
-        int row = 0;
-        int column = 0;
-        QMap<int, QVariant> roles;
+        qint32 row = 0;
+        qint32 column = 0;
+        quint32 roles = 0;
         stream >> row >> column >> roles;
         if (stream.status() != QDataStream::Ok || row < 0 || row >= mostDroppedRows || column < 0
             || column >= mostDroppedColumns)
             return false;
+        for (; roles > 0; --roles) {
+            if (!skipRole(stream))
+                return false;
+        }
     }
     return true;
 }
@@ -145,7 +195,7 @@ void ListWidget::dropEvent(QDropEvent *event)
         dropFromWithin(event);
         return;
     }
-    if (!hasSoundItems(event->mimeData())) {
+    if (!hasSoundItems(event)) {
         event->ignore();
         return;
     }

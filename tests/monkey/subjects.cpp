@@ -463,7 +463,7 @@ const std::vector<Subject> &subjects()
     static const std::vector<Subject> all = [] {
         std::vector<Subject> made = makeSubjects();
         const QList<QByteArray> late{"ComboFileChooser", "CroppingLabel", "FileChooser",
-                                     "ListWidget"};
+                                     "FontComboBox",     "ListWidget",    "RangeSlider"};
         for (Subject &subject : made)
             subject.onlyDeletedLater = late.contains(QByteArray(subject.name));
         return made;

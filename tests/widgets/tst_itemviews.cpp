@@ -361,20 +361,31 @@ private Q_SLOTS:
         compareAfter([&list] { delete list.item(8); });
     }
 
-    /// A sound item is taken, one in a place that no list has is not even looked at.
+    /// A sound item is taken. One in a place that no list has is not even looked at, nor is a value
+    /// with a length in front of it that the toolkit would believe.
     void itemsFromOutside()
     {
-        for (const auto &drop : {std::pair<int, int>(0, 1), {-1, 0}, {INT_MAX, 0}}) {
+        const struct
+        {
+            int row;
+            QVariant value;
+            int count;
+        } drops[] = {{0, "A", 1},
+                     {0, QColor(Qt::red), 1},
+                     {-1, "A", 0},
+                     {INT_MAX, "A", 0},
+                     {0, QPolygon({{1, 1}}), 0}};
+        for (const auto &drop : drops) {
             QByteArray items;
             QDataStream(&items, QIODevice::WriteOnly)
-                << drop.first << 0 << QMap<int, QVariant>{{Qt::DisplayRole, QString("A")}};
+                << drop.row << 0 << QMap<int, QVariant>{{Qt::DisplayRole, drop.value}};
             QMimeData data;
             data.setData("application/x-qabstractitemmodeldatalist", items);
             ListWidget list;
             list.setDragDropMode(QAbstractItemView::DragDrop);
             list.show();
             TestSupport::drop(list.viewport(), data, QPoint(9, 9));
-            QCOMPARE(list.count(), drop.second);
+            QCOMPARE(list.count(), drop.count);
         }
     }
 
