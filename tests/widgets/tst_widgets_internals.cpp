@@ -6,7 +6,7 @@
 #include <nocturne/style/darkfusionstyle.h>
 #include <nocturne/theme/darkux.h>
 #include <nocturne/widgets/gradienttool.h>
-#include <nocturne/widgets/rangeslider.h>
+#include <nocturne/widgets/rangeslider_p.h>
 #include <nocturne/widgets/roundprogressbar.h>
 #include <nocturne/widgets/spanslider.h>
 
@@ -53,6 +53,21 @@ QString rangeOf(QAccessibleValueInterface *value)
         .arg(value->currentValue().toString(), value->minimumValue().toString(),
              value->maximumValue().toString());
 }
+
+/// What a subclass keeps besides.
+struct MarkerPrivate : RangeSliderPrivate
+{
+    using RangeSliderPrivate::RangeSliderPrivate;
+    ~MarkerPrivate() override { ++deleted; }
+    static inline int deleted = 0;
+};
+
+struct MarkerSlider : RangeSlider
+{
+    MarkerSlider()
+        : RangeSlider(new MarkerPrivate(this), Qt::Vertical, nullptr)
+    {}
+};
 
 /// The whole bar blurred in one piece.
 QImage blurredAtOnce(const Nocturne::GlowBar &bar)
@@ -206,6 +221,12 @@ private Q_SLOTS:
         QVERIFY(QAccessible::accessibleInterface(handle));
         owned.reset();
         QVERIFY(!QAccessible::accessibleInterface(handle));
+    }
+
+    void subclassWithItsOwnPrivate()
+    {
+        QCOMPARE(MarkerSlider().maximumValue(), 99);
+        QCOMPARE(MarkerPrivate::deleted, 1);
     }
 
     void glowEqualsABlurOfTheWholeBar()
