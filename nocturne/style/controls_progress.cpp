@@ -102,9 +102,9 @@ void paintBarFill(QPainter *painter, const Bar &bar, const QColor &highlight, co
     } else {
         painter->drawRoundedRect(bar.done, 2, 2);
     }
-    painter->setBrush(Qt::NoBrush);
-    painter->setPen(QColor::fromRgba(barContrastLine));
-    painter->drawRoundedRect(bar.done.adjusted(1, 1, -1, -1), 1, 1);
+    painter->translate(-0.5, -0.5);
+    drawRoundedOutline(painter, bar.done.adjusted(1, 1, 0, 0), QColor::fromRgba(barContrastLine));
+    painter->translate(0.5, 0.5);
 }
 
 void paintBusyStripes(QPainter *painter, const Bar &bar, const QColor &highlight)

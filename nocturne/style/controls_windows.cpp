@@ -2,11 +2,9 @@
 #include "styleelements_p.h"
 #include "stylehelpers_p.h"
 
-#include <nocturne/painting/devicepixels_p.h>
 #include <nocturne/painting/kepttext_p.h>
 #include <nocturne/painting/themepaint_p.h>
 
-#include <QtGui/QPainterPath>
 #include <QtWidgets/QMainWindow>
 
 namespace Nocturne::StylePaint {
@@ -26,63 +24,6 @@ QColor rubberBandFill(const QColor &highlight, bool isOpaque)
     const auto channel = [](int value) { return qMin(value / 2 + 110, 255); };
     return QColor(channel(highlight.red()), channel(highlight.green()), channel(highlight.blue()),
                   isOpaque ? 255 : rubberBandFillAlpha);
-}
-
-constexpr int bandCorner = 4; // beyond this, the edges of a band look the same all along
-
-/// The corners of the rectangle \a r, rounded by one unit and begun where drawRoundedRect() begins.
-QPainterPath bandCorners(const QRectF &r)
-{
-    constexpr qreal reach = bandCorner - 0.5;
-    constexpr qreal bend = 1 - 0.5522847498; // of the curve that comes closest to a circle
-    QPainterPath path;
-    path.moveTo(r.left() + 1, r.top());
-    path.lineTo(r.left() + reach, r.top());
-    path.moveTo(r.right() - reach, r.top());
-    path.lineTo(r.right() - 1, r.top());
-    path.cubicTo(r.right() - bend, r.top(), r.right(), r.top() + bend, r.right(), r.top() + 1);
-    path.lineTo(r.right(), r.top() + reach);
-    path.moveTo(r.right(), r.bottom() - reach);
-    path.lineTo(r.right(), r.bottom() - 1);
-    path.cubicTo(r.right(), r.bottom() - bend, r.right() - bend, r.bottom(), r.right() - 1,
-                 r.bottom());
-    path.lineTo(r.right() - reach, r.bottom());
-    path.moveTo(r.left() + reach, r.bottom());
-    path.lineTo(r.left() + 1, r.bottom());
-    path.cubicTo(r.left() + bend, r.bottom(), r.left(), r.bottom() - bend, r.left(),
-                 r.bottom() - 1);
-    path.lineTo(r.left(), r.bottom() - reach);
-    path.moveTo(r.left(), r.top() + reach);
-    path.lineTo(r.left(), r.top() + 1);
-    path.cubicTo(r.left(), r.top() + bend, r.left() + bend, r.top(), r.left() + 1, r.top());
-    return path;
-}
-
-/// Draws the outermost units of \a r as a rounded rectangle. On whole pixels only the corners need
-/// smoothing, and smoothing the rest is what takes time. (A clip may cut a long line in other
-/// places than a short one.)
-void drawBandLine(QPainter *painter, const QRect &r, const QColor &color)
-{
-    const bool isLarge = r.width() > 2 * bandCorner && r.height() > 2 * bandCorner;
-    const bool isOnPixels = isLarge && wholeRatio(*painter) == 1 && !painter->hasClipping();
-    const QRect straight = r.adjusted(bandCorner, bandCorner, -bandCorner, -bandCorner);
-    if (isOnPixels) {
-        fillRow(painter, straight.left(), straight.right(), r.top(), color);
-        fillRow(painter, straight.left(), straight.right(), r.bottom(), color);
-        fillColumn(painter, r.left(), straight.top(), straight.bottom(), color);
-        fillColumn(painter, r.right(), straight.top(), straight.bottom(), color);
-    }
-    const PainterSaver saver(painter);
-    beginSharpAntialiasing(painter);
-    painter->setBrush(Qt::NoBrush);
-    const QRectF line = r.adjusted(0, 0, -1, -1);
-    if (isOnPixels) {
-        painter->setPen(QPen(color, 1, Qt::SolidLine, Qt::FlatCap));
-        painter->drawPath(bandCorners(line));
-    } else {
-        painter->setPen(color);
-        painter->drawRoundedRect(line, 1, 1);
-    }
 }
 
 void fillBand(QPainter *painter, const QRect &r, const QColor &color)
@@ -243,10 +184,10 @@ void paintRubberBand(const PaintCall &call)
     const QRect &r = call.rect();
     const QRect inner = r.adjusted(1, 1, -1, -1);
     fillBand(call.painter, r, fill);
-    drawBandLine(call.painter, r,
-                 StyleColors::withAlpha(highlight.darker(120), rubberBandOutlineAlpha));
+    drawRoundedOutline(call.painter, r,
+                       StyleColors::withAlpha(highlight.darker(120), rubberBandOutlineAlpha));
     fillBand(call.painter, inner, fill);
-    drawBandLine(call.painter, inner, QColor::fromRgba(rubberBandContrast));
+    drawRoundedOutline(call.painter, inner, QColor::fromRgba(rubberBandContrast));
 }
 
 void paintDockWidgetTitle(const PaintCall &call)

@@ -2,11 +2,14 @@
 #include "styleelements_p.h"
 #include "stylehelpers_p.h"
 
+#include <nocturne/painting/devicepixels_p.h>
 #include <nocturne/painting/themepaint_p.h>
 
 #include <QtCore/QMargins>
 #include <QtWidgets/QTabBar>
 #include <qdrawutil.h>
+
+#include <array>
 
 namespace Nocturne::StylePaint {
 namespace {
@@ -52,6 +55,50 @@ QPixmap groupBoxImage()
     if (!QPixmapCache::find(fileName, &pixmap) && pixmap.load(fileName))
         QPixmapCache::insert(fileName, pixmap);
     return pixmap;
+}
+
+/// The one colour of \a pixmap within its margins; invalid when there are several.
+QColor evenColor(const QPixmap &pixmap, int margin)
+{
+    const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QColor color = image.pixelColor(margin, margin);
+    for (int y = margin; y < image.height() - margin; ++y) {
+        for (int x = margin; x < image.width() - margin; ++x) {
+            if (image.pixelColor(x, y) != color)
+                return QColor();
+        }
+    }
+    return color;
+}
+
+/// Draws the image's border around \a inside as qDrawBorderPixmap() does; fills \a inside, which
+/// is most of it, instead of stretching a picture of one colour.
+void drawGroupBoxFrame(QPainter *painter, const QRect &inside, const QPixmap &image,
+                       const QColor &fill)
+{
+    constexpr int margin = groupBoxImageMargin;
+    const QRect source = image.rect().adjusted(margin, margin, -margin, -margin);
+    const auto parts = [](const QRect &middle) {
+        const int left = middle.left() - margin;
+        const int right = middle.right() + 1;
+        const int top = middle.top() - margin;
+        const int bottom = middle.bottom() + 1;
+        return std::array<QRect, 8>{
+            QRect(left, top, margin, margin),
+            QRect(middle.left(), top, middle.width(), margin),
+            QRect(right, top, margin, margin),
+            QRect(left, middle.top(), margin, middle.height()),
+            QRect(right, middle.top(), margin, middle.height()),
+            QRect(left, bottom, margin, margin),
+            QRect(middle.left(), bottom, middle.width(), margin),
+            QRect(right, bottom, margin, margin),
+        };
+    };
+    const auto targets = parts(inside);
+    const auto sources = parts(source);
+    for (std::size_t i = 0; i < targets.size(); ++i)
+        painter->drawPixmap(targets[i], image, sources[i]);
+    painter->fillRect(inside, fill);
 }
 
 void paintField(const PaintCall &call, const QRectF &field, int shift, qreal radius)
@@ -134,7 +181,12 @@ void paintFrameGroupBox(const PaintCall &call)
     const int title = qMax(indicator, call.option->fontMetrics.height());
     const QRect frame = call.rect().adjusted(0, title + groupBoxTitleMargin, 0, 0);
     const int margin = groupBoxImageMargin;
-    qDrawBorderPixmap(call.painter, frame, QMargins(margin, margin, margin, margin), image);
+    const QRect inside = frame.adjusted(margin, margin, -margin, -margin);
+    static const QColor fill = evenColor(image, margin);
+    if (fill.isValid() && !inside.isEmpty() && wholeRatio(*call.painter) == 1)
+        drawGroupBoxFrame(call.painter, inside, image, fill);
+    else
+        qDrawBorderPixmap(call.painter, frame, QMargins(margin, margin, margin, margin), image);
 }
 
 void paintFrameLineEdit(const PaintCall &call)

@@ -93,6 +93,11 @@ void fillColumn(QPainter *painter, int x, int top, int bottom, const Fill &fill)
 /// The outermost units of \a rect.
 void fillOutline(QPainter *painter, const QRect &rect, const QColor &color);
 
+/// Draws the outermost units of \a r as a rounded rectangle. On whole pixels only the corners need
+/// smoothing, and smoothing the rest is what takes time. (A clip may cut a long line in other
+/// places than a short one.)
+void drawRoundedOutline(QPainter *painter, const QRect &r, const QColor &color);
+
 /// The dots of a grip or handle: two units wide and light, their upper left units dark. They are
 /// kept as two pictures, because what is light lies beneath what is dark.
 class GripDots
