@@ -312,6 +312,7 @@ private:
     QTransform m_transform;
 };
 
+// NOLINTBEGIN(bugprone-parent-virtual-call): passes ours over
 /// The style with the common style's items.
 class CommonItems : public DarkFusionStyle
 {
@@ -332,6 +333,7 @@ public:
         return QCommonStyle::sizeFromContents(type, option, size, widget);
     }
 };
+// NOLINTEND(bugprone-parent-virtual-call)
 
 } // namespace
 
