@@ -73,7 +73,7 @@ void loadThousandTimes(const char *library, const char *pluginFile)
         // lost at each load are as much.
         QPixmapCache::clear();
         const std::size_t used = mallinfo2().uordblks;
-        check(settled == 0 || used < settled + 40 * 1024,
+        check(settled == 0 || used < settled + std::size_t(40) * 1024,
               "five hundred rounds have left memory behind", round);
         settled = used;
     }
