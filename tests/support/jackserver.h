@@ -16,7 +16,7 @@ class JackServer
 {
 public:
     /// Bytes of /dev/shm that a server takes, whatever its ports.
-    static constexpr qint64 sharedMemory = 42 * 1024 * 1024;
+    static constexpr qint64 sharedMemory = qint64(42) * 1024 * 1024;
 
     ~JackServer() { stop(); }
 
