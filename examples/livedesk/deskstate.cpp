@@ -95,7 +95,7 @@ QJsonObject DeskState::toJson() const
 DeskState DeskState::fromJson(const QJsonObject &object)
 {
     DeskState state;
-    for (const QJsonValue &value : object["clips"].toArray()) {
+    for (const auto &value : object["clips"].toArray()) {
         if (state.clips.size() < mostClips)
             state.clips << clipFromJson(value.toObject());
     }

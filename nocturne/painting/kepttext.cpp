@@ -328,7 +328,7 @@ QString elidedText(const ElidedKey &key, Shorten shorten)
     if (known)
         return *known;
     fontWatch().start();
-    const QString text = shorten();
+    QString text = shorten();
     elidedTexts().insert(key, new QString(text));
     return text;
 }

@@ -172,7 +172,7 @@ QColor nearestShade(const QColor &color, std::initializer_list<QColor> grounds, 
 {
     const bool isDark = luminance(*grounds.begin()) < 0.18;
     for (int step = 0; step <= 510; ++step) {
-        const QColor shade = shadeAt(color, isDark ? step : 510 - step);
+        QColor shade = shadeAt(color, isDark ? step : 510 - step);
         const bool isBeyond = (luminance(shade) > luminance(*grounds.begin())) == isDark;
         if (isBeyond && leastContrast(shade, grounds) >= ratio)
             return shade;
