@@ -89,6 +89,6 @@ QString ComboFileChooser::askForPath()
 {
     if (m_mode != OpenFile)
         return Nocturne::pickDirectory(this, QString());
-    return Nocturne::pickFile(this, QString(), m_lastSelectedDir,
+    return Nocturne::pickFile(this, QString(), QString(m_lastSelectedDir).remove(QChar(0)),
                               Nocturne::mediaFilter(tr("Media (*.%1)"), m_types));
 }

@@ -397,7 +397,7 @@ void Monkey::changeWidget(Dice &dice)
         delete m_widget;
     } else if (what == 4) {
         m_widget->deleteLater();
-    } else if (what == 5) {
+    } else if (what == 5 && !m_widget->isWindow()) { // the toolkit's own windows don't bear it
         auto other = std::make_unique<QWidget>();
         m_widget->setParent(other.get());
         m_widget->setParent(m_window.get());
