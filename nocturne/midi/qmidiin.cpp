@@ -2,9 +2,15 @@
 
 #include "midiport_p.h"
 
+#include <atomic>
+
 namespace {
 
 constexpr unsigned int queueLimit = 100;
+
+/// Ports opened by now. The service's thread reads it before each message, and so sees all that was
+/// done before the port was opened.
+std::atomic<int> openings{0};
 
 std::unique_ptr<RtMidiIn> createInput(RtMidi::Api interface)
 {
@@ -15,6 +21,7 @@ std::unique_ptr<RtMidiIn> createInput(RtMidi::Api interface)
 
 void Nocturne::receiveMidiMessage(double seconds, std::vector<unsigned char> *bytes, void *input)
 {
+    openings.load(std::memory_order_acquire);
     if (bytes && !bytes->empty())
         Q_EMIT static_cast<QMidiIn *>(input)->midiMessageReceived(
             decodeMidiMessage(seconds, *bytes));
@@ -45,11 +52,13 @@ QStringList QMidiIn::portNames()
 
 bool QMidiIn::openPort(const QString &name)
 {
+    openings.fetch_add(1, std::memory_order_release);
     return m_port->openPort(name);
 }
 
 void QMidiIn::openVirtualPort(const QString &name)
 {
+    openings.fetch_add(1, std::memory_order_release);
     m_port->openVirtualPort(name);
 }
 

@@ -38,11 +38,6 @@ public:
     explicit Count(int number)
     {
         const QString name = QStringLiteral("count %1").arg(number);
-        m_output.openVirtualPort(name);
-        for (const QString &known : m_input.portNames()) {
-            if (known.contains(name))
-                m_isConnected = m_input.openPort(known);
-        }
         QObject::connect(
             &m_input, &QMidiIn::midiMessageReceived, &m_input,
             [this](const QMidiMessage &message) {
@@ -53,6 +48,11 @@ public:
                 m_received = m_received + 1;
             },
             Qt::DirectConnection);
+        m_output.openVirtualPort(name);
+        for (const QString &known : m_input.portNames()) {
+            if (known.contains(name))
+                m_isConnected = m_input.openPort(known);
+        }
     }
 
     void send()
