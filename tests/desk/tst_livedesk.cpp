@@ -26,7 +26,7 @@
 // history, and all of them undone give back what there was.
 //
 // With NOCTURNE_SOAK=<minutes> the work goes on for that long, and memory and the time of every
-// event are measured.
+// event are measured. More than five need QTEST_FUNCTION_TIMEOUT=<milliseconds> as well.
 
 namespace {
 

@@ -13,6 +13,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QRandomGenerator>
 
+#include <algorithm>
 #include <atomic>
 #include <cstdio>
 #include <memory>
@@ -85,6 +86,18 @@ bool hasArrived(const Count &count)
     return count.received() == count.sent();
 }
 
+/// The ports that do not count. JACK loses what several outputs send to one input when it is more
+/// than a cycle carries, and whose loss that is could not be told.
+template <typename Port>
+QStringList freePorts(Port &port)
+{
+    QStringList names = port.portNames();
+    names.erase(std::remove_if(names.begin(), names.end(),
+                               [](const QString &name) { return name.contains("count"); }),
+                names.end());
+    return names;
+}
+
 /// A few ports of a kind.
 template <typename Port>
 class Ports
@@ -108,7 +121,7 @@ public:
         } else if (way == 2 && port) {
             port->openVirtualPort(QStringLiteral("port %1").arg(roll(20)));
         } else if (port) {
-            const QStringList names = port->portNames();
+            const QStringList names = freePorts(*port);
             port->openPort(names.value(roll(size_t(names.size()) + 1)));
         }
     }
@@ -163,7 +176,7 @@ int main(int argc, char *argv[])
                 inputs.change();
             } else if (QMidiOut *output = outputs.any()) {
                 if (roll(3) == 0)
-                    output->openPort(unsigned(roll(8)));
+                    output->openPort(freePorts(*output).value(roll(8)));
                 for (int i = roll(200); i > 0; --i)
                     output->sendControlChange(1, 7, quint8(i % 128));
                 QMidiMessage dump;
