@@ -397,7 +397,9 @@ void Monkey::changeWidget(Dice &dice)
         delete m_widget;
     } else if (what == 4) {
         m_widget->deleteLater();
-    } else if (what == 5 && !m_widget->isWindow()) { // the toolkit's own windows don't bear it
+    } else if (what == 5) {
+        if (m_widget->isWindow())
+            return; // the toolkit's own windows don't bear it
         auto other = std::make_unique<QWidget>();
         m_widget->setParent(other.get());
         m_widget->setParent(m_window.get());
@@ -464,6 +466,8 @@ void Monkey::arm(Dice &dice)
         } else if (what == 2) {
             m_widget->setEnabled(false);
         } else if (what == 3) {
+            if (m_widget->isWindow())
+                return; // the toolkit's own windows don't bear it
             m_widget->setParent(nullptr);
             m_window->layout()->addWidget(m_widget);
         } else if (what == 4) {
