@@ -4,13 +4,13 @@
 #include <nocturne/QMidiOut>
 #include <nocturne/midi/midiport_p.h>
 
-#include <QtCore/QMutex>
 #include <QtCore/QStorageInfo>
 #include <QtCore/QTemporaryFile>
 #include <QtTest/QtTest>
 
 #include <atomic>
 #include <dlfcn.h>
+#include <mutex>
 #include <thread>
 #include <unistd.h>
 
@@ -22,11 +22,11 @@ namespace {
 
 QStringList warnings;
 QStringList debugLines;
-QMutex linesMutex;
+std::mutex linesMutex;
 
 void keepLines(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
-    const QMutexLocker locker(&linesMutex);
+    const std::lock_guard<std::mutex> lock(linesMutex);
     if (type == QtWarningMsg)
         warnings << text;
     else if (type == QtDebugMsg)
@@ -76,7 +76,7 @@ public:
         m_input.setCallback(
             [](double, std::vector<unsigned char> *bytes, void *self) {
                 auto *listener = static_cast<Listener *>(self);
-                const QMutexLocker locker(&listener->m_mutex);
+                const std::lock_guard<std::mutex> lock(listener->m_mutex);
                 listener->m_received.push_back(*bytes);
             },
             this);
@@ -86,17 +86,17 @@ public:
 
     size_t count()
     {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         return m_received.size();
     }
     std::vector<Bytes> take()
     {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         return std::exchange(m_received, {});
     }
 
 private:
-    QMutex m_mutex; // destroyed after the device that calls back
+    std::mutex m_mutex; // destroyed after the device that calls back
     std::vector<Bytes> m_received;
     RtMidiIn m_input;
 };
