@@ -10,10 +10,12 @@
 #include <QtCore/QMimeData>
 #include <QtCore/QUrl>
 #include <QtGui/QDropEvent>
-#include <QtGui/QIcon>
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -22,46 +24,27 @@ constexpr int backgroundShift = -6;
 constexpr int mostDroppedRows = 100000;
 constexpr int mostDroppedColumns = 100;
 
-template <typename Value>
-bool skip(QDataStream &stream)
-{
-    Value value;
-    stream >> value;
-    return stream.status() == QDataStream::Ok;
-}
+/// What items of other programs may carry. For larger types the toolkit believes any length that
+/// stands before the elements.
+constexpr quint32 soundTypes[] = {QMetaType::Bool,    QMetaType::Int,        QMetaType::UInt,
+                                  QMetaType::Double,  QMetaType::LongLong,   QMetaType::ULongLong,
+                                  QMetaType::QString, QMetaType::QByteArray, QMetaType::QSize,
+                                  QMetaType::QColor,  QMetaType::QIcon};
 
-/// Passes over one role of an item. False for a type that items of other programs have no need of:
-/// the toolkit believes any length that stands before the elements of the larger ones.
+/// Passes over one role of an item. False when its value is of another type or incomplete.
 bool skipRole(QDataStream &stream)
 {
     qint32 role = 0;
+    stream >> role;
+    const qint64 start = stream.device()->pos();
     quint32 type = 0;
-    qint8 isNull = 0;
-    stream >> role >> type >> isNull;
-    switch (type) {
-    case QMetaType::Bool:
-        return skip<bool>(stream);
-    case QMetaType::Int:
-    case QMetaType::UInt:
-        return skip<qint32>(stream);
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-        return skip<qint64>(stream);
-    case QMetaType::Double:
-        return skip<double>(stream);
-    case QMetaType::QString:
-        return skip<QString>(stream);
-    case QMetaType::QByteArray:
-        return skip<QByteArray>(stream);
-    case QMetaType::QSize:
-        return skip<QSize>(stream);
-    case QMetaType::QColor:
-        return skip<QColor>(stream);
-    case QMetaType::QIcon:
-        return skip<QIcon>(stream);
-    default:
+    stream >> type;
+    if (std::find(std::begin(soundTypes), std::end(soundTypes), type) == std::end(soundTypes))
         return false;
-    }
+    stream.device()->seek(start);
+    QVariant value;
+    stream >> value;
+    return stream.status() == QDataStream::Ok;
 }
 
 /// Whether a drop brings no items, items of this program, or such that the toolkit can take
