@@ -10,10 +10,12 @@
 #include <nocturne/QMidiOut>
 
 #include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QRandomGenerator>
+#include <QtCore/QThread>
 
-#include <algorithm>
 #include <atomic>
 #include <cstdio>
 #include <memory>
@@ -21,120 +23,102 @@
 
 namespace {
 
-constexpr int mostPorts = 6;
 constexpr int countTo = 128 * 128;
 constexpr int countChannel = 16;
 
+QRandomGenerator dice;
+
+/// 0 to \a count - 1.
+int roll(int count)
+{
+    return int(dice.bounded(count));
+}
+
 int threadCount()
 {
-    return QDir(QStringLiteral("/proc/self/task"))
-        .entryList(QDir::Dirs | QDir::NoDotAndDotDot)
-        .size();
+    return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
 }
 
 /// The two ports that count, for the life of one server.
-class Count
+struct Count
 {
-public:
-    explicit Count(int number)
+    explicit Count(int server)
     {
-        const QString name = QStringLiteral("count %1").arg(number);
-        QObject::connect(
-            &m_input, &QMidiIn::midiMessageReceived, &m_input,
-            [this](const QMidiMessage &message) {
-                if (message.channel() != countChannel || message.type() != QMidiMessage::NoteOn)
-                    return; // of an output that has been connected here as well
-                const int number = message.note() * 128 + message.velocity();
-                m_gaps += number != m_received % countTo;
-                m_received = m_received + 1;
-            },
-            Qt::DirectConnection);
-        m_output.openVirtualPort(name);
-        for (const QString &known : m_input.portNames()) {
-            if (known.contains(name))
-                m_isConnected = m_input.openPort(known);
-        }
+        const QString name = QString("count %1").arg(server);
+        const auto receive = [this](const QMidiMessage &message) {
+            if (message.channel() != countChannel || message.type() != QMidiMessage::NoteOn)
+                return; // of an output that has been connected here as well
+            const int number = message.note() * 128 + message.velocity();
+            gaps += number != received++ % countTo;
+        };
+        QObject::connect(&input, &QMidiIn::midiMessageReceived, &input, receive,
+                         Qt::DirectConnection);
+        output.openVirtualPort(name);
+        isConnected = input.openPort(input.portNames().filter(name).value(0));
     }
 
     void send()
     {
-        if (!m_isConnected)
-            return;
-        m_output.sendNoteOn(countChannel, quint8(m_sent % countTo / 128), quint8(m_sent % 128));
-        ++m_sent;
+        if (isConnected)
+            output.sendNoteOn(countChannel, quint8(sent % countTo / 128), quint8(sent % 128));
+        sent += isConnected;
     }
 
-    bool isConnected() const { return m_isConnected; }
-    int sent() const { return m_sent; }
-    int received() const { return m_received; }
-    int gaps() const { return m_gaps; }
+    /// Whether everything that was sent has come within a few seconds.
+    bool hasArrived() const
+    {
+        for (int i = 0; i < 1000 && received < sent; ++i)
+            QThread::msleep(20);
+        return received == sent;
+    }
 
-private:
-    QMidiOut m_output;
-    QMidiIn m_input;
-    bool m_isConnected = false;
-    int m_sent = 0;
-    std::atomic<int> m_received{0};
-    std::atomic<int> m_gaps{0};
+    bool isConnected = false;
+    int sent = 0;
+    std::atomic<int> received{0};
+    std::atomic<int> gaps{0};
+    QMidiOut output;
+    QMidiIn input; // the first to end, as it calls back
 };
 
-/// Whether everything that was sent has come within a few seconds.
-bool hasArrived(const Count &count)
-{
-    for (int i = 0; i < 1000 && count.received() < count.sent(); ++i)
-        QThread::msleep(20);
-    return count.received() == count.sent();
-}
-
-/// The ports that do not count. JACK loses what several outputs send to one input when it is more
+/// Any port that does not count. JACK loses what several outputs send to one input when it is more
 /// than a cycle carries, and whose loss that is could not be told.
 template <typename Port>
-QStringList freePorts(Port &port)
+QString freePort(Port &port)
 {
-    QStringList names = port.portNames();
-    names.erase(std::remove_if(names.begin(), names.end(),
-                               [](const QString &name) { return name.contains("count"); }),
-                names.end());
-    return names;
+    const QStringList names = port.portNames();
+    const QString name = names.value(roll(names.size() + 1));
+    return name.contains("count") ? QString() : name;
 }
 
-/// A few ports of a kind.
+/// Makes, ends or opens one of a few ports, in one of several ways.
 template <typename Port>
-class Ports
+void change(std::vector<std::unique_ptr<Port>> &ports)
 {
-public:
-    explicit Ports(QRandomGenerator &dice)
-        : m_dice(dice)
-    {}
+    const int way = roll(4);
+    const int at = roll(qMax(1, int(ports.size())));
+    if (ports.empty() || (way == 0 && ports.size() < 6))
+        ports.push_back(std::make_unique<Port>());
+    else if (way == 1)
+        ports.erase(ports.begin() + at);
+    else if (way == 2)
+        ports[size_t(at)]->openVirtualPort(QString("port %1").arg(roll(20)));
+    else
+        ports[size_t(at)]->openPort(freePort(*ports[size_t(at)]));
+}
 
-    Port *any() { return m_ports.empty() ? nullptr : m_ports[size_t(roll(m_ports.size()))].get(); }
-
-    /// Makes, ends or opens one of them, in one of several ways.
-    void change()
-    {
-        const int way = roll(4);
-        Port *port = any();
-        if (way == 0 && m_ports.size() < mostPorts) {
-            m_ports.push_back(std::make_unique<Port>());
-        } else if (way == 1 && port) {
-            m_ports.erase(m_ports.begin() + roll(m_ports.size()));
-        } else if (way == 2 && port) {
-            port->openVirtualPort(QStringLiteral("port %1").arg(roll(20)));
-        } else if (port) {
-            const QStringList names = freePorts(*port);
-            port->openPort(names.value(roll(size_t(names.size()) + 1)));
-        }
-    }
-
-    auto begin() const { return m_ports.begin(); }
-    auto end() const { return m_ports.end(); }
-
-private:
-    int roll(size_t count) { return int(m_dice.bounded(quint32(count))); }
-
-    QRandomGenerator &m_dice;
-    std::vector<std::unique_ptr<Port>> m_ports;
-};
+void flood(QMidiOut &output)
+{
+    if (roll(3) == 0)
+        output.openPort(freePort(output));
+    for (int i = roll(200); i > 0; --i)
+        output.sendControlChange(1, 7, quint8(i % 128));
+    QMidiMessage dump;
+    QMidiMessage::Bytes bytes(size_t(2 + roll(3000)), 0x40);
+    bytes.front() = 0xF0;
+    bytes.back() = 0xF7;
+    dump.setRawMessage(bytes);
+    output.sendMessage(dump);
+}
 
 } // namespace
 
@@ -146,9 +130,8 @@ int main(int argc, char *argv[])
     parser.addOptions({{"minutes", "How long.", "number", "10"},
                        {"seed", "The first random number.", "number", "1"}});
     parser.process(app);
-    const qint64 length = qint64(parser.value(QStringLiteral("minutes")).toDouble() * 60000);
-    QRandomGenerator dice(parser.value(QStringLiteral("seed")).toUInt());
-    const auto roll = [&dice](int count) { return int(dice.bounded(count)); };
+    const qint64 length = qint64(parser.value("minutes").toDouble() * 60000);
+    dice.seed(parser.value("seed").toUInt());
 
     const int threadsBefore = threadCount();
     int failures = 0;
@@ -159,47 +142,31 @@ int main(int argc, char *argv[])
     timer.start();
     while (!timer.hasExpired(length)) {
         JackServer server;
-        if (!server.start()) {
-            std::fprintf(stderr, "no JACK server comes up\n");
-            return 2;
-        }
-        ++servers;
-        auto count = std::make_unique<Count>(servers);
-        Ports<QMidiOut> outputs(dice);
-        Ports<QMidiIn> inputs(dice);
+        if (!server.start())
+            qFatal("no JACK server comes up");
+        Count count(++servers);
+        std::vector<std::unique_ptr<QMidiOut>> outputs;
+        std::vector<std::unique_ptr<QMidiIn>> inputs;
         for (int left = 200 + roll(800); left > 0 && !timer.hasExpired(length); --left, ++steps) {
-            count->send();
+            count.send();
             const int kind = roll(10);
-            if (kind < 4) {
-                outputs.change();
-            } else if (kind < 8) {
-                inputs.change();
-            } else if (QMidiOut *output = outputs.any()) {
-                if (roll(3) == 0)
-                    output->openPort(freePorts(*output).value(roll(8)));
-                for (int i = roll(200); i > 0; --i)
-                    output->sendControlChange(1, 7, quint8(i % 128));
-                QMidiMessage dump;
-                QMidiMessage::Bytes bytes(size_t(2 + roll(3000)), 0x40);
-                bytes.front() = 0xF0;
-                bytes.back() = 0xF7;
-                dump.setRawMessage(bytes);
-                output->sendMessage(dump);
-            }
+            if (kind < 4)
+                change(outputs);
+            else if (kind < 8)
+                change(inputs);
+            else if (!outputs.empty())
+                flood(*outputs[size_t(roll(int(outputs.size())))]);
             QCoreApplication::processEvents();
         }
 
         const bool crash = roll(2) == 0;
-        if (!crash && count->isConnected() && !hasArrived(*count)) {
-            std::printf("server %d: %d sent, %d received\n", servers, count->sent(),
-                        count->received());
+        const bool arrived = crash || count.hasArrived();
+        if (!arrived || count.gaps > 0) {
+            std::printf("server %d: %d sent, %d received, %d gaps\n", servers, count.sent,
+                        count.received.load(), count.gaps.load());
             ++failures;
         }
-        if (count->gaps() > 0) {
-            std::printf("server %d: %d gaps\n", servers, count->gaps());
-            ++failures;
-        }
-        counted += count->received();
+        counted += count.received;
         if (crash)
             server.kill();
         else if (roll(2) == 0)
@@ -211,8 +178,7 @@ int main(int argc, char *argv[])
             input->portNames();
     }
     QThread::msleep(500);
-    const int threadsLeft = threadCount() - threadsBefore;
     std::printf("%d servers, %lld steps, %lld messages counted, %d threads left, %d failures\n",
-                servers, steps, counted, threadsLeft, failures);
+                servers, steps, counted, threadCount() - threadsBefore, failures);
     return failures ? 1 : 0;
 }

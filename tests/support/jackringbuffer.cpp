@@ -5,41 +5,40 @@
 #include <dlfcn.h>
 #include <sanitizer/tsan_interface.h>
 
-#include <cstddef>
+#include <stddef.h>
 
 namespace {
 
 template <typename... Arguments>
-std::size_t inOrder(const char *function, void *buffer, Arguments... arguments)
+size_t inOrder(const char *function, void *buffer, Arguments... arguments)
 {
-    using Function = std::size_t (*)(void *, Arguments...);
+    using Function = size_t (*)(void *, Arguments...);
     const auto call = reinterpret_cast<Function>(dlsym(RTLD_NEXT, function));
     __tsan_acquire(buffer);
-    const std::size_t bytes = call(buffer, arguments...);
+    const size_t bytes = call(buffer, arguments...);
     __tsan_release(buffer);
     return bytes;
 }
 
 } // namespace
 
+#pragma GCC visibility push(default)
 extern "C" {
 
-[[gnu::visibility("default")]] std::size_t jack_ringbuffer_write(void *buffer, const char *bytes,
-                                                                 std::size_t count)
+size_t jack_ringbuffer_write(void *buffer, const char *bytes, size_t count)
 {
     return inOrder("jack_ringbuffer_write", buffer, bytes, count);
 }
 
-[[gnu::visibility("default")]] std::size_t jack_ringbuffer_read(void *buffer, char *bytes,
-                                                                std::size_t count)
+size_t jack_ringbuffer_read(void *buffer, char *bytes, size_t count)
 {
     return inOrder("jack_ringbuffer_read", buffer, bytes, count);
 }
 
-[[gnu::visibility("default")]] std::size_t jack_ringbuffer_peek(void *buffer, char *bytes,
-                                                                std::size_t count)
+size_t jack_ringbuffer_peek(void *buffer, char *bytes, size_t count)
 {
     return inOrder("jack_ringbuffer_peek", buffer, bytes, count);
 }
 
 } // extern "C"
+#pragma GCC visibility pop
