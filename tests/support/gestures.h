@@ -114,20 +114,37 @@ inline bool nothingIsHeld()
     return !QApplication::overrideCursor() && !QWidget::mouseGrabber();
 }
 
-/// Rows of a script for run() and what it notes.
-inline void addScripts(std::initializer_list<std::pair<const char *, const char *>> rows)
+/// The paragraphs of a file in tests/widgets, each on one line, without its comments.
+inline QStringList paragraphsOf(const QString &name)
+{
+    QFile file(NOCTURNE_SOURCE_DIR "/tests/widgets/" + name);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(file.fileName()));
+    const QString text = QString::fromUtf8(file.readAll());
+    QStringList paragraphs;
+    for (const QString &paragraph : text.split("\n\n")) {
+        const QStringList lines = paragraph.split('\n').filter(QRegularExpression("^(?!# )"));
+        paragraphs << lines.join(' ').simplified();
+    }
+    paragraphs.removeAll({});
+    return paragraphs;
+}
+
+/// Rows from such a file: a script for run(), "=>" and what it notes. "(taken away)" stands for
+/// each way to take a widget away from under a pressed button.
+inline void addScripts(const QString &file)
 {
     QTest::addColumn<QString>("script");
     QTest::addColumn<QString>("log");
-    for (const auto &row : rows)
-        QTest::newRow(row.first) << QString(row.first) << QString(row.second);
-}
-
-/// A row for each way to take a widget away from under a pressed button, after \a begin.
-inline void addInterruptions(const QString &begin, const QString &then, const QString &log)
-{
-    for (const char *how : {"hide", "disable", "modal", "popup", "enter", "lost, move 35"})
-        QTest::newRow(how) << begin + ", " + how + ", held, restore" + then << log;
+    for (const QString &paragraph : paragraphsOf(file)) {
+        for (const char *how : {"hide", "disable", "modal", "popup", "enter", "lost, move 35"}) {
+            const QString taken = QString(how) + ", held, restore";
+            const QString script = paragraph.section(" =>", 0, 0).replace("(taken away)", taken);
+            QTest::newRow(qPrintable(script)) << script << paragraph.section("=> ", 1);
+            if (!paragraph.contains("(taken away)"))
+                break;
+        }
+    }
 }
 
 /// A widget with a hand on it and a log of its signals, which the subclass connects.
@@ -181,6 +198,8 @@ public:
                 send(QEvent::MouseMove, place(number) + QPoint(60, 60), Qt::NoButton);
             else if (verb == "held")
                 note("held")(isHeld());
+            else if (verb == "wheel")
+                note(takesWheel(this) ? "takes wheel" : "leaves wheel")();
             else if (verb == "key")
                 QTest::keyPress(this, keyCalled(words.at(1)), m_modifiers);
             else if (!perform(verb, numbers) && !showOrTakeAway(verb) && !access(verb, numbers))
@@ -273,62 +292,6 @@ private:
     Qt::MouseButtons m_buttons;
     Qt::KeyboardModifiers m_modifiers;
     std::unique_ptr<QWidget> m_above;
-};
-
-/// One that is a slider, with places along its groove.
-template <typename Base>
-class DrivenSlider : public Driven<Base>
-{
-public:
-    explicit DrivenSlider(Qt::Orientation orientation)
-        : Driven<Base>(orientation)
-    {
-        this->resize(isHorizontal() ? QSize(320, 30) : QSize(30, 320));
-    }
-
-    QStyleOptionSlider optionAt(int position) const
-    {
-        QStyleOptionSlider option;
-        QSlider::initStyleOption(&option);
-        option.sliderPosition = option.sliderValue = position;
-        return option;
-    }
-    bool isHorizontal() const { return this->orientation() == Qt::Horizontal; }
-    bool isHeld() const override { return this->isSliderDown(); }
-    QPoint grip() const override { return isHorizontal() ? QPoint(2, 0) : QPoint(0, 2); }
-
-    QRect rectOf(QStyle::SubControl control, int position = 0) const
-    {
-        const QStyleOptionSlider option = optionAt(position);
-        return this->style()->subControlRect(QStyle::CC_Slider, &option, control, this);
-    }
-    QRect handleAt(int position) const { return rectOf(QStyle::SC_SliderHandle, position); }
-    /// The middle of a handle at that position.
-    QPoint place(int position) const override { return handleAt(position).center(); }
-
-    /// Whether the screen shows after each script what a fresh painting would. In several styles,
-    /// with and without tracking.
-    bool leavesNoTraces(std::initializer_list<const char *> scripts)
-    {
-        const std::unique_ptr<QStyle> dark(new DarkFusionStyle);
-        const std::unique_ptr<QStyle> fusion(QStyleFactory::create("fusion"));
-        const std::unique_ptr<QStyle> windows(QStyleFactory::create("windows"));
-        for (QStyle *style : {dark.get(), fusion.get(), windows.get()}) {
-            this->setStyle(style);
-            for (bool tracking : {true, false}) {
-                this->setTracking(tracking);
-                showExposed(this);
-                for (const char *script : scripts) {
-                    onScreen(*this);
-                    this->run(script);
-                    if (onScreen(*this) != freshlyPainted(*this))
-                        return false;
-                }
-            }
-        }
-        this->setStyle(nullptr);
-        return true;
-    }
 };
 
 } // namespace TestSupport

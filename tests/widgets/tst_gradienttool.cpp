@@ -128,38 +128,7 @@ private Q_SLOTS:
         QCOMPARE(editor.getRamp(), ramp);
     }
 
-    void gestures_data()
-    {
-        TestSupport::addScripts({
-            {"press 105 -30, stops, move 65, move 66, release 66, stops",
-             "down, opacity 100, ramp 1, stops 0 200 100, ramp 1, ramp 0, stops 0 200 61"},
-            {"press 205, move 155, stops, move 305, stops, slideUpdate 1, move 105, release 105, "
-             "stops",
-             "down, opacity 100, slider 0 0, ramp 1, stops 0 150, ramp 0, stops 0 150, ramp 1, "
-             "ramp 0, stops 0 100"},
-            {"press 60, move 20, release 20, stops", "down, stops 0 200"}, // between the markers
-            {"right 105, move 65, rightup 65, stops", "stops 0 200"},
-            {"three, press 105, move 105 30, look, move 105 31, look, move 105 30, look, "
-             "move 105 31, release 105, stops",
-             "down, opacity 100, slider 0 0, ramp 1, other, ramp 0, other, ramp 0, other, ramp 0, "
-             "opacity 100, ramp 0, stops 0 200"},
-            // The last two stay.
-            {"press 205, move 205 31, release 205, press 105 -30, release 105, stops",
-             "down, opacity 100, slider 0 0, ramp 1, down, opacity 100, ramp 1, stops 0 200 100"},
-            {"nodialog, press 205, release 205, double 205, move 155, move 105, release 105",
-             "down, opacity 100, slider 0 0, down, request 1, opacity 100, ramp 1, ramp 0"},
-            {"nodialog, press 65 -30, release 65, double 65 -30, move 75, release 75, stops",
-             "down, opacity 100, ramp 1, down, ramp 1, stops 0 200 70"},
-            // A lost release removes nothing later, nor does one that comes after all.
-            {"three, press 105, move 105 31, press 5, release 5, stops",
-             "down, opacity 100, slider 0 0, ramp 1, down, opacity 100, slider 0 0, "
-             "stops 0 100 200"},
-        });
-        TestSupport::addInterruptions("show, three, press 105, look, move 105 31, look",
-                                      ", release 105, look, stops",
-                                      "down, opacity 100, slider 0 0, other, ramp 1, other, "
-                                      "held 0, other, stops 0 100 200");
-    }
+    void gestures_data() { TestSupport::addScripts("gradienttool.txt"); }
 
     void gestures()
     {

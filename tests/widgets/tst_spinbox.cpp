@@ -77,44 +77,7 @@ class TestSpinBox : public QObject
 private Q_SLOTS:
     void cleanup() { QVERIFY(TestSupport::nothingIsHeld()); }
 
-    void gestures_data()
-    {
-        TestSupport::addScripts({
-            // One drag, one start; nothing more is told at the end of the range.
-            {"press 30, held, move 30, move 32, move 35, move 300, move 310, release 310, held, "
-             "editing",
-             "held 1, value 2 1, value 5 0, value 100 0, held 0, editing 0"},
-            {"press 30, move 29, release 29, set 7", "value -1 1, value 7 1"},
-            {"press 30, move 35, release 500, held, move 40", "value 5 1, held 0"},
-            // Other buttons neither start nor disturb a drag.
-            {"right 30, held, rightup 30, editing", "held 0, editing 0"},
-            {"press 30, move 32, right 32, move 33, rightup 33, held, move 34, release 34",
-             "value 2 1, value 3 0, held 1, value 4 0"},
-            // A click starts editing.
-            {"relative 42, text, enter, cursor, press 30, release 30, cursor, editing, text, "
-             "exit, cursor",
-             "value 42 1, --|, cursor 6, cursor 4, editing 1, 42|42, cursor -1"},
-            {"press 30, release 30, exit, type 57, press 30, held, release 30",
-             "value 5 1, value 57 1, held 0"},
-            {"relative 3, text, set 4, text, absolute 4, text",
-             "value 3 1, --|, value 4 1, --|, 4|"},
-            {"press 30, move 35, deactivate, move 37, release 37", "value 5 1, value 7 0"},
-            {"press 30, move 40 4, release 500", "value 6 1"},
-            {"ctrl 1, press 30, move 40 4, release 500", "value 12 1"},
-            {"shift 1, press 30, move 40 4, release 500", "value 3 1"},
-            {"ctrl 1, shift 1, press 30, move 40 4, release 500", "value 6 1"},
-            // Halving truncates each step toward zero.
-            {"shift 1, press 30, move 31, move 28, release 500", "value -1 1"},
-        });
-        for (const char *how : {"hide", "disable", "modal", "popup", "setFocus, popup"}) {
-            QTest::addRow("cursor: %s", how)
-                << QString("enter, press 30, move 35, %1, cursor").arg(how)
-                << "value 5 1, cursor -1";
-        }
-        TestSupport::addInterruptions("press 30, move 35",
-                                      ", move 50, press 30, move 32, release 32, exit",
-                                      "value 5 1, held 0, value 7 1");
-    }
+    void gestures_data() { TestSupport::addScripts("spinbox.txt"); }
 
     void gestures()
     {
