@@ -1,19 +1,28 @@
+#include "probes.h"
 #include "styleoptions.h"
 #include "stylepainting.h"
 
+#include <nocturne/style/stylehelpers_p.h>
+
 #include <QtCore/QCryptographicHash>
+#include <QtCore/QSet>
 #include <QtGui/QPixmapCache>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolButton>
 
+#include <private/qguiapplication_p.h>
+#include <private/qhighdpiscaling_p.h>
+
 #include <memory>
 
-// What each element of the style paints in the states of data/elements.txt, which explains itself,
-// and what cannot be said there.
+// What each element of the style paints and answers in the states of data/elements.txt, which
+// explains itself; what cannot be said there; and how pictures of elements are kept.
 
 using namespace StylePainting;
+namespace StyleHelpers = Nocturne::StyleHelpers;
+using TestSupport::probeColor;
 
 namespace {
 
@@ -33,47 +42,13 @@ class QDockWidgetTitleButton : public QWidget
     Q_OBJECT
 };
 
-/// The colour that \a text stands for, over the ground of the pictures.
-QColor color(const QString &text)
-{
-    // That of what has the focus is the highlight, but not too bright.
-    static const QColor dark = QColor(0x679dcd).darker(125);
-    static const QColor focus = QColor::fromHsl(dark.hue(), dark.saturation(), 160);
-    static const QHash<QString, QColor> names = {
-        {"window", window},   {"base", 0x191a1e},
-        {"light", 0x5a5959},  {"highlight", 0x679dcd},
-        {"lit", 0xed6e00},    {"text", 0xbbbbbb},
-        {"button", 0x484848}, {"outline", window.darker(140)},
-        {"focus", focus}};
-    if (text.contains('|')) {
-        return TestSupport::blended(color(text.section('|', 0, 0)), color(text.section('|', 1)));
-    }
-    static const QRegularExpression operation("[*/+@-]\\d+");
-    const QString name = text.left(text.indexOf(operation));
-    QColor result = names.value(name, QColor(name));
-    for (auto i = operation.globalMatch(text); i.hasNext();) {
-        const QString step = i.next().captured();
-        const int n = step.mid(1).toInt();
-        const int shift = step[0] == '-' ? -n : n;
-        if (step[0] == '*')
-            result = result.lighter(n);
-        else if (step[0] == '/')
-            result = result.darker(n);
-        else if (step[0] == '@')
-            result.setAlpha(n);
-        else
-            result.setRgb(result.red() + shift, result.green() + shift, result.blue() + shift);
-    }
-    return result;
-}
-
 /// A colour, a texture of two by two transparent pixels, or a gradient from green to red.
 QBrush brush(const QString &text)
 {
     if (text == "texture")
         return QPixmap(2, 2);
     if (text != "gradient")
-        return color(text);
+        return probeColor(text);
     QLinearGradient gradient;
     gradient.setStops({{0.0, Qt::green}, {1.0, Qt::red}});
     return gradient;
@@ -162,6 +137,7 @@ const QHash<QString, decltype(&build<QStyleOption>)> builders = {
     {"DockWidget", build<QStyleOptionDockWidget>},
     {"FocusRect", build<QStyleOptionFocusRect>},
     {"Frame", build<QStyleOptionFrame>},
+    {"GroupBox", build<QStyleOptionGroupBox>},
     {"Header", build<QStyleOptionHeader>},
     {"MenuItem", build<QStyleOptionMenuItem>},
     {"ProgressBar", build<QStyleOptionProgressBar>},
@@ -174,6 +150,13 @@ const QHash<QString, decltype(&build<QStyleOption>)> builders = {
     {"TitleBar", build<QStyleOptionTitleBar>},
     {"ToolBar", build<QStyleOptionToolBar>},
     {"ToolButton", build<QStyleOptionToolButton>}};
+
+/// Has the application on a screen with so many device pixels per unit.
+void setScreenScale(qreal scale)
+{
+    QHighDpiScaling::setGlobalFactor(scale);
+    QGuiApplicationPrivate::resetCachedDevicePixelRatio();
+}
 
 } // namespace
 
@@ -188,33 +171,18 @@ private Q_SLOTS:
     void elements();
 
     void groupBox();
-    void labelWithIcon();
-    void menuSeparatorWithText();
     void menuItemText();
     void rememberedScrollBar();
     void sliderInAClip();
 
+    void cacheKeys();
+    void paintedOnceOrInPlace();
+    void colorizedImages();
+
 private:
     void draw(const QStyle &style, QPainter &painter) const;
-    QString contentSize() const;
-    QString fault(const QImage &image, const QString &expectation) const;
-    QImage paint(QStyle::PrimitiveElement element, const QStyleOption &option) const
-    {
-        return picture(
-            [&](QPainter &painter) { m_style->drawPrimitive(element, &option, &painter); });
-    }
-    QImage paint(QStyle::ComplexControl control, const QStyleOptionComplex &option) const
-    {
-        return picture(option.rect.size(), [&](QPainter &painter) {
-            m_style->drawComplexControl(control, &option, &painter);
-        });
-    }
-    QStringList logOf(QStyle::ControlElement element, const QStyleOption &option)
-    {
-        m_recorder.log.clear();
-        picture([&](QPainter &painter) { m_recorder.drawControl(element, &option, &painter); });
-        return m_recorder.log;
-    }
+    QString answer(const QString &question, const QImage &image) const;
+    QString fault(const QString &expectation, const QImage &image) const;
 
     DarkUX m_theme;
     const std::unique_ptr<DarkFusionStyle> m_style{m_theme.style()};
@@ -233,9 +201,9 @@ void TestStyleElements::initTestCase()
     auto *checked = new QPushButton(&m_mainWindow);
     checked->setCheckable(true);
     checked->setChecked(true);
-    auto *child = new QWidget(new QWidget(&m_mainWindow));
     auto *comboBox = new QComboBox(&m_mainWindow);
     comboBox->setIconSize(QSize(40, 40));
+    auto *child = new QWidget(new QWidget(&m_mainWindow));
     m_widgets = {{"search", new SearchLineEdit},
                  {"popup", new QComboBoxPrivateContainer},
                  {"titlebutton", new QDockWidgetTitleButton},
@@ -281,63 +249,60 @@ void TestStyleElements::draw(const QStyle &style, QPainter &painter) const
                                  m_widget);
 }
 
-/// The size for contents as large as the option, and what the common style lacks of it.
-QString TestStyleElements::contentSize() const
+/// What the style says to \a question, in the form of the table; nothing where that is a place of
+/// \a image.
+QString TestStyleElements::answer(const QString &question, const QImage &image) const
 {
-    const auto type = QStyle::ContentsType(number(m_element));
+    const int element = number(m_element);
+    if (question == "within")
+        return nameOf(painted(image).boundingRect());
+    if (question == "at")
+        return nameOf(m_style->subElementRect(QStyle::SubElement(element), m_option.get()));
+    if (question.startsWith("SC_"))
+        return nameOf(m_style->subControlRect(QStyle::ComplexControl(element),
+                                              static_cast<QStyleOptionComplex *>(m_option.get()),
+                                              QStyle::SubControl(number(question))));
+    if (question == "hint")
+        return QString::number(m_style->styleHint(QStyle::StyleHint(element), m_option.get()));
+    if (question == "metric")
+        return QString::number(m_style->pixelMetric(QStyle::PixelMetric(element), m_option.get()));
+    if (question != "size" && question != "adds")
+        return QString();
+    const auto type = QStyle::ContentsType(element);
     const QSize contents = m_option->rect.size();
-    const QSize size = m_style->sizeFromContents(type, m_option.get(), contents, m_widget);
-    const QSize added =
-        size - m_style->QCommonStyle::sizeFromContents(type, m_option.get(), contents, m_widget);
-    return QStringLiteral(" width %1 height %2 adds %3,%4 ")
-        .arg(size.width())
-        .arg(size.height())
-        .arg(added.width())
-        .arg(added.height());
+    QSize size = m_style->sizeFromContents(type, m_option.get(), contents, m_widget);
+    if (question == "adds")
+        size -= m_style->QCommonStyle::sizeFromContents(type, m_option.get(), contents, m_widget);
+    return QStringLiteral("%1,%2").arg(size.width()).arg(size.height());
 }
 
 /// What is wrong with \a image, or nothing.
-QString TestStyleElements::fault(const QImage &image, const QString &expectation) const
+QString TestStyleElements::fault(const QString &expectation, const QImage &image) const
 {
     const QString place = expectation.section(' ', 0, 0);
     QString wanted = expectation.section(' ', 1);
-    const QRegion region = painted(image);
-    QString answer;
-    if (wanted.isEmpty()) {
-        wanted = place;
-        answer = region.isEmpty() ? "nothing" : "something";
-    } else if (place == "within") {
-        answer = nameOf(region.boundingRect());
-    } else if (place == "count") {
-        answer = QString::number(unitCount(region & rect(wanted.section(' ', 1))))
-                 + wanted.mid(wanted.indexOf(' '));
-    } else if (place == "at") {
-        answer =
-            nameOf(m_style->subElementRect(QStyle::SubElement(number(m_element)), m_option.get()));
-    } else if (place.startsWith("SC_")) {
-        answer = nameOf(m_style->subControlRect(QStyle::ComplexControl(number(m_element)),
-                                                static_cast<QStyleOptionComplex *>(m_option.get()),
-                                                QStyle::SubControl(number(place))));
-    }
-    if (!answer.isEmpty())
-        return answer == wanted ? QString() : "is " + answer;
+    if (const QString found = answer(place, image); !found.isEmpty())
+        return found == wanted ? QString() : "is " + found;
 
     const QChar kind = wanted[0];
     if (QStringLiteral("~!+").contains(kind))
         wanted.remove(0, 1);
-    const QColor expected = TestSupport::blended(color(wanted), background);
+    const QColor color = TestSupport::blended(probeColor(wanted), background);
+    const int limit = kind == '~' ? 4 : kind == '!' || kind == '+' ? 39 : 0;
     const QRect units = rect(place);
-    bool isFound = false;
-    for (int y = units.top(); y <= units.bottom(); ++y) {
-        for (int x = units.left(); x <= units.right(); ++x) {
-            const QColor found = unitColor(image, x, y);
-            const int difference = distance(found, expected);
-            isFound |= difference < 40;
-            if (kind == '~' ? difference > 4 : kind != '!' && kind != '+' && difference > 0)
-                return QStringLiteral("%1,%2 is %3").arg(x).arg(y).arg(found.name());
-        }
-    }
-    return kind == (isFound ? '!' : '+') ? QStringLiteral("found %1").arg(isFound) : QString();
+    const auto matches = [&](int i) {
+        const QPoint unit = units.topLeft() + QPoint(i % units.width(), i / units.width());
+        return distance(unitColor(image, unit.x(), unit.y()), color) <= limit;
+    };
+    const int total = units.width() * units.height();
+    int count = 0;
+    for (int i = 0; i < total; ++i)
+        count += matches(i);
+    const bool isRight = kind == '!' ? count == 0 : kind == '+' ? count > 0 : count == total;
+    const QString first = unitColor(image, units.x(), units.y()).name();
+    return isRight
+               ? QString()
+               : QStringLiteral("%1 of %2 units; the first is %3").arg(count).arg(total).arg(first);
 }
 
 void TestStyleElements::elements()
@@ -366,38 +331,46 @@ void TestStyleElements::elements()
                                    brush(role.section('=', 1)));
     m_option->direction = isMirrored ? Qt::RightToLeft : Qt::LeftToRight;
 
-    if (m_element.startsWith("CT_")) {
-        QVERIFY2(contentSize().contains(columns[2] + " "), qPrintable(contentSize()));
-        return;
-    }
     const QSize size = canvas.expandedTo(m_option->rect.size());
-    const auto paintBy = [&](const QStyle &style) {
-        return picture(size, [&](QPainter &painter) { draw(style, painter); });
-    };
     const QStyle &style = m_recorder.isTransient ? static_cast<QStyle &>(*m_style) : m_recorder;
-    const QImage image = paintBy(style); // with what the rows before have left in the cache
+    const Drawing paint = [&](QPainter &painter) { draw(style, painter); };
+    const QImage image = picture(size, paint); // with what the row before has left in the cache
+    const int ratio = qRound(qApp->devicePixelRatio());
+    const auto paintFiner = [&] {
+        return TestSupport::paintOn(size, background, paint, 1.5 * ratio);
+    };
+    const QImage finer = paintFiner();
+    setScreenScale(ratio + 1);
+    const QImage dense = picture(size, paint);
     QPixmapCache::clear();
-    QCOMPARE(paintBy(style), image);
-    QCOMPARE(paintBy(style), image); // from the cache
+    const QImage fresh = picture(size, paint);
+    setScreenScale(ratio);
+    QCOMPARE(dense, fresh);
+    QCOMPARE(picture(size, paint), image);
+    QCOMPARE(picture(size, paint), image); // from the cache
+
+    const auto limit = QPixmapCache::cacheLimit();
+    QPixmapCache::setCacheLimit(0); // nothing is taken from there
+    const QImage inPlace = paintFiner();
+    m_recorder.log.clear();
+    picture(size, [&](QPainter &painter) {
+        draw(m_element.startsWith("PE_") ? *m_recorder.baseStyle() : m_recorder, painter);
+    });
+    QPixmapCache::setCacheLimit(limit);
+    static const QRegularExpression neverBlurred("PE_Indicator(Check|Radio|Arrow)|CE_ProgressBar");
+    if (m_element.contains(neverBlurred))
+        QCOMPARE(finer, inPlace);
+
     const QStringList expectations = columns[2].trimmed().split("; ", Qt::SkipEmptyParts);
     const QStringList log = expectations.filter(QRegularExpression("^> "));
     for (const QString &expectation : expectations) {
         if (!expectation.startsWith("> ")) {
-            const QString message = fault(image, expectation);
+            const QString message = fault(expectation, image);
             QVERIFY2(message.isEmpty(), qPrintable(expectation + ": " + message));
         }
     }
-    if (!log.isEmpty()) {
-        m_recorder.log.clear();
-        const auto kept = QPixmapCache::cacheLimit();
-        QPixmapCache::setCacheLimit(0); // nothing is taken from there
-        picture(size, [&](QPainter &painter) {
-            draw(m_element.startsWith("PE_") ? *m_recorder.baseStyle() : m_recorder, painter);
-        });
-        QPixmapCache::setCacheLimit(kept);
+    if (!log.isEmpty())
         QCOMPARE("> " + m_recorder.log.join("; > "), log.join("; "));
-    }
-    const int ratio = qRound(qApp->devicePixelRatio());
     const bool isRecorded =
         !QtVersion::isQt6 && QSysInfo::buildCpuArchitecture() == "x86_64"; // by that raster engine
     if (columns.size() > 3 && isRecorded) {
@@ -412,75 +385,24 @@ void TestStyleElements::elements()
 /// Its places go by the font.
 void TestStyleElements::groupBox()
 {
-    auto option = makeOption<QStyleOptionGroupBox>(
-        QRect(0, 0, 200, 100), enabled | QStyle::State_On | QStyle::State_HasFocus);
+    auto option = makeOption<QStyleOptionGroupBox>(QRect(0, 0, 200, 100));
     option.text = QStringLiteral("Key");
-    const int height = option.fontMetrics.height();
+    const int above = qMax(14, option.fontMetrics.height());
     const QSize text = option.fontMetrics.boundingRect(option.text).size() + QSize(2, 2);
     const QRect label(QPoint(19, 1), text);
     const QRect box(1, qMax(0, (text.height() - 14) / 2), 14, 14);
-    const auto places = [&] {
-        QVector<QRect> rects;
-        for (auto part : {QStyle::SC_GroupBoxFrame, QStyle::SC_GroupBoxContents,
-                          QStyle::SC_GroupBoxLabel, QStyle::SC_GroupBoxCheckBox})
-            rects << m_style->subControlRect(QStyle::CC_GroupBox, &option, part);
-        return rects;
+    const auto place = [&](QStyle::SubControl part) {
+        return m_style->subControlRect(QStyle::CC_GroupBox, &option, part);
     };
-    const QRect contents(QPoint(3, qMax(14, height) + 6), QPoint(196, 96));
-    QCOMPARE(places(), (QVector<QRect>{option.rect, contents, label, box}));
-    m_recorder.log.clear();
-    picture([&](QPainter &painter) {
-        m_recorder.drawComplexControl(QStyle::CC_GroupBox, &option, &painter);
-    });
-    const QString state = " Enabled+On+HasFocus+Active";
-    QCOMPARE(
-        m_recorder.log,
-        QStringList({"PE_FrameGroupBox 0,0,200,100" + state, "text " + nameOf(label) + " 1 NoRole",
-                     "PE_FrameFocusRect " + nameOf(label.adjusted(-2, -1, 2, 1)) + state,
-                     "PE_IndicatorCheckBox " + nameOf(box) + state}));
+    QCOMPARE(place(QStyle::SC_GroupBoxFrame), option.rect);
+    QCOMPARE(place(QStyle::SC_GroupBoxContents), QRect(QPoint(3, above + 6), QPoint(196, 96)));
+    QCOMPARE(place(QStyle::SC_GroupBoxLabel), label);
+    QCOMPARE(place(QStyle::SC_GroupBoxCheckBox), box);
     option.direction = Qt::RightToLeft;
-    QCOMPARE(places().mid(2),
-             (QVector<QRect>{label.translated(162 - text.width(), 0), box.translated(184, 0)}));
+    QCOMPARE(place(QStyle::SC_GroupBoxLabel), label.translated(162 - text.width(), 0));
+    QCOMPARE(place(QStyle::SC_GroupBoxCheckBox), box.translated(184, 0));
     option.subControls = QStyle::SC_GroupBoxLabel;
-    QCOMPARE(places().at(2), QRect(QPoint(200 - text.width(), 1), text));
-
-    const auto frame = makeOption<QStyleOption>(QRect(0, 0, 60, 50));
-    QCOMPARE(painted(paint(QStyle::PE_FrameGroupBox, frame)).boundingRect(),
-             QRect(QPoint(1, qMax(14, height) + 4), QPoint(59, 49)));
-}
-
-/// Icon and text stand in the middle together.
-void TestStyleElements::labelWithIcon()
-{
-    auto option = makeOption<QStyleOptionButton>(QRect(0, 0, 100, 30));
-    option.text = QStringLiteral("Label");
-    option.icon = redIcon();
-    option.iconSize = QSize(16, 16);
-    const int flags = Qt::AlignVCenter | Qt::TextShowMnemonic;
-    const int width = option.fontMetrics.boundingRect(option.rect, flags, option.text).width();
-    const int left = 50 - (16 + width + 2) / 2;
-    QCOMPARE(logOf(QStyle::CE_PushButtonLabel, option).last(),
-             QStringLiteral("text %1,0,100,28 81 ButtonText").arg(left + 16));
-    option.direction = Qt::RightToLeft;
-    QCOMPARE(logOf(QStyle::CE_PushButtonLabel, option).last(),
-             QStringLiteral("text %1,0,100,28 81 ButtonText").arg(-left - 16 - 2));
-}
-
-void TestStyleElements::menuSeparatorWithText()
-{
-    auto option = makeOption<QStyleOptionMenuItem>(QRect(0, 0, 100, 21));
-    option.menuItemType = QStyleOptionMenuItem::Separator;
-    option.text = QStringLiteral("View");
-    const int width = option.fontMetrics.horizontalAdvance(option.text) + 5;
-    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-        option.direction = direction;
-        QCOMPARE(logOf(QStyle::CE_MenuItem, option).last(), "text 5,0,90,21 81 Text");
-        const QImage image = picture([&](QPainter &painter) {
-            m_recorder.drawControl(QStyle::CE_MenuItem, &option, &painter);
-        });
-        const int left = direction == Qt::LeftToRight ? 5 + width : 5;
-        QCOMPARE(painted(image), QRegion(left, 10, 90 - width, 1));
-    }
+    QCOMPARE(place(QStyle::SC_GroupBoxLabel), QRect(QPoint(200 - text.width(), 1), text));
 }
 
 /// As the toolkit would draw it, text and shortcut each in a place of its own.
@@ -493,40 +415,41 @@ void TestStyleElements::menuItemText()
     {
         const bool isSelected = look.contains("selected");
         const bool isEnabled = !look.contains("disabled");
-        const bool isMirrored = look.contains("mirrored");
         auto option = makeOption<QStyleOptionMenuItem>(QRect(3, 2, 115, 28),
                                                        isEnabled ? enabled : QStyle::State());
         option.state.setFlag(QStyle::State_Selected, isSelected);
         if (look == "default")
             option.menuItemType = QStyleOptionMenuItem::DefaultItem;
-        option.direction = isMirrored ? Qt::RightToLeft : Qt::LeftToRight;
+        option.direction = look.contains("mirrored") ? Qt::RightToLeft : Qt::LeftToRight;
         option.styleObject = look == "popup" ? &popupItem : nullptr;
         option.maxIconWidth = 22;
         QtVersion::setShortcutWidth(option, 24);
         option.font.setPixelSize(11);
         option.text = QStringLiteral("&Open\tF1\tF2");
 
-        const int column = look == "combobox" || look == "popup" ? 20 : 22;
-        const QRect text(3 + column + 7, 2 + 8, 115 - (column + 7) - 24 - 14, 28 - 16);
-        const QRect right(text.topRight(), QPoint(option.rect.right(), text.bottom()));
-        const QRect shortcut = QStyle::visualRect(option.direction, option.rect, right);
-        const int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic | Qt::TextDontClip
-                          | Qt::TextSingleLine;
+        const int left = look == "combobox" || look == "popup" ? 30 : 32;
+        const QRect text(left, 10, 80 - left, 12);
+        const QRect shortcut(79, 10, 39, 12);
+        const QColor color = option.palette.color(
+            isSelected && isEnabled ? QPalette::HighlightedText : QPalette::Text);
         const QImage expected = picture([&](QPainter &painter) {
             painter.setLayoutDirection(option.direction);
-            if (!isEnabled && !isSelected) {
-                painter.setPen(option.palette.color(QPalette::Light));
-                painter.drawText(shortcut.translated(1, 1), flags, QStringLiteral("F1\tF2"));
-            }
-            painter.setPen(option.palette.color(isSelected && isEnabled ? QPalette::HighlightedText
-                                                                        : QPalette::Text));
-            painter.drawText(shortcut, flags, QStringLiteral("F1\tF2"));
+            const auto draw = [&](const QRect &rect, const QString &words, const QColor &pen) {
+                painter.setPen(pen);
+                painter.drawText(QStyle::visualRect(option.direction, option.rect, rect),
+                                 Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic
+                                     | Qt::TextDontClip | Qt::TextSingleLine,
+                                 words);
+            };
+            if (!isEnabled && !isSelected)
+                draw(shortcut.translated(option.direction == Qt::LeftToRight ? 1 : -1, 1), "F1\tF2",
+                     option.palette.color(QPalette::Light));
+            draw(shortcut, "F1\tF2", color);
             QFont font = option.font;
             font.setPointSizeF(QFontInfo(font).pointSizeF());
             font.setBold(look == "default");
             painter.setFont(font);
-            painter.drawText(QStyle::visualRect(option.direction, option.rect, text), flags,
-                             QStringLiteral("&Open"));
+            draw(text, "&Open", color);
         });
         const QImage image = picture([&](QPainter &painter) {
             painter.setLayoutDirection(option.direction);
@@ -542,10 +465,13 @@ void TestStyleElements::rememberedScrollBar()
     QObject object;
     auto option = makeOption<QStyleOptionSlider>(QRect(0, 0, 200, 14));
     option.styleObject = &object;
+    const auto paint = [&](const QStyle &style) {
+        picture([&](QPainter &painter) {
+            style.drawComplexControl(QStyle::CC_ScrollBar, &option, &painter);
+        });
+    };
     m_recorder.isTransient = false;
-    picture([&](QPainter &painter) {
-        m_recorder.drawComplexControl(QStyle::CC_ScrollBar, &option, &painter);
-    });
+    paint(m_recorder);
     QVERIFY(object.dynamicPropertyNames().isEmpty());
     const std::function<void()> changes[] = {
         [&] { option.activeSubControls = QStyle::SC_ScrollBarSlider; },
@@ -557,7 +483,7 @@ void TestStyleElements::rememberedScrollBar()
         [&] { option.state |= QStyle::State_MouseOver; }};
     for (const auto &change : changes) {
         change();
-        paint(QStyle::CC_ScrollBar, option);
+        paint(*m_style);
         QVariantList kept;
         for (const char *name : {"pos", "min", "max", "rect", "state", "controls"})
             kept << object.property(QByteArray("_q_style") + name);
@@ -579,5 +505,90 @@ void TestStyleElements::sliderInAClip()
     QCOMPARE(shown.boundingRect().right(), 59);
 }
 
+/// Whatever a drawing depends on gives it a key of its own.
+void TestStyleElements::cacheKeys()
+{
+    QStyleOptionSlider slider;
+    slider.palette = m_theme.palette();
+    QStyleOptionSpinBox spinBox;
+    QSize size(20, 10);
+    QStringList keys = {StyleHelpers::styleCacheKey("x", nullptr, size)};
+    const auto add = [&](const QStyleOption &option) {
+        keys << StyleHelpers::styleCacheKey("x", &option, size);
+    };
+    add(slider);
+    const std::function<void()> changes[] = {
+        [&] { size = QSize(10, 20); },
+        [&] { size.rwidth() += 0x10000; },
+        [&] { slider.state = QStyle::State_Window; }, // a high bit
+        [&] { slider.direction = Qt::RightToLeft; },
+        [&] { slider.activeSubControls = QStyle::SC_SliderHandle; },
+        [&] { slider.palette.setColor(QPalette::Text, Qt::red); },
+        [&] { slider.palette.setCurrentColorGroup(QPalette::Disabled); }};
+    for (const auto &change : changes) {
+        change();
+        add(slider);
+    }
+    for (int i = 0; i < 8; ++i) {
+        spinBox.frame = i & 1;
+        spinBox.stepEnabled = QAbstractSpinBox::StepEnabled(i & 2);
+        spinBox.buttonSymbols = QAbstractSpinBox::ButtonSymbols(i / 4);
+        add(spinBox);
+    }
+    QCOMPARE(keys.removeDuplicates(), 0);
+}
+
+/// Three units to the right are three units down for a painter turned by 90 degrees.
+void TestStyleElements::paintedOnceOrInPlace()
+{
+    int calls = 0;
+    const auto paint = [&](QPainter *painter) {
+        ++calls;
+        painter->fillRect(0, 0, 3, 1, Qt::red);
+    };
+    const QImage image = picture([&](QPainter &painter) {
+        for (const QPoint &place : {QPoint(1, 1), QPoint(6, 8)})
+            StyleHelpers::drawCached(&painter, place, "once", QSize(3, 1), paint);
+        StyleHelpers::drawCached(&painter, QPoint(), "none", QSize(0, 5), paint);
+        QCOMPARE(calls, 1);
+        StyleHelpers::drawCached(&painter, QPoint(0, 6), "huge", QSize(1000000, 1000000), paint);
+        painter.rotate(90);
+        StyleHelpers::drawCachedUnlessTransformed(&painter, QPoint(2, -6), "turned", QSize(3, 1),
+                                                  paint);
+    });
+    QCOMPARE(painted(image),
+             QRegion(1, 1, 3, 1) + QRect(6, 8, 3, 1) + QRect(0, 6, 3, 1) + QRect(5, 2, 1, 3));
+}
+
+/// The toolkit's arrow, or the style's own where that is missing: an upright triangle.
+void TestStyleElements::colorizedImages()
+{
+    const auto arrow = [](int rotation) {
+        return StyleHelpers::colorizedImage(StyleHelpers::arrowImageFileName(),
+                                            QColor(200, 150, 100), rotation)
+            .toImage();
+    };
+    const QImage up = arrow(0);
+    QVERIFY(up.width() >= up.height());
+    COMPARE_PIXEL(up, up.width() / 2, up.height() - 2, QColor(200, 150, 100));
+    QCOMPARE(arrow(180), up.mirrored(true, true));
+    QCOMPARE(arrow(-90), up.transformed(QTransform().rotate(-90)));
+    QVERIFY(StyleHelpers::colorizedImage(QStringLiteral(":/no/such.png"), Qt::red).isNull());
+
+    QTemporaryDir directory;
+    const QString fileName = directory.filePath(QStringLiteral("channels.png"));
+    QImage source(2, 1, QImage::Format_ARGB32);
+    source.setPixelColor(0, 0, QColor(0, 40, 255)); // all of the colour, on grey
+    source.setPixelColor(1, 0, QColor(30, 60, 30)); // grey alone
+    QVERIFY(source.save(fileName));
+    const QImage image = StyleHelpers::colorizedImage(fileName, QColor(100, 50, 250)).toImage();
+    COMPARE_PIXEL(image, 0, 0, QColor(140, 90, (40 + 250) % 256));
+    COMPARE_PIXEL(image, 1, 0, QColor(60, 60, 60));
+    // No channel exceeds the alpha of a translucent colour.
+    const QImage faint = StyleHelpers::colorizedImage(fileName, QColor(100, 50, 200, 80)).toImage();
+    QCOMPARE(faint.convertToFormat(QImage::Format_ARGB32_Premultiplied).pixelColor(0, 0).alpha(),
+             80);
+}
+
 NOCTURNE_TEST_MAIN(TestStyleElements)
-#include "tst_style_elements.moc"
+#include "tst_style_elements_internals.moc"
