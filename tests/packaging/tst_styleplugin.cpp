@@ -28,31 +28,21 @@ class TestStylePlugin : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!QFileInfo::exists(pluginPath))
-            QSKIP("The plugins are not part of this build");
-        QCoreApplication::addLibraryPath(pluginPath);
-    }
+    void initTestCase() { QCoreApplication::addLibraryPath(pluginPath); }
 
     void cleanup() { QVERIFY(!DarkUX::getInstancePtr()); }
 
-    void keys()
+    void stylesByName()
     {
-        QVERIFY(QStyleFactory::keys().contains("DarkFusion"));
         const std::unique_ptr<QStyle> style(QStyleFactory::create("darkfusion"));
         QVERIFY(qobject_cast<DarkFusionStyle *>(style.get()));
-
+        const QPalette palette = style->standardPalette();
         // Not the static part of this program, so known by its name only.
         const std::unique_ptr<QStyle> readable(QStyleFactory::create("darkfusionreadable"));
         QVERIFY(readable && readable->inherits("DarkReadableStyle"));
-        QCOMPARE(readable->standardPalette(), DarkReadableStyle::palette(style->standardPalette()));
-    }
+        QCOMPARE(readable->standardPalette(), DarkReadableStyle::palette(palette));
 
-    void paletteOfTheTheme()
-    {
-        const std::unique_ptr<QStyle> style(QStyleFactory::create("DarkFusion"));
-        const QPalette palette = style->standardPalette();
+        // They brought no theme along, and follow one that comes.
         QVERIFY(!DarkUX::getInstancePtr());
         DarkUX theme;
         const std::unique_ptr<QStyle> themeStyle(theme.style());
@@ -68,11 +58,9 @@ private Q_SLOTS:
     {
         QApplication::setStyle("DarkFusion");
         QPalette expected = QApplication::style()->standardPalette();
-        for (int round = 0; round < 2; ++round) {
+        for (auto group : {QPalette::Active, QPalette::Disabled}) {
             for (auto role : {QPalette::Window, QPalette::Text, QPalette::Highlight})
-                QCOMPARE(QApplication::palette().color(role), expected.color(role));
-            QCOMPARE(QApplication::palette().color(QPalette::Disabled, QPalette::Text),
-                     expected.color(QPalette::Disabled, QPalette::Text));
+                QCOMPARE(QApplication::palette().color(group, role), expected.color(group, role));
             QPalette own;
             own.setColor(QPalette::Highlight, Qt::red);
             expected.setColor(QPalette::Highlight, Qt::red);
@@ -94,10 +82,10 @@ private Q_SLOTS:
             style->polish(widget);
         }
         QCOMPARE(other.palette(), paper);
+        paper.setColor(QPalette::Base, Qt::white);
+        paper.setColor(QPalette::Text, Qt::black);
         for (auto role : {QPalette::Window, QPalette::Base, QPalette::Text})
-            QCOMPARE(view.palette().color(role), role == QPalette::Base   ? QColor(Qt::white)
-                                                 : role == QPalette::Text ? QColor(Qt::black)
-                                                                          : paper.color(role));
+            QCOMPARE(view.palette().color(role), paper.color(role));
     }
 
     void hostWithoutTheLibrary()
@@ -109,7 +97,7 @@ private Q_SLOTS:
             environment.insert("QT_PLUGIN_PATH", path);
             QProcess host;
             host.setProcessEnvironment(environment);
-            host.start(NOCTURNE_BUILD_DIR "/bin/nocturne-loadprobe", QStringList());
+            host.start(NOCTURNE_BUILD_DIR "/bin/nocturne-loadprobe", {});
             QVERIFY(host.waitForFinished());
             const int lightness = host.readAll().trimmed().toInt();
             QVERIFY2(path.isEmpty() ? lightness > 150 : lightness < 60 && lightness > 0,
