@@ -5,6 +5,8 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QPushButton>
 
 #include <functional>
 
@@ -20,6 +22,11 @@ void whenOpen(const std::function<void(Dialog *)> &work)
         if (dialog && dialog->isVisible())
             dialog->reject();
     });
+}
+
+inline void clickButton(QDialog *dialog, QDialogButtonBox::StandardButton which)
+{
+    QTest::mouseClick(dialog->findChild<QDialogButtonBox *>()->button(which), Qt::LeftButton);
 }
 
 #endif

@@ -3,11 +3,6 @@
 
 #include "testsupport.h"
 
-#include <functional>
-
-using MakeWidget = std::function<QWidget *()>;
-Q_DECLARE_METATYPE(MakeWidget)
-
 namespace TestSupport {
 
 /// The colour that \a text stands for: one of the theme's or one of the toolkit's, changed from
@@ -61,57 +56,6 @@ inline void compareProbes(const QImage &image, const QString &probes)
         for (const QString &point : words.mid(1)) {
             COMPARE_PIXEL(image, point.section(',', 0, 0).toInt(), point.section(',', 1).toInt(),
                           blended(probeColor(words.first()), Qt::transparent));
-        }
-    }
-}
-
-/// Makes a widget of that class with these properties, and has \a finish done to it.
-template <typename Class>
-MakeWidget made(const QSize &size, const QVector<QPair<const char *, QVariant>> &properties = {},
-                const std::function<void(Class *)> &finish = {})
-{
-    return [=] {
-        auto *widget = new Class;
-        widget->resize(size);
-        for (const auto &property : properties)
-            widget->setProperty(property.first, property.second);
-        if (finish)
-            finish(widget);
-        return widget;
-    };
-}
-
-/// What \a make has to paint, without its children, at one and two device pixels per unit.
-inline void addPainting(const QString &name, const MakeWidget &make, const QString &at1,
-                        const QString &at2 = {})
-{
-    QTest::newRow(qPrintable(name)) << make << at1 << at2;
-}
-
-inline void addPaintingColumns()
-{
-    QTest::addColumn<MakeWidget>("make");
-    QTest::addColumn<QString>("at1");
-    QTest::addColumn<QString>("at2");
-}
-
-/// Compares such a row. Enabled and disabled look the same.
-inline void comparePainting()
-{
-    QFETCH(MakeWidget, make);
-    QFETCH(QString, at1);
-    QFETCH(QString, at2);
-    const std::unique_ptr<QWidget> widget(make());
-    for (bool enabled : {true, false}) {
-        widget->setEnabled(enabled);
-        for (int ratio : {1, 2}) {
-            const QImage image = paintOn(
-                widget->size(), Qt::transparent,
-                [&](QPainter &painter) {
-                    widget->render(&painter, QPoint(), QRegion(), QWidget::RenderFlags());
-                },
-                ratio);
-            compareProbes(image, ratio == 1 ? at1 : at2);
         }
     }
 }

@@ -3,95 +3,21 @@
 
 #include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
-#include <nocturne/Frame>
 #include <nocturne/GroupBox>
 #include <nocturne/LetterBoxWidget>
-#include <nocturne/LineEdit>
 #include <nocturne/ListView>
 #include <nocturne/Menu>
 #include <nocturne/Splitter>
 #include <nocturne/SplitterHandle>
-#include <nocturne/StatusBar>
 #include <nocturne/TabBar>
 #include <nocturne/TabWidget>
 #include <nocturne/Widget>
 
 #include <QtCore/QStringListModel>
-#include <QtWidgets/QProxyStyle>
 
-using TestSupport::addPainting;
 using TestSupport::compareProbes;
-using TestSupport::count;
-using TestSupport::made;
-using Points = QVector<QPoint>;
 
 namespace {
-
-const QColor caption(0xbb, 0xbb, 0xbb);
-const QColor disabledCaption(0x63, 0x63, 0x63);
-const QColor highlightedCaption(0xed, 0x6e, 0x00);
-
-MakeWidget frame(QFrame::Shape shape, QFrame::Shadow shadow)
-{
-    return made<Frame>({40, 20}, {{"frameShape", shape}, {"frameShadow", shadow}});
-}
-
-MakeWidget groupBox(bool checkable, bool checked, Qt::LayoutDirection direction = Qt::LeftToRight)
-{
-    return made<GroupBox>(
-        {160, 60},
-        {{"checkable", checkable}, {"checked", checked}, {"layoutDirection", direction}});
-}
-
-/// With these tabs, and pages that do not cover what the widget paints.
-MakeWidget tabWidget(const QString &tabs)
-{
-    return made<TabWidget>({400, 60}, {}, [tabs](TabWidget *widget) {
-        for (const QString &text : tabs.split(','))
-            widget->addTab(new QWidget, text);
-        widget->ensurePolished();
-    });
-}
-
-MakeWidget tabBar(const QString &tabs)
-{
-    return made<TabBar>({400, 30}, {}, [tabs](TabBar *bar) {
-        for (const QString &text : tabs.split(','))
-            bar->addTab(text);
-    });
-}
-
-template <typename Class>
-std::unique_ptr<Class> built(const MakeWidget &make)
-{
-    return std::unique_ptr<Class>(static_cast<Class *>(make()));
-}
-
-/// The contents of a line edit end two units above the lower edge under this style, which paints
-/// nothing behind them.
-class InsetStyle : public QProxyStyle
-{
-public:
-    QRect subElementRect(SubElement element, const QStyleOption *option,
-                         const QWidget *widget) const override
-    {
-        return element == SE_LineEditContents
-                   ? option->rect.adjusted(1, 1, -1, -2)
-                   : QProxyStyle::subElementRect(element, option, widget);
-    }
-    void drawPrimitive(PrimitiveElement, const QStyleOption *, QPainter *,
-                       const QWidget *) const override
-    {}
-};
-
-QWidget *lineEdit()
-{
-    static InsetStyle style;
-    auto *edit = new LineEdit;
-    edit->resize(80, 24);
-    edit->setStyle(&style);
-    return edit;
-}
 
 /// What a letter box holds.
 class Child : public QWidget
@@ -119,132 +45,75 @@ private Q_SLOTS:
         QApplication::setPalette(QPalette(Qt::red, Qt::green));
     }
 
-    // At ratio 1 an antialiased outline lies half on either side of its edge; at ratio 2 it covers
-    // the outermost device pixels.
-    void paints_data()
-    {
-        TestSupport::addPaintingColumns();
-        addPainting(
-            "plain frame", frame(QFrame::NoFrame, QFrame::Plain),
-            "black/128|w-7 20,0 0,10; w-7 1,1 20,17 38,10; w+18 2,19 38,19; black/128 1,19 39,19",
-            "black 40,0 0,20 79,20 77,38; w-7 1,1 40,36; w+18 40,37 40,38 3,38 76,38");
-        addPainting("raised frame", frame(QFrame::Panel, QFrame::Raised),
-                    "w-7 20,18; w+23 2,1 37,1; w+10 1,1 38,1",
-                    "w+9 40,3; black 40,0 40,39; w+23 3,1; w+10 2,2");
-        addPainting("sunken frame", frame(QFrame::StyledPanel, QFrame::Sunken),
-                    "w+0 0,0; w+3 0,4; w+5 0,7; w+2 0,12; w-3 0,19");
-        addPainting("box", frame(QFrame::Box, QFrame::Raised), "black 0,0 39,19; none 1,1 38,18");
-        addPainting("rule", frame(QFrame::HLine, QFrame::Sunken),
-                    "none 20,0 20,2; black/128 0,1 39,1");
-        addPainting("widget", made<Widget>({20, 20}), "w+0 0,0 19,19");
-        addPainting("letter box", made<LetterBoxWidget>({20, 20}), "w-10 10,10");
-        addPainting("splitter", made<Splitter>({20, 20}), "none 10,10");
-        addPainting("status bar", made<StatusBar>({100, 40}),
-                    "w+0 0,0 99,0; w-4 0,20 20,20; w-7 0,39", "w-3 0,30 150,30; w-7 150,79");
-        addPainting("line edit", lineEdit,
-                    "w-11 40,1 1,12 78,12 40,21; w+33/96 40,22 5,22 74,22; "
-                    "none 40,0 0,12 79,12 4,22 75,22 40,23 1,1",
-                    "w-11 80,2 157,24 80,42; w+33/96 80,44; none 80,1 80,46 8,44 2,2");
-        addPainting("tab bar", tabBar(",M"),
-                    "w-8 100,1; w-11 100,10; w-16 100,27; black/128|w-8 100,0; black/128 100,28; "
-                    "none 100,29",
-                    "w-11 200,20; w-14 200,40; black/128 200,56; none 200,57");
-        addPainting("selected tab", tabBar(" ,"),
-                    "w+10 50,4; w+7 50,11; w+0 50,29; w-11 3,10; w+7 5,11");
-        addPainting("tab widget", tabWidget(",A"),
-                    "none 0,40 399,40 200,58; w+0 1,40 398,40 200,57", "none 1,80; w+0 2,80");
-        addPainting("one textless tab", tabWidget(""),
-                    "black 0,45 1,59; w+20/128 2,59; w+20/128|w+0 2,45; w+0 3,45; none 3,59",
-                    "black 0,90 2,90; w+0 5,90; w+20/128|w+0 3,90 4,90");
-        addPainting("group box", groupBox(false, false), "none 12,12 80,30 0,0");
-        addPainting("unchecked group box", groupBox(true, false),
-                    "w-5 12,12 12,5 5,12 19,12 12,19; none 12,4 4,12 20,12 12,20 80,28 80,31",
-                    "w-5 24,24 24,10 39,24; w+5 20,59 300,60 1,60; none 24,9 40,24 20,58 300,61");
-        addPainting("checked group box", groupBox(true, true),
-                    "w-5 12,5 12,6 6,12 18,12 12,18; #419bf9 12,7 7,12 17,12 12,17");
-        addPainting("mirrored group box", groupBox(true, true, Qt::RightToLeft),
-                    "#419bf9 142,12 152,12; w-5 140,12 154,12; none 12,12 139,12 155,12");
-    }
-
-    void paints() { TestSupport::comparePainting(); }
-
-    void captions()
-    {
-        for (auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-            const auto box = built<GroupBox>(groupBox(false, false, direction));
-            box->setTitle("MMMMMMMMMMMMMMMMMMMMMMMM");
-            for (bool enabled : {true, false}) {
-                box->setEnabled(enabled);
-                const QImage image = TestSupport::render(*box);
-                const QRect title(direction == Qt::RightToLeft ? 35 : 25, 0, 100, 25);
-                QVERIFY(count(image, title, enabled ? caption : disabledCaption) > 100);
-                QCOMPARE(count(image, image.rect(), Qt::transparent)
-                             - count(image, title, Qt::transparent),
-                         160 * 60 - 100 * 25);
-            }
-        }
-    }
-
     /// Everywhere on the painted square, and on the title.
     void groupBoxIsClicked()
     {
         for (auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-            const auto box = built<GroupBox>(groupBox(true, false, direction));
-            box->setTitle("Title");
-            QVERIFY(TestSupport::showExposed(box.get()));
-            QSignalSpy toggled(box.get(), &GroupBox::toggled);
+            GroupBox box;
+            box.resize(160, 60);
+            box.setCheckable(true);
+            box.setTitle("Title");
+            box.setLayoutDirection(direction);
+            QVERIFY(TestSupport::showExposed(&box));
+            QSignalSpy toggled(&box, &GroupBox::toggled);
             const auto clickToggles = [&](QPoint from, QPoint to) {
                 toggled.clear();
                 for (QPoint *place : {&from, &to})
                     place->setX(direction == Qt::RightToLeft ? 159 - place->x() : place->x());
-                QTest::mousePress(box.get(), Qt::LeftButton, {}, from);
-                QTest::mouseRelease(box.get(), Qt::LeftButton, {}, to);
+                QTest::mousePress(&box, Qt::LeftButton, {}, from);
+                QTest::mouseRelease(&box, Qt::LeftButton, {}, to);
                 return toggled.count() == 1;
             };
-            for (const QPoint &hit : Points{{5, 5}, {19, 5}, {12, 12}, {5, 19}, {19, 19}, {30, 12}})
+            const QPoint corner(19, 19);
+            for (const QPoint &hit : {QPoint(5, 5), {19, 5}, {5, 19}, corner, {30, 12}})
                 QVERIFY(clickToggles(hit, hit));
-            for (const QPoint &miss : Points{{12, 40}, {150, 12}}) {
-                QVERIFY(!clickToggles(miss, miss) && !clickToggles(miss, {19, 19}));
-                QVERIFY(!clickToggles({19, 19}, miss));
-            }
-            box->setCheckable(false);
-            QVERIFY(!clickToggles({19, 19}, {19, 19}));
+            for (const QPoint &miss : {QPoint(12, 40), {150, 12}})
+                QVERIFY(!clickToggles(miss, corner) && !clickToggles(corner, miss));
+            box.setCheckable(false);
+            QVERIFY(!clickToggles(corner, corner));
         }
     }
 
+    /// That of the current tab and of the one under it.
     void tabCaptionsFollowTheMouse()
     {
-        const auto bar = built<TabBar>(tabBar("MMM,MMM,"));
-        QVERIFY(TestSupport::showExposed(bar.get()));
-        const auto isLit = [&](int tab, const QColor &color) {
-            return count(TestSupport::render(*bar), bar->tabRect(tab), color) > 5;
+        TabBar bar;
+        for (const char *text : {"MMM", "MMM", ""})
+            bar.addTab(text);
+        QVERIFY(TestSupport::showExposed(&bar));
+        const auto lit = [&bar] {
+            QVector<bool> lit;
+            for (int tab : {0, 1}) {
+                const QImage image = TestSupport::render(bar);
+                lit << (TestSupport::count(image, bar.tabRect(tab), 0xffed6e00) > 5);
+                lit << (TestSupport::count(image, bar.tabRect(tab), 0xffbbbbbb) > 5);
+            }
+            return lit;
         };
-        QVERIFY(isLit(0, highlightedCaption));
-        QVERIFY(isLit(1, caption) && !isLit(1, highlightedCaption));
-        const QPoint second = bar->tabRect(1).center();
-        QTest::mouseMove(bar.get(), second);
-        QTRY_VERIFY(isLit(1, highlightedCaption));
-        QTest::mouseClick(bar.get(), Qt::LeftButton, {}, second);
-        QTest::mouseMove(bar.get(), bar->tabRect(2).center());
-        QTRY_VERIFY(isLit(0, caption));
-        QVERIFY(isLit(1, highlightedCaption));
+        const QPoint second = bar.tabRect(1).center();
+        QCOMPARE(lit(), QVector<bool>({true, false, false, true}));
+        QTest::mouseMove(&bar, second);
+        QTRY_COMPARE(lit(), QVector<bool>({true, false, true, false}));
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, second);
+        QTest::mouseMove(&bar, bar.tabRect(2).center());
+        QTRY_COMPARE(lit(), QVector<bool>({false, true, true, false}));
     }
 
     void tabWidths()
     {
-        const auto bar = built<TabBar>(tabBar("Media,Longer than its tab is wide,"));
-        QVERIFY(TestSupport::showExposed(bar.get()));
+        TabWidget tabs;
+        tabs.resize(400, 60);
+        for (const char *text : {"Media", "Longer than its tab is wide", ""})
+            tabs.addTab(new QWidget, text);
+        auto *bar = tabs.findChild<TabBar *>();
+        QVERIFY(TestSupport::showExposed(&tabs));
         QVERIFY(bar->tabRect(2).width() >= 212);
-        bar->removeTab(2);
-        bar->adjustSize();
+        tabs.removeTab(2);
         QCOMPARE(bar->tabRect(1), QRect(90, 0, 90, 30));
-        bar->setWidth(120);
+        tabs.setTabBarWidth(120);
         QCOMPARE(bar->tabRect(1), QRect(120, 0, 120, 30));
-        QCOMPARE(bar->width(), 240);
-        const auto tabs = built<TabWidget>(tabWidget("Media,Audio"));
-        tabs->setTabBarWidth(120);
-        QVERIFY(TestSupport::showExposed(tabs.get()));
-        QCOMPARE(tabs->findChild<TabBar *>()->tabRect(1), QRect(120, 0, 120, 30));
+        bar->setWidth(130);
+        QCOMPARE(bar->tabRect(1), QRect(130, 0, 130, 30));
     }
 
     void splitterHandle()
@@ -260,17 +129,18 @@ private Q_SLOTS:
         QVERIFY(handle && handle->hasMouseTracking());
         compareProbes(TestSupport::render(*handle), "w+0 0,0 9,99");
 
-        QSignalSpy pressed(handle, &SplitterHandle::handlePressed);
-        QSignalSpy released(handle, &SplitterHandle::handleReleased);
+        QStringList heard;
+        connect(handle, &SplitterHandle::handlePressed, this, [&heard] { heard << "pressed"; });
+        connect(handle, &SplitterHandle::handleReleased, this, [&heard] { heard << "released"; });
         const QList<int> before = splitter.sizes();
         // A button held since before the pointer came over the handle does not drag it.
         TestSupport::sendDrag(handle, QPoint(60, 50));
         QCOMPARE(splitter.sizes(), before);
         QTest::mousePress(handle, Qt::LeftButton, {}, QPoint(5, 50));
-        QVERIFY(pressed.count() == 1 && released.count() == 0);
         TestSupport::sendDrag(handle, QPoint(55, 50));
+        QCOMPARE(heard, QStringList{"pressed"});
         QTest::mouseRelease(handle, Qt::LeftButton, {}, QPoint(5, 50));
-        QVERIFY(pressed.count() == 1 && released.count() == 1);
+        QCOMPARE(heard, QStringList({"pressed", "released"}));
         TestSupport::sendDrag(handle, QPoint(-60, 50));
         QCOMPARE(splitter.sizes(), QList<int>({before.at(0) + 50, before.at(1) - 50}));
 
@@ -336,7 +206,6 @@ private Q_SLOTS:
         };
         QCOMPARE(childOf({1000, 500}, {16, 9}, 1), QRect(57, 1, 886, 498));
         QCOMPARE(childOf({160, 500}, {16, 9}, 0), QRect(0, 205, 160, 90));
-        QCOMPARE(childOf({300, 200}, {}, 10), QRect(10, 10, 280, 180));
         QCOMPARE(childOf({300, 200}, {16, 0}, 10), QRect(10, 10, 280, 180)); // half a ratio
         QCOMPARE(childOf({0, 0}, {16, 9}, 1).size(), QSize(0, 0));
         QCOMPARE(childOf({10000, 10}, {4, 3}, 0), QRect(4994, 0, 13, 10));
@@ -370,13 +239,14 @@ private Q_SLOTS:
     {
         LetterBoxWidget box;
         const QPointer<QWidget> first(new Child(QSize(1, 1)));
-        box.setWidget(first);
-        box.setWidget(first);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(first && first->parentWidget() == &box);
+        for (int i = 0; i < 2; ++i) {
+            box.setWidget(first);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QVERIFY(first && first->parentWidget() == &box);
+        }
         const QPointer<QWidget> second(new Child(QSize(1, 1)));
         box.setWidget(second);
-        QVERIFY(first);
+        QVERIFY(first); // until control returns
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!first);
         delete second;

@@ -5,7 +5,6 @@
 #include <nocturne/GradientTool>
 
 #include <QtWidgets/QColorDialog>
-#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QPushButton>
 
 #include <utility>
@@ -58,11 +57,6 @@ public:
 private:
     QImage m_seen;
 };
-
-void clickButton(QColorDialog *dialog, QDialogButtonBox::StandardButton which)
-{
-    QTest::mouseClick(dialog->findChild<QDialogButtonBox *>()->button(which), Qt::LeftButton);
-}
 
 } // namespace
 

@@ -1,0 +1,163 @@
+#include "gestures.h"
+#include "probes.h"
+
+#include <nocturne/CheckBox>
+#include <nocturne/ColorBar>
+#include <nocturne/ColorButton>
+#include <nocturne/DarkFusionStyle>
+#include <nocturne/DarkUX>
+#include <nocturne/Frame>
+#include <nocturne/GroupBox>
+#include <nocturne/LetterBoxWidget>
+#include <nocturne/LineEdit>
+#include <nocturne/ProgressBar>
+#include <nocturne/ProgressIndicator>
+#include <nocturne/RadioButton>
+#include <nocturne/RoundProgressBar>
+#include <nocturne/SlideCheckBox>
+#include <nocturne/Splitter>
+#include <nocturne/StatusBar>
+#include <nocturne/TabBar>
+#include <nocturne/TabWidget>
+#include <nocturne/Widget>
+
+#include <QtWidgets/QProxyStyle>
+
+#include <functional>
+#include <memory>
+
+// What widgets paint, pixel by pixel.
+
+namespace {
+
+/// The contents of a line edit end two units above the lower edge under this style, which paints
+/// nothing behind them.
+class InsetStyle : public QProxyStyle
+{
+public:
+    QRect subElementRect(SubElement element, const QStyleOption *option,
+                         const QWidget *widget) const override
+    {
+        return element == SE_LineEditContents
+                   ? option->rect.adjusted(1, 1, -1, -2)
+                   : QProxyStyle::subElementRect(element, option, widget);
+    }
+    void drawPrimitive(PrimitiveElement, const QStyleOption *, QPainter *,
+                       const QWidget *) const override
+    {}
+};
+
+using Setting = std::function<void(QWidget *, const QString &)>;
+
+/// What is said of a widget besides its properties.
+const QHash<QString, Setting> settings = {
+    {"tabs",
+     [](QWidget *widget, const QString &names) {
+         for (const QString &name : names.split(',')) {
+             if (auto *bar = qobject_cast<TabBar *>(widget))
+                 bar->addTab(name);
+             else // and a page that covers nothing of what is painted
+                 static_cast<TabWidget *>(widget)->addTab(new QWidget, name);
+         }
+         widget->ensurePolished();
+     }},
+    {"checkState",
+     [](QWidget *widget, const QString &state) {
+         static_cast<CheckBox *>(widget)->setCheckState(Qt::CheckState(state.toInt()));
+     }},
+    // The widths are those of a ring with the color of the line and the pie.
+    {"highlight", [](QWidget *widget, const QString &color) {
+         static_cast<RoundProgressBar *>(widget)->setTitle({}, QFont(), QFont(), 0, false);
+         widget->setPalette(QPalette({}, {}, {}, {}, {}, Qt::black, QColor(color)));
+     }}};
+
+template <typename Class>
+QWidget *make()
+{
+    return new Class;
+}
+
+const QHash<QString, QWidget *(*)()> classes = {{"CheckBox", make<CheckBox>},
+                                                {"ColorBar", make<ColorBar>},
+                                                {"ColorButton", make<ColorButton>},
+                                                {"Frame", make<Frame>},
+                                                {"GroupBox", make<GroupBox>},
+                                                {"LetterBoxWidget", make<LetterBoxWidget>},
+                                                {"LineEdit", make<LineEdit>},
+                                                {"ProgressBar", make<ProgressBar>},
+                                                {"ProgressIndicator", make<ProgressIndicator>},
+                                                {"RadioButton", make<RadioButton>},
+                                                {"RoundProgressBar", make<RoundProgressBar>},
+                                                {"SlideCheckBox", make<SlideCheckBox>},
+                                                {"Splitter", make<Splitter>},
+                                                {"StatusBar", make<StatusBar>},
+                                                {"TabBar", make<TabBar>},
+                                                {"TabWidget", make<TabWidget>},
+                                                {"Widget", make<Widget>}};
+
+} // namespace
+
+class TestPainting : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QApplication::setStyle(m_theme.style());
+        // The colors are the theme's, not those of the application.
+        QApplication::setPalette(QPalette(Qt::red, Qt::green));
+    }
+
+    void paints_data()
+    {
+        QTest::addColumn<QStringList>("words");
+        QTest::addColumn<QStringList>("probes");
+        for (const QString &paragraph : TestSupport::paragraphsOf("painting.txt")) {
+            const QStringList parts = paragraph.split(" => ");
+            QTest::newRow(qPrintable(parts[0])) << parts[0].split(' ') << QStringList(parts.mid(1));
+        }
+    }
+
+    /// At one and two device pixels per unit. Enabled and disabled look the same if nothing else is
+    /// said.
+    void paints()
+    {
+        QFETCH(QStringList, words);
+        QFETCH(QStringList, probes);
+        const std::unique_ptr<QWidget> widget(classes[words.takeFirst()]());
+        const QStringList size = words.takeFirst().split('x');
+        widget->resize(size[0].toInt(), size[1].toInt());
+        for (const QString &word : words) {
+            const QString name = word.section('=', 0, 0);
+            const QString value = word.section('=', 1);
+            if (settings.contains(name))
+                settings[name](widget.get(), value);
+            else
+                QVERIFY(widget->setProperty(name.toLatin1(), value));
+        }
+        if (widget->inherits("LineEdit"))
+            widget->setStyle(&m_insetStyle);
+        const bool isSaid = !words.filter("enabled=").isEmpty();
+        for (bool changed : isSaid ? QVector<bool>{false} : QVector<bool>{false, true}) {
+            widget->setEnabled(widget->isEnabled() != changed);
+            for (int i = 0; i < probes.size(); ++i) {
+                const QImage image = TestSupport::paintOn(
+                    widget->size(), Qt::transparent,
+                    [&](QPainter &painter) {
+                        widget->render(&painter, {}, {}, QWidget::RenderFlags());
+                    },
+                    i + 1);
+                TestSupport::compareProbes(image, probes[i]);
+            }
+        }
+    }
+
+private:
+    DarkUX m_theme;
+    InsetStyle m_insetStyle;
+};
+
+NOCTURNE_TEST_MAIN(TestPainting)
+
+#include "tst_painting.moc"
