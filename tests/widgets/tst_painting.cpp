@@ -7,14 +7,17 @@
 #include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
 #include <nocturne/Frame>
+#include <nocturne/GradientTool>
 #include <nocturne/GroupBox>
 #include <nocturne/LetterBoxWidget>
 #include <nocturne/LineEdit>
 #include <nocturne/ProgressBar>
 #include <nocturne/ProgressIndicator>
 #include <nocturne/RadioButton>
+#include <nocturne/RangeSlider>
 #include <nocturne/RoundProgressBar>
 #include <nocturne/SlideCheckBox>
+#include <nocturne/SpanSlider>
 #include <nocturne/Splitter>
 #include <nocturne/StatusBar>
 #include <nocturne/TabBar>
@@ -30,11 +33,14 @@
 
 namespace {
 
-/// The contents of a line edit end two units above the lower edge under this style, which paints
-/// nothing behind them.
-class InsetStyle : public QProxyStyle
+/// Paints blue handles and nothing else. The contents of a line edit end two units above its lower
+/// edge.
+class BareStyle : public QProxyStyle
 {
 public:
+    BareStyle()
+        : QProxyStyle("fusion")
+    {}
     QRect subElementRect(SubElement element, const QStyleOption *option,
                          const QWidget *widget) const override
     {
@@ -45,6 +51,12 @@ public:
     void drawPrimitive(PrimitiveElement, const QStyleOption *, QPainter *,
                        const QWidget *) const override
     {}
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                            QPainter *painter, const QWidget *widget) const override
+    {
+        if (option->subControls & SC_SliderHandle)
+            painter->fillRect(subControlRect(control, option, SC_SliderHandle, widget), Qt::blue);
+    }
 };
 
 using Setting = std::function<void(QWidget *, const QString &)>;
@@ -65,8 +77,13 @@ const QHash<QString, Setting> settings = {
      [](QWidget *widget, const QString &state) {
          static_cast<CheckBox *>(widget)->setCheckState(Qt::CheckState(state.toInt()));
      }},
-    // The widths are those of a ring with the color of the line and the pie.
-    {"highlight", [](QWidget *widget, const QString &color) {
+    {"ramp",
+     [](QWidget *widget, const QString &ends) {
+         static_cast<GradientTool *>(widget)->setRamp(
+             {{0, QColor(ends.section(',', 0, 0))}, {1, QColor(ends.section(',', 1))}});
+     }},
+    // That of a ring without texts.
+    {"base", [](QWidget *widget, const QString &color) {
          static_cast<RoundProgressBar *>(widget)->setTitle({}, QFont(), QFont(), 0, false);
          widget->setPalette(QPalette({}, {}, {}, {}, {}, Qt::black, QColor(color)));
      }}};
@@ -74,21 +91,27 @@ const QHash<QString, Setting> settings = {
 template <typename Class>
 QWidget *make()
 {
-    return new Class;
+    if constexpr (std::is_base_of_v<QSlider, Class>)
+        return new Class(Qt::Horizontal);
+    else
+        return new Class;
 }
 
 const QHash<QString, QWidget *(*)()> classes = {{"CheckBox", make<CheckBox>},
                                                 {"ColorBar", make<ColorBar>},
                                                 {"ColorButton", make<ColorButton>},
                                                 {"Frame", make<Frame>},
+                                                {"GradientTool", make<GradientTool>},
                                                 {"GroupBox", make<GroupBox>},
                                                 {"LetterBoxWidget", make<LetterBoxWidget>},
                                                 {"LineEdit", make<LineEdit>},
                                                 {"ProgressBar", make<ProgressBar>},
                                                 {"ProgressIndicator", make<ProgressIndicator>},
                                                 {"RadioButton", make<RadioButton>},
+                                                {"RangeSlider", make<RangeSlider>},
                                                 {"RoundProgressBar", make<RoundProgressBar>},
                                                 {"SlideCheckBox", make<SlideCheckBox>},
+                                                {"SpanSlider", make<SpanSlider>},
                                                 {"Splitter", make<Splitter>},
                                                 {"StatusBar", make<StatusBar>},
                                                 {"TabBar", make<TabBar>},
@@ -126,6 +149,8 @@ private Q_SLOTS:
         QFETCH(QStringList, words);
         QFETCH(QStringList, probes);
         const std::unique_ptr<QWidget> widget(classes[words.takeFirst()]());
+        if (widget->inherits("LineEdit") || widget->inherits("QSlider"))
+            widget->setStyle(&m_bareStyle);
         const QStringList size = words.takeFirst().split('x');
         widget->resize(size[0].toInt(), size[1].toInt());
         for (const QString &word : words) {
@@ -136,26 +161,17 @@ private Q_SLOTS:
             else
                 QVERIFY(widget->setProperty(name.toLatin1(), value));
         }
-        if (widget->inherits("LineEdit"))
-            widget->setStyle(&m_insetStyle);
         const bool isSaid = !words.filter("enabled=").isEmpty();
         for (bool changed : isSaid ? QVector<bool>{false} : QVector<bool>{false, true}) {
             widget->setEnabled(widget->isEnabled() != changed);
-            for (int i = 0; i < probes.size(); ++i) {
-                const QImage image = TestSupport::paintOn(
-                    widget->size(), Qt::transparent,
-                    [&](QPainter &painter) {
-                        widget->render(&painter, {}, {}, QWidget::RenderFlags());
-                    },
-                    i + 1);
-                TestSupport::compareProbes(image, probes[i]);
-            }
+            for (int i = 0; i < probes.size(); ++i)
+                TestSupport::compareProbes(TestSupport::render(*widget, i + 1), probes[i]);
         }
     }
 
 private:
     DarkUX m_theme;
-    InsetStyle m_insetStyle;
+    BareStyle m_bareStyle;
 };
 
 NOCTURNE_TEST_MAIN(TestPainting)

@@ -13,8 +13,7 @@
 
 namespace {
 
-/// Of Fusion's measures, with a drag area of 20 units around a slider, nothing painted for the
-/// groove and a blue handle.
+/// Of Fusion's measures, with a drag area of 20 units around a slider.
 class SliderStyle : public QProxyStyle
 {
 public:
@@ -26,12 +25,6 @@ public:
     {
         return metric == PM_MaximumDragDistance ? 20
                                                 : QProxyStyle::pixelMetric(metric, option, widget);
-    }
-    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
-                            QPainter *painter, const QWidget *widget) const override
-    {
-        if (option->subControls & SC_SliderHandle)
-            painter->fillRect(subControlRect(control, option, SC_SliderHandle, widget), Qt::blue);
     }
 };
 
@@ -310,41 +303,6 @@ private Q_SLOTS:
         QKeyEvent letter(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
         QCoreApplication::sendEvent(&slider, &letter);
         QVERIFY(!letter.isAccepted());
-    }
-
-    /// What lies on a line of nine pixels across the slider: nothing, the outline or the fill of
-    /// what is between the handles, a handle.
-    void painting()
-    {
-        const QMap<QString, QChar> names = {
-            {"#00000000", '.'}, {"#ff0b0b0b", '#'}, {"#c8419cf9", 'f'}, {"#ff00ff00", 'g'},
-            {"#ff0000ff", 'h'}, {"#ff256c98", '#'}, {"#ff205d84", '#'}, {"#ff2d83b9", '1'},
-            {"#ff2f89c1", '2'}, {"#ff318fca", '3'}};
-        SliderStyle style;
-        const auto across = [&](auto &&slider, const QVector<int> &positions) {
-            slider.setStyle(&style);
-            const QImage image = TestSupport::render(slider);
-            QString line;
-            for (int position : positions) {
-                for (int i = -4; i < 5; ++i) {
-                    const QPoint step = slider.isHorizontal() ? QPoint(0, i) : QPoint(i, 0);
-                    const QColor color = image.pixelColor(slider.place(position) + step);
-                    line += names.value(color.name(QColor::HexArgb), '?');
-                }
-                line += ' ';
-            }
-            return line;
-        };
-        QCOMPARE(across(TestRange(), {10, 20, 35, 50, 65, 80, 90}),
-                 QString("......... ggggggggg ...#ffff# hhhhhhhhh ...#ffff# ggggggggg ......... "));
-        QCOMPARE(across(TestRange(Qt::Vertical), {10, 20, 35, 50, 90}),
-                 QString("......... ..?ggg?.. ..#fff#.. hhhhhhhhh ......... "));
-        QCOMPARE(across(TestRange(Qt::Horizontal, false), {20, 50, 80}),
-                 QString("...#ffff# hhhhhhhhh ...#ffff# "));
-        QCOMPARE(across(TestSpan(), {10, 20, 35, 60, 70}),
-                 QString("......... hhhhhhhhh ..#123#.. hhhhhhhhh ......... "));
-        QCOMPARE(across(TestSpan(Qt::Vertical), {10, 35, 70}),
-                 QString("......... ..#123#.. ......... "));
     }
 
     void onlyTheBarIsFilled()
