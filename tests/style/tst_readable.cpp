@@ -1,5 +1,3 @@
-#include "testsupport.h"
-
 #include <nocturne/CheckBox>
 #include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkReadableStyle>
@@ -7,6 +5,7 @@
 #include <nocturne/LivePalette>
 #include <nocturne/RangeSlider>
 
+#include <QtTest/QtTest>
 #include <QtWidgets/QtWidgets>
 
 #include <cmath>
@@ -27,7 +26,6 @@ struct Sample
     QString properties;
     QString toggled;
 
-    bool isText() const { return part.endsWith("text"); }
     QString name() const { return control + ": " + part; }
 };
 
@@ -92,36 +90,33 @@ QString words(bool on)
 void toggle(QWidget *widget, const QString &name, bool on)
 {
     auto *table = qobject_cast<QTableWidget *>(widget);
-    auto *menu = qobject_cast<QMenu *>(widget);
     auto *bar = qobject_cast<QTabBar *>(widget);
+    auto *box = qobject_cast<QComboBox *>(widget);
     const bool hasWords = name.contains("words");
-    if (name.contains("chosen")) {
-        if (table)
-            table->item(1, 0)->setSelected(on || hasWords);
-        else
-            menu->setActiveAction(on || hasWords ? menu->actions().first() : nullptr);
-    }
-    if (hasWords && table) {
-        table->item(1, 0)->setText(words(on)); // on the alternate ground
-    } else if (hasWords && bar) {
-        bar->setTabText(0, words(on));
-    } else if (hasWords && menu) {
-        menu->actions().first()->setText(words(on));
-    } else if (hasWords) {
-        static_cast<QComboBox *>(widget)->setItemText(0, words(on));
-    } else if (name == "focus") {
+    const bool isChosen = name.contains("chosen") && (on || hasWords);
+    if (name == "focus") {
         on ? widget->setFocus(Qt::TabFocusReason) : widget->clearFocus();
     } else if (name == "all") {
         widget->setProperty(widget->inherits("QLineEdit") ? "text" : "plainText", words(on));
         QMetaObject::invokeMethod(widget, "selectAll");
+    } else if (auto *menu = qobject_cast<QMenu *>(widget)) {
+        QAction *action = menu->actions().first();
+        if (hasWords)
+            action->setText(words(on));
+        action->setCheckable(name == "checked" || (on && name == "checkable"));
+        action->setChecked(on && name == "checked");
+        menu->setActiveAction(isChosen ? action : nullptr);
     } else if (name == "header") {
         table->setHorizontalHeaderLabels({words(on)});
     } else if (table && name == "check") {
         table->item(0, 0)->setData(Qt::CheckStateRole, on ? QVariant(Qt::Unchecked) : QVariant());
-    } else if (menu) {
-        QAction *action = menu->actions().first();
-        action->setCheckable(on || name == "checked");
-        action->setChecked(on && name == "checked");
+    } else if (table) {
+        table->item(1, 0)->setText(words(on && hasWords)); // on the alternate ground
+        table->item(1, 0)->setSelected(isChosen);
+    } else if (bar && hasWords) {
+        bar->setTabText(0, words(on));
+    } else if (box && hasWords) {
+        box->setItemText(0, words(on));
     } else {
         const QStringList parts = name.split(QRegularExpression("[=:]"));
         const QByteArray property = parts.first().toLatin1();
@@ -225,6 +220,8 @@ Result measure(const Sample &sample)
     {
         if (isFocus && state != State::Normal && state != State::Hovered)
             continue;
+        if (sample.name() == "menu: chosen row" && state == State::Disabled)
+            continue; // nothing can be chosen
         for (Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
             Stage stage(sample, state, direction);
             const QImage without = stage.picture(false);
@@ -263,18 +260,18 @@ void printTable()
                     qPrintable(samples()[i].part), rows[i].trimmed().constData());
 }
 
-/// A host's own style on top, which counts what reaches it.
-class Counter : public QProxyStyle
+/// A host's own style on top, which counts the boxes that it has to draw.
+class Host : public QProxyStyle
 {
 public:
     using QProxyStyle::QProxyStyle;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override
     {
-        ++counts[element];
+        boxes += element == PE_IndicatorCheckBox;
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
-    mutable QHash<int, int> counts;
+    mutable int boxes = 0;
 };
 
 const Sample &sampleNamed(const QString &name)
@@ -296,11 +293,8 @@ private Q_SLOTS:
     void palettes();
     void exactFaceBeside();
     void focusByKeyboardOnly();
-    void scrollBarsBesideContents();
+    void polishing();
     void listsOfComboBoxesBelowAHostsProxy();
-    void rightToLeft();
-    void marksGrow();
-    void looksOfStates();
     void livePalette();
 };
 
@@ -319,7 +313,7 @@ void TestReadable::contrasts()
     const Result result = measure(sample);
     const QByteArray message = "enabled " + QByteArray::number(result.enabled) + ", disabled "
                                + QByteArray::number(result.disabled);
-    QVERIFY2(result.enabled >= (sample.isText() ? 4.5 : 3.0), message.constData());
+    QVERIFY2(result.enabled >= (sample.part.endsWith("text") ? 4.5 : 3.0), message.constData());
     QVERIFY2(result.disabled == 0.0 || result.disabled >= 3.0, message.constData());
 }
 
@@ -400,103 +394,34 @@ void TestReadable::focusByKeyboardOnly()
     QCOMPARE(framed(), &second);
 }
 
-void TestReadable::scrollBarsBesideContents()
+void TestReadable::polishing()
 {
+    QTabBar bar;
+    QApplication::style()->polish(&bar);
+    QVERIFY(bar.testAttribute(Qt::WA_Hover));
+
     QTextEdit edit;
     edit.setPlainText(QString(500, QLatin1Char('\n')));
     edit.resize(200, 100);
     edit.show();
     edit.grab(); // lays it out
     QVERIFY(edit.verticalScrollBar()->isVisible());
-    const QScrollBar *bar = edit.verticalScrollBar();
-    QVERIFY(
-        !QRect(bar->mapTo(&edit, QPoint()), bar->size()).intersects(edit.viewport()->geometry()));
+    QVERIFY(edit.viewport()->width() <= 200 - edit.verticalScrollBar()->width());
 }
 
 void TestReadable::listsOfComboBoxesBelowAHostsProxy()
 {
-    Counter host(new DarkReadableStyle);
+    Host host(new DarkReadableStyle);
     QComboBox box;
     box.setStyle(&host);
     box.addItems({"A", "B"});
-    box.show();
     box.showPopup();
-    const QImage plain = box.view()->grab().toImage();
-    QCOMPARE(host.counts.value(QStyle::PE_IndicatorCheckBox), 0);
+    box.view()->grab();
+    QCOMPARE(host.boxes, 0);
     box.setItemData(1, Qt::Unchecked, Qt::CheckStateRole);
-    QVERIFY(box.view()->grab().toImage() != plain);
-    QVERIFY(host.counts.value(QStyle::PE_IndicatorCheckBox) > 0);
+    box.view()->grab();
+    QVERIFY(host.boxes > 0);
     box.hidePopup();
-}
-
-void TestReadable::rightToLeft()
-{
-    for (const char *control : {"combo box, editable", "combo box"}) {
-        const Sample &sample = sampleNamed(QString(control) + ": focus frame");
-        const QImage left = Stage(sample).picture(false);
-        const QImage right = Stage(sample, State::Normal, Qt::RightToLeft).picture(false);
-        const QRect frame(12, 12, 190, 24); // within the window, which is wider on the other side
-        QCOMPARE(right.copy(frame), left.copy(frame).mirrored(true, false));
-    }
-
-    // A third is done, at the right end: the text in the middle has the colour for the ground.
-    const Sample &bar = sampleNamed("progress bar, inverted: text");
-    Stage stage(bar, State::Normal, Qt::LeftToRight);
-    QVERIFY(stage.picture(true) != stage.picture(false));
-    const auto count = [&](QPalette::ColorRole role) {
-        return TestSupport::count(stage.picture(true), QRect(0, 0, 220, 120),
-                                  stage.palette().color(role));
-    };
-    QVERIFY(count(QPalette::Text) > 10);
-    QCOMPARE(count(QPalette::HighlightedText), 0);
-}
-
-/// A mark covers the same share of a box of any size.
-void TestReadable::marksGrow()
-{
-    const auto share = [](int extent) {
-        QStyleOptionButton option;
-        option.rect = QRect(0, 0, extent, extent);
-        option.state = QStyle::State_Enabled;
-        const auto paint = [&option](QPainter &painter) {
-            QApplication::style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter);
-        };
-        const QImage off = TestSupport::paintOn(option.rect.size(), Qt::black, paint);
-        option.state |= QStyle::State_On;
-        const QImage on = TestSupport::paintOn(option.rect.size(), Qt::black, paint);
-        int marked = 0;
-        for (int i = 0; i < extent * extent; ++i)
-            marked += on.pixel(i % extent, i / extent) != off.pixel(i % extent, i / extent);
-        return 1.0 * marked / (extent * extent);
-    };
-    QVERIFY(share(14) > 0.1);
-    QVERIFY(share(56) > 0.6 * share(14));
-}
-
-/// Disabled is darker, hovered is lighter, over the whole control.
-void TestReadable::looksOfStates()
-{
-    const auto light = [](const Sample &sample, State state) {
-        const QImage image = Stage(sample, state).picture(true);
-        double sum = 0.0;
-        for (int i = 0; i < image.width() * image.height(); ++i)
-            sum += luminance(image.pixelColor(i % image.width(), i / image.width()));
-        return sum;
-    };
-    for (const char *name : {"slider: handle", "dial: knob", "scroll bar: handle",
-                             "check box: mark", "push button: text", "combo box: text"})
-    {
-        const Sample &sample = sampleNamed(name);
-        const double normal = light(sample, State::Normal);
-        QVERIFY2(light(sample, State::Disabled) < 0.98 * normal, name);
-        if (sample.isText())
-            QVERIFY2(light(sample, State::Hovered) > 1.05 * normal, name);
-    }
-    Stage tabs(sampleNamed("tab bar: text"));
-    const QImage resting = tabs.picture(true);
-    QHoverEvent enter(QEvent::HoverEnter, QPoint(100, 12), QPoint(-1, -1));
-    QApplication::sendEvent(tabs.control(), &enter);
-    QVERIFY(tabs.picture(true) != resting);
 }
 
 void TestReadable::livePalette()
@@ -518,7 +443,6 @@ void TestReadable::livePalette()
     QTRY_VERIFY(window.count > 0 && child.count > 0);
     QCOMPARE(DarkUX::getInstance().palette(), palette);
     QCOMPARE(QApplication::palette().color(QPalette::Link), QColor(Qt::green));
-    showFace(true);
 }
 
 int main(int argc, char *argv[])

@@ -2,6 +2,7 @@
 #include "styleoptions.h"
 #include "stylepainting.h"
 
+#include <nocturne/style/darkreadablestyle.h>
 #include <nocturne/style/stylehelpers_p.h>
 
 #include <QtCore/QCryptographicHash>
@@ -186,6 +187,7 @@ private:
 
     DarkUX m_theme;
     const std::unique_ptr<DarkFusionStyle> m_style{m_theme.style()};
+    const DarkReadableStyle m_readable;
     Recorder m_recorder;
     QHash<QString, QWidget *> m_widgets;
     QMainWindow m_mainWindow;
@@ -321,18 +323,23 @@ void TestStyleElements::elements()
         state = QStyle::State(number(only.trimmed(), "State_"));
     m_widget = m_widgets.value(take("widget").trimmed());
     const bool isMirrored = !take("mirrored").isEmpty();
+    const bool isReadable = !take("readable").isEmpty();
     m_recorder.isTransient = take("solid").isEmpty();
     const QStringList roles = settings.filter(QRegularExpression("^[A-Z]"));
     for (const QString &role : roles)
         settings.removeOne(role);
     m_option = builders[words[1]](rect(words[2]), state, settings);
+    if (isReadable)
+        m_option->palette = DarkReadableStyle::palette(m_option->palette);
     for (const QString &role : roles)
         m_option->palette.setBrush(QPalette::ColorRole(number(role.section('=', 0, 0))),
                                    brush(role.section('=', 1)));
     m_option->direction = isMirrored ? Qt::RightToLeft : Qt::LeftToRight;
 
     const QSize size = canvas.expandedTo(m_option->rect.size());
-    const QStyle &style = m_recorder.isTransient ? static_cast<QStyle &>(*m_style) : m_recorder;
+    const QStyle &style = isReadable               ? static_cast<const QStyle &>(m_readable)
+                          : m_recorder.isTransient ? static_cast<const QStyle &>(*m_style)
+                                                   : m_recorder;
     const Drawing paint = [&](QPainter &painter) { draw(style, painter); };
     const QImage image = picture(size, paint); // with what the row before has left in the cache
     const int ratio = qRound(qApp->devicePixelRatio());
