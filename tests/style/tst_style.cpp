@@ -189,7 +189,6 @@ void TestStyle::contentSizes()
 /// The icons of the window buttons are their pixmaps, each pixel a square of device pixels.
 void TestStyle::standardIcons()
 {
-    QtVersion::setHighDpiPixmaps(true);
     for (QStyle::StandardPixmap button :
          {QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton,
           QStyle::SP_TitleBarCloseButton, QStyle::SP_DockWidgetCloseButton})
@@ -207,7 +206,6 @@ void TestStyle::standardIcons()
         QCOMPARE(icon.actualSize(QSize(16, 16)), QSize(11, 13));
         QVERIFY(icon.pixmap(8, 8).width() <= 8 * qApp->devicePixelRatio());
     }
-    QtVersion::setHighDpiPixmaps(false);
 }
 
 void TestStyle::polishing()

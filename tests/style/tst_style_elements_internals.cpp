@@ -223,10 +223,10 @@ void TestStyleElements::initTestCase()
 void TestStyleElements::elements_data()
 {
     QTest::addColumn<QStringList>("columns");
-    QFile file(QStringLiteral(NOCTURNE_SOURCE_DIR "/tests/style/data/elements.txt"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    for (int line = 1; !file.atEnd(); ++line) {
-        const QString row = QString::fromUtf8(file.readLine()).simplified();
+    int line = 0;
+    for (const QString &text : QString::fromUtf8(dataOf("elements.txt")).split('\n')) {
+        const QString row = text.simplified();
+        ++line;
         if (row.isEmpty() || row.startsWith('#'))
             continue;
         const QStringList columns = row.split(" |");

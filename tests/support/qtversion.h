@@ -17,19 +17,9 @@ namespace QtVersion {
 
 constexpr bool isQt6 = QT_VERSION >= QT_VERSION_CHECK(6, 0, 0);
 
-/// Without a display Qt 5 starts with a font of 12 points and Qt 6 with one of 9.
-inline void setUpFont()
-{
-    if (isQt6)
-        QApplication::setFont(QFont(QStringLiteral("Sans"), 12));
-}
-
 /// What the names of the library, its packages and its folder of headers end in.
 constexpr const char *suffix = isQt6 ? "-qt6" : "";
 constexpr int otherMajor = isQt6 ? 5 : 6;
-
-/// Scales everything by the DPI that the user sets for fonts; the measures of a style stay.
-constexpr bool scalesWithFontDpi = isQt6;
 
 /// -2.5 rounded: halves go away from zero in Qt 6, up in Qt 5.
 constexpr int roundedNegativeHalf = isQt6 ? -3 : -2;
@@ -64,12 +54,6 @@ inline void setShortcutWidth(QStyleOptionMenuItem &option, int width)
     option.tabWidth = width;
 }
 
-/// Whether icons make pixmaps for dense screens. Those of Qt 6 always do.
-inline void setHighDpiPixmaps(bool on)
-{
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, on);
-}
-
 /// Where the tools stand that a build runs.
 inline QString toolsPath()
 {
@@ -99,8 +83,6 @@ inline void setShortcutWidth(QStyleOptionMenuItem &option, int width)
 {
     option.reservedShortcutWidth = width;
 }
-
-inline void setHighDpiPixmaps(bool) {}
 
 inline QString toolsPath()
 {

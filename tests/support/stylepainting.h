@@ -6,6 +6,7 @@
 #include <nocturne/style/darkfusionstyle.h>
 #include <nocturne/theme/darkux.h>
 
+#include <QtCore/QFile>
 #include <QtCore/QMetaEnum>
 #include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QStyleOption>
@@ -20,7 +21,15 @@ constexpr QStyle::State enabled = QStyle::State_Enabled | QStyle::State_Active;
 inline const QSize canvas(120, 60);
 inline const QRect everything(QPoint(), canvas);
 inline const QColor background(0x20, 0x40, 0x60);
-inline const QColor window(0x1f, 0x21, 0x26); // the theme's
+
+/// What stands in a file beside the tests of the style.
+inline QByteArray dataOf(const QString &name)
+{
+    QFile file(NOCTURNE_SOURCE_DIR "/tests/style/data/" + name);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s is missing", qPrintable(file.fileName()));
+    return file.readAll();
+}
 
 inline QPalette themePalette(QPalette::ColorGroup group = QPalette::Active)
 {
@@ -104,8 +113,6 @@ public:
     {
         if (metric == PM_ButtonShiftHorizontal || metric == PM_ButtonShiftVertical)
             return 3;
-        if (metric == PM_ScrollBarExtent && scrollBarExtent > 0)
-            return scrollBarExtent;
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
@@ -117,7 +124,6 @@ public:
     }
 
     bool isTransient = true;
-    int scrollBarExtent = 0; // the style's
     mutable QStringList log;
 };
 
@@ -154,14 +160,6 @@ inline QRegion painted(const QImage &image, const QColor &ground = background)
         }
     }
     return units;
-}
-
-inline int unitCount(const QRegion &units)
-{
-    int count = 0;
-    for (const QRect &rect : units)
-        count += rect.width() * rect.height();
-    return count;
 }
 
 } // namespace StylePainting

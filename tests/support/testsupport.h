@@ -9,7 +9,8 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
-/// main() of a widget test: without a display and at 96 DPI, unless the caller chose otherwise.
+/// main() of a widget test: without a display and at 96 DPI, unless the caller chose otherwise, and
+/// with the font that Qt 5 starts with.
 #define NOCTURNE_TEST_MAIN(TestClass) \
     int main(int argc, char *argv[]) \
     { \
@@ -17,25 +18,15 @@
             qputenv("QT_QPA_PLATFORM", "offscreen"); \
         qputenv("QT_FONT_DPI", "96"); \
         QApplication app(argc, argv); \
-        QtVersion::setUpFont(); \
+        if (QtVersion::isQt6) \
+            QApplication::setFont(QFont(QStringLiteral("Sans"), 12)); \
         TestClass test; \
         return QTest::qExec(&test, argc, argv); \
     }
 
 namespace TestSupport {
 
-/// What \a widget paints with its children over a transparent surface, at \a ratio device pixels
-/// per unit.
-inline QImage render(QWidget &widget, qreal ratio = 1.0)
-{
-    QImage image(widget.size() * ratio, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(ratio);
-    image.fill(Qt::transparent);
-    widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
-
-/// What \a paint draws on a \a background of \a size units.
+/// What \a paint draws on a \a background of \a size units, at \a ratio device pixels per unit.
 template <typename Paint>
 QImage paintOn(const QSize &size, const QColor &background, Paint paint, qreal ratio = 1.0)
 {
@@ -47,15 +38,20 @@ QImage paintOn(const QSize &size, const QColor &background, Paint paint, qreal r
     return image;
 }
 
+/// What \a widget paints with its children over a transparent surface.
+inline QImage render(QWidget &widget, qreal ratio = 1.0)
+{
+    const auto paint = [&widget](QPainter &painter) {
+        widget.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+    };
+    return paintOn(widget.size(), Qt::transparent, paint, ratio);
+}
+
 /// Opaque result of \a top over \a bottom, as the raster engine blends it.
 inline QColor blended(const QColor &top, const QColor &bottom)
 {
-    QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
-    image.fill(bottom);
-    QPainter painter(&image);
-    painter.fillRect(0, 0, 1, 1, top);
-    painter.end();
-    return image.pixelColor(0, 0);
+    const auto paint = [&top](QPainter &painter) { painter.fillRect(0, 0, 1, 1, top); };
+    return paintOn(QSize(1, 1), bottom, paint).pixelColor(0, 0);
 }
 
 /// How many device pixels of \a area have exactly \a color.
@@ -75,30 +71,19 @@ inline bool isFilled(const QImage &image, const QRect &area, const QColor &color
     return count(image, area, color) == area.width() * area.height();
 }
 
-} // namespace TestSupport
-
-/// Fails with both colours and the place when the device pixel at x, y differs.
-#define COMPARE_PIXEL(image, x, y, expected) \
-    do { \
-        const QColor actualColor = (image).pixelColor(x, y); \
-        const QColor expectedColor = QColor(expected); \
-        QVERIFY2(actualColor.rgba() == expectedColor.rgba(), \
-                 qPrintable(QStringLiteral("pixel (%1, %2) is %3, expected %4") \
-                                .arg(x) \
-                                .arg(y) \
-                                .arg(actualColor.name(QColor::HexArgb), \
-                                     expectedColor.name(QColor::HexArgb)))); \
-    } while (false)
-
-namespace TestSupport {
-
-/// Fails where one of the device pixels at \a points is not \a color.
+/// Fails with both colours and the place where one of the device pixels at \a points is not
+/// \a color.
 inline void comparePixels(const QImage &image, const QColor &color, const QVector<QPoint> &points)
 {
+    const auto nameAt = [](const QPoint &point, const QColor &color) {
+        return QStringLiteral("%1,%2 ").arg(point.x()).arg(point.y()) + color.name(QColor::HexArgb);
+    };
     for (const QPoint &point : points)
-        COMPARE_PIXEL(image, point.x(), point.y(), color);
+        QCOMPARE(nameAt(point, image.pixelColor(point)), nameAt(point, color));
 }
 
 } // namespace TestSupport
+
+#define COMPARE_PIXEL(image, x, y, color) TestSupport::comparePixels(image, color, {{x, y}})
 
 #endif
