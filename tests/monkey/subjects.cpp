@@ -45,6 +45,8 @@
 #include <nocturne/TreeWidget>
 #include <nocturne/Widget>
 
+#include <QtCore/QMetaMethod>
+#include <QtCore/QMetaProperty>
 #include <QtCore/QStringListModel>
 #include <QtWidgets/QColorDialog>
 
@@ -54,21 +56,10 @@
 
 namespace {
 
-QMidiMessage messageBy(Dice &dice)
-{
-    QMidiMessage message;
-    message.setType(dice.extremeInt());
-    message.setChannel(dice.extremeInt());
-    message.setKey(dice.extremeInt());
-    message.setValue(dice.extremeInt());
-    return message;
-}
-
 QColor colorBy(Dice &dice)
 {
-    return dice.roll(8) == 0
-               ? QColor()
-               : QColor(dice.roll(256), dice.roll(256), dice.roll(256), dice.roll(256));
+    const QColor color(dice.roll(256), dice.roll(256), dice.roll(256), dice.roll(256));
+    return dice.roll(8) == 0 ? QColor() : color;
 }
 
 QVector<QPair<double, QColor>> rampBy(Dice &dice)
@@ -79,90 +70,125 @@ QVector<QPair<double, QColor>> rampBy(Dice &dice)
     return ramp;
 }
 
-/// An argument of that type, by the dice.
-template <typename Value>
-Value random(Dice &dice)
+/// A value of a meta type by the dice, invalid if it is none that is known here.
+QVariant valueBy(Dice &dice, int type)
 {
-    if constexpr (std::is_same_v<Value, bool>)
-        return dice.coin();
-    else if constexpr (std::is_enum_v<Value>)
-        return static_cast<Value>(dice.roll(9));
-    else if constexpr (std::is_integral_v<Value>)
-        return static_cast<Value>(dice.extremeInt());
-    else if constexpr (std::is_floating_point_v<Value>)
-        return static_cast<Value>(dice.extremeDouble());
-    else if constexpr (std::is_same_v<Value, QString>)
-        return dice.text();
-    else if constexpr (std::is_same_v<Value, QColor>)
-        return colorBy(dice);
-    else if constexpr (std::is_same_v<Value, QFont>)
-        return QFont(dice.text(), 1 + dice.roll(99));
-    else if constexpr (std::is_same_v<Value, QWidget *>)
-        return dice.roll(4) == 0 ? nullptr : new QWidget;
-    else if constexpr (std::is_same_v<Value, QColorDialog *>)
-        return dice.coin() ? nullptr : new QColorDialog;
-    else
-        return rampBy(dice);
+    return type == QMetaType::Bool           ? QVariant(dice.coin())
+           : type == QMetaType::Int          ? QVariant(dice.extremeInt())
+           : type == QMetaType::UInt         ? QVariant(uint(dice.extremeInt()))
+           : type == QMetaType::Double       ? QVariant(dice.extremeDouble())
+           : type == QMetaType::QString      ? QVariant(dice.text())
+           : type == QMetaType::QColor       ? QVariant(colorBy(dice))
+           : type == QMetaType::QFont        ? QVariant(QFont(dice.text(), 1 + dice.roll(99)))
+           : type == QMetaType::QKeySequence ? QVariant(QKeySequence(dice.extremeInt()))
+                                             : QVariant();
 }
 
+/// Something that is done to a widget, by the dice.
 template <typename Widget>
-using Call = std::function<void(Widget *, Dice &)>;
+using Use = std::function<void(Widget *, Dice &)>;
+using Uses = std::vector<Use<QWidget>>;
 
-/// Calls \a member with arguments by the dice.
-template <typename Widget, typename Result, typename Class, typename... Arguments>
-Call<Widget> toCall(Result (Class::*member)(Arguments...))
+/// Sets a property, and to a value that it has if it is an enumeration.
+Use<QWidget> use(const QMetaProperty &property)
 {
-    return [member](Widget *widget, Dice &dice) {
-        (widget->*member)(random<std::decay_t<Arguments>>(dice)...);
+    return [property](QWidget *widget, Dice &dice) {
+        const QMetaEnum keys = property.enumerator();
+        property.write(widget, property.isEnumType()
+                                   ? QVariant(keys.value(dice.roll(keys.keyCount())))
+                                   : valueBy(dice, property.userType()));
     };
 }
-template <typename Widget, typename Result, typename Class, typename... Arguments>
-Call<Widget> toCall(Result (Class::*member)(Arguments...) const)
+
+/// Calls a slot, if every argument has a type that is known here.
+Use<QWidget> use(const QMetaMethod &slot)
 {
-    return [member](Widget *widget, Dice &dice) {
-        (void)(widget->*member)(random<std::decay_t<Arguments>>(dice)...);
+    return [slot](QWidget *widget, Dice &dice) {
+        QVariant values[3];
+        QGenericArgument arguments[3];
+        for (int i = 0; i < slot.parameterCount(); ++i) {
+            values[i] = valueBy(dice, slot.parameterType(i));
+            if (!values[i].isValid())
+                return;
+            arguments[i] = {values[i].typeName(), values[i].constData()};
+        }
+        slot.invoke(widget, Qt::DirectConnection, arguments[0], arguments[1], arguments[2]);
     };
 }
-template <typename Widget, typename Work>
-Call<Widget> toCall(Work work)
+
+/// What a class adds to the toolkit's properties and public slots, and those of the toolkit's own
+/// that are named.
+Uses usesOf(const QMetaObject &meta, const QString &named)
 {
-    return work;
+    Uses uses;
+    const QStringList names = named.split(' ');
+    for (int i = 0; i < meta.propertyCount(); ++i) {
+        if (i >= meta.propertyOffset() || names.contains(meta.property(i).name()))
+            uses.push_back(use(meta.property(i)));
+    }
+    for (int i = 0; i < meta.methodCount(); ++i) {
+        const QMetaMethod slot = meta.method(i);
+        if (slot.methodType() == QMetaMethod::Slot && slot.access() == QMetaMethod::Public
+            && (i >= meta.methodOffset() || names.contains(slot.name())))
+            uses.push_back(use(slot));
+    }
+    return uses;
 }
 
-using Promise = const char *;
-
-/// One of the calls, members of the class or functions of widget and dice, is made at a time;
-/// \a promise is kept as long as \a isKept says so.
-template <typename Widget, typename Check, typename... Calls>
-Subject checked(const char *name, Promise promise, Check isKept, Calls... calls)
+/// A class, what may be used of the toolkit's under its name, and what else is done to it.
+template <typename Widget>
+Subject subject(const QString &named, const Use<Widget> &other = {}, const Check &check = {})
 {
-    const std::vector<Call<Widget>> all{toCall<Widget>(calls)...};
+    const QMetaObject &meta = Widget::staticMetaObject;
+    Uses uses = usesOf(meta, named);
+    // Half of the time, or a class with many properties would see little of it.
+    if (other) {
+        uses.resize(qMax(std::size_t(1), uses.size()) * 2, [other](QWidget *widget, Dice &dice) {
+            other(static_cast<Widget *>(widget), dice);
+        });
+    }
     const auto create = []() -> QWidget * {
         if constexpr (std::is_base_of_v<QSlider, Widget>)
             return new Widget(Qt::Horizontal, nullptr);
         else
             return new Widget;
     };
-    const auto call = [all](QWidget *widget, Dice &dice) {
-        if (!all.empty())
-            all[static_cast<std::size_t>(dice.roll(static_cast<int>(all.size())))](
-                static_cast<Widget *>(widget), dice);
+    const auto call = [uses](QWidget *widget, Dice &dice) {
+        if (const int count = int(uses.size()))
+            uses[std::size_t(dice.roll(count))](widget, dice);
     };
-    const auto check = [promise, isKept](QWidget *widget) {
-        return isKept(static_cast<Widget *>(widget)) ? QString()
-                                                     : QString("broken promise: ") + promise;
-    };
-    return {name, create, call, check};
+    static const QByteArrayList late{"ComboFileChooser", "CroppingLabel", "FileChooser",
+                                     "FontComboBox",     "ListWidget",    "RangeSlider"};
+    return {meta.className(), create, call, check, late.contains(meta.className())};
 }
 
-template <typename Widget, typename... Calls>
-Subject subject(const char *name, Calls... calls)
+/// That values, beginning with the lowest, never get out of order.
+Check ascending(const QString &properties)
 {
-    return checked<Widget>(
-        name, "", [](Widget *) { return true; }, calls...);
+    return [names = properties.split(' ')](QWidget *widget) {
+        for (int i = 1; i < names.size(); ++i) {
+            const double lower = widget->property(names.at(i - 1).toLatin1()).toDouble();
+            const double upper = widget->property(names.at(i).toLatin1()).toDouble();
+            if (!(lower <= upper))
+                return "broken promise: " + names.at(i - 1) + " is at most " + names.at(i);
+        }
+        return QString();
+    };
 }
 
-// Calls that several classes share, or that need more than one argument's dice.
+QString checkRamp(QWidget *widget)
+{
+    auto *tool = static_cast<GradientTool *>(widget);
+    const auto ramp = tool->getRamp();
+    const bool isInside = std::all_of(ramp.begin(), ramp.end(), [](const auto &stop) {
+        return stop.first >= 0.0 && stop.first <= 1.0;
+    });
+    return isInside && ramp.size() >= 2 && tool->getColorTable().size() == 256
+               ? QString()
+               : "broken promise: two stops or more, from 0 to 1";
+}
+
+// What several classes have from the toolkit.
 
 template <typename Widget>
 void setRange(Widget *widget, Dice &dice)
@@ -170,259 +196,184 @@ void setRange(Widget *widget, Dice &dice)
     widget->setRange(dice.rangeEnd(), dice.rangeEnd());
 }
 
-template <typename Widget>
-void turn(Widget *widget, Dice &dice)
-{
-    widget->setOrientation(dice.coin() ? Qt::Horizontal : Qt::Vertical);
-}
-
-template <typename Tabs>
-void addTab(Tabs *tabs, Dice &dice)
-{
-    if constexpr (std::is_same_v<Tabs, TabBar>)
-        tabs->addTab(dice.text());
-    else
-        tabs->addTab(new QWidget, dice.text());
-}
-
-template <typename Container>
-void deleteOne(Container *container, Dice &dice)
-{
-    delete container->widget(dice.roll(container->count() + 1));
-}
-
-template <typename Combo>
-void addItem(Combo *combo, Dice &dice)
-{
-    combo->addItem(dice.text());
-}
-
-template <typename View>
-void setModel(View *view, Dice &dice)
+void setModel(QAbstractItemView *view, Dice &dice)
 {
     delete view->model();
-    view->setModel(new QStringListModel(
-        dice.coin() ? QStringList{dice.text(), dice.text()} : QStringList(), view));
+    const QStringList rows = dice.coin() ? QStringList{dice.text(), dice.text()} : QStringList();
+    view->setModel(new QStringListModel(rows, view));
 }
 
-template <typename List, typename... Calls>
-Subject list(const char *name, Calls... calls)
+void useCombo(QComboBox *combo, Dice &dice)
 {
-    return subject<List>(
-        name, addItem<List>,
-        [](List *list, Dice &) {
-            for (int i = 0; i < 30; ++i)
-                list->addItem(QString::number(i));
-        },
-        [](List *list, Dice &dice) { delete list->takeItem(dice.roll(list->count() + 1)); },
-        [](List *list, Dice &) { list->setItemDelegate(new ItemDelegate(list)); },
-        [](List *list, Dice &dice) {
-            if (QListWidgetItem *item = list->item(dice.roll(list->count() + 1)))
-                item->setCheckState(dice.coin() ? Qt::Checked : Qt::Unchecked);
-        },
-        [](List *list, Dice &dice) {
-            list->setSelectionMode(static_cast<QAbstractItemView::SelectionMode>(dice.roll(5)));
-            list->setDragDropMode(static_cast<QAbstractItemView::DragDropMode>(dice.roll(5)));
-            list->setViewMode(dice.coin() ? QListView::IconMode : QListView::ListMode);
-        },
-        &List::clear, QOverload<int>::of(&List::setCurrentRow), &List::scrollToBottom, calls...);
+    combo->addItem(dice.text());
+    if (dice.roll(3) == 0)
+        combo->removeItem(dice.roll(combo->count() + 1));
+    if (dice.roll(3) == 0)
+        combo->insertSeparator(dice.roll(5));
+    dice.coin() ? combo->showPopup() : combo->hidePopup();
 }
+
+void useList(QListWidget *list, Dice &dice)
+{
+    for (int i = dice.roll(30); i > 0; --i)
+        list->addItem(dice.text());
+    delete list->takeItem(dice.roll(list->count() + 1));
+    if (QListWidgetItem *item = list->item(dice.roll(list->count() + 1)))
+        item->setCheckState(dice.coin() ? Qt::Checked : Qt::Unchecked);
+    list->setItemDelegate(new ItemDelegate(list));
+}
+
+const QString listNames = "selectionMode dragDropMode viewMode clear currentRow scrollToBottom";
 
 std::vector<Subject> makeSubjects()
 {
     return {
-        subject<CheckBox>("CheckBox", &CheckBox::setText),
-        subject<CheckComboBox>(
-            "CheckComboBox",
-            [](CheckComboBox *w, Dice &d) {
-                w->addCheckItem(d.text(), d.roll(9), static_cast<Qt::CheckState>(d.roll(3)));
+        subject<CheckBox>("text"),
+        subject<CheckComboBox>("clear",
+                               [](auto *w, Dice &d) {
+                                   useCombo(w, d);
+                                   w->addCheckItem(d.text(), d.roll(9),
+                                                   static_cast<Qt::CheckState>(d.roll(3)));
+                                   w->setNoneCheckedText(d.text());
+                                   w->setAllCheckedText(d.text());
+                               }),
+        subject<ClickableLabel>("text"),
+        subject<ColorBar>(
+            "", [](auto *w, Dice &d) { d.coin() ? w->startFlicker() : w->stopFlicker(); }),
+        subject<ColorButton>(""),
+        subject<ColorToolButton>("text"),
+        subject<ComboBox>("clear currentIndex editable",
+                          [](auto *w, Dice &d) {
+                              w->addParentItem(d.text());
+                              w->addChildItem(d.text(), d.roll(9));
+                              useCombo(w, d);
+                          }),
+        subject<ComboBoxListView>("", setModel),
+        subject<ComboFileChooser>(
+            "", [](auto *w, Dice &d) { d.roll(4) ? w->addItem(d.text()) : w->clear(); }),
+        subject<CroppingLabel>("", [](auto *w, Dice &) { w->editBegin(); }),
+        subject<DelayButton>("checkable toggle"),
+        subject<DelayToolButton>("checkable toggle"),
+        subject<Dial>("", setRange<Dial>),
+        subject<FileChooser>(""),
+        subject<FontComboBox>("currentFont", useCombo),
+        subject<Frame>("frameShape frameShadow"),
+        subject<GradientTool>(
+            "",
+            [](auto *w, Dice &d) {
+                w->setCurrentColor(colorBy(d));
+                w->setColorChoose(d.coin() ? nullptr : new QColorDialog);
+                w->setRamp(rampBy(d));
+                w->getSliderAlpha(d.extremeInt());
             },
-            &CheckComboBox::setNoneCheckedText, &CheckComboBox::setAllCheckedText,
-            &CheckComboBox::showPopup, &CheckComboBox::hidePopup, &CheckComboBox::clear),
-        subject<ClickableLabel>("ClickableLabel", &ClickableLabel::setText),
-        subject<ColorBar>("ColorBar", &ColorBar::setColor, &ColorBar::setElipse,
-                          &ColorBar::startFlicker, &ColorBar::stopFlicker),
-        subject<ColorButton>("ColorButton", &ColorButton::setColor,
-                             &ColorButton::setRealtimeChange),
-        subject<ColorToolButton>("ColorToolButton", &ColorToolButton::setText),
-        subject<ComboBox>(
-            "ComboBox", addItem<ComboBox>, &ComboBox::addParentItem,
-            [](ComboBox *w, Dice &d) { w->addChildItem(d.text(), d.roll(9)); },
-            [](ComboBox *w, Dice &d) { w->removeItem(d.roll(w->count() + 1)); },
-            [](ComboBox *w, Dice &d) { w->insertSeparator(d.roll(5)); }, &ComboBox::clear,
-            &ComboBox::setCurrentIndex, &ComboBox::setEditable, &ComboBox::showPopup,
-            &ComboBox::hidePopup),
-        subject<ComboBoxListView>("ComboBoxListView", setModel<ComboBoxListView>),
-        subject<ComboFileChooser>("ComboFileChooser", addItem<ComboFileChooser>,
-                                  &ComboFileChooser::clear, &ComboFileChooser::setFileName,
-                                  &ComboFileChooser::setLastSelectedDir),
-        subject<CroppingLabel>("CroppingLabel", &CroppingLabel::setText,
-                               &CroppingLabel::setEditable, &CroppingLabel::setElideMode,
-                               &CroppingLabel::editBegin, &CroppingLabel::minimizeMaximumWidth),
-        subject<DelayButton>(
-            "DelayButton", [](DelayButton *w, Dice &d) { w->setDelay(d.roll(20) - 5); },
-            &DelayButton::setCheckable, &DelayButton::toggle),
-        subject<DelayToolButton>(
-            "DelayToolButton", [](DelayToolButton *w, Dice &d) { w->setDelay(d.roll(20) - 5); },
-            &DelayToolButton::setCheckable, &DelayToolButton::toggle),
-        subject<Dial>("Dial", setRange<Dial>),
-        subject<FileChooser>("FileChooser", &FileChooser::setFileName, &FileChooser::setMode),
-        subject<FontComboBox>("FontComboBox", &FontComboBox::showPopup, &FontComboBox::hidePopup,
-                              &FontComboBox::setCurrentFont),
-        subject<Frame>("Frame", &Frame::setFrameShape,
-                       [](Frame *w, Dice &d) {
-                           w->setFrameShadow(static_cast<QFrame::Shadow>(16 << d.roll(3)));
-                       }),
-        checked<GradientTool>(
-            "GradientTool", "two stops or more, from 0 to 1",
-            [](GradientTool *w) {
-                const auto ramp = w->getRamp();
-                return ramp.size() >= 2 && w->getColorTable().size() == 256
-                       && std::all_of(ramp.begin(), ramp.end(), [](const auto &stop) {
-                              return stop.first >= 0.0 && stop.first <= 1.0;
-                          });
+            checkRamp),
+        subject<GroupBox>("title checkable checked", [](auto *w, Dice &) { new QWidget(w); }),
+        subject<KeySequenceEdit>(""),
+        subject<LetterBoxWidget>("",
+                                 [](auto *w, Dice &d) {
+                                     w->clearBackgroundColor();
+                                     if (d.coin())
+                                         delete w->widget();
+                                     w->setWidget(d.roll(4) == 0 ? nullptr : new QWidget);
+                                     if (w->widget())
+                                         w->widget()->setSizeIncrement(d.roll(20), d.roll(20));
+                                 }),
+        subject<LineEdit>("text"),
+        subject<LineEditButton>(""),
+        subject<ListView>("", setModel),
+        subject<ListWidget>(listNames,
+                            [](auto *w, Dice &d) {
+                                useList(w, d);
+                                w->findItem(d.text());
+                                w->setViewportMargins(d.roll(9), d.roll(9), d.roll(9), d.roll(9));
+                            }),
+        subject<Menu>("",
+                      [](auto *w, Dice &d) {
+                          if (d.roll(4) == 0)
+                              w->clear();
+                          w->addAction(d.text());
+                          w->addMenu(d.text())->addAction(d.text());
+                          d.coin() ? w->popup(QPoint(5, 5)) : static_cast<void>(w->close());
+                      }),
+        subject<MidiSequenceEdit>("",
+                                  [](auto *w, Dice &d) {
+                                      static QMidiMessage edited;
+                                      QMidiMessage message;
+                                      message.setType(d.extremeInt());
+                                      message.setKey(d.extremeInt());
+                                      w->setKeySequence(d.coin() ? &edited : nullptr);
+                                      w->updateKeySequence(d.roll(4) ? &message : nullptr);
+                                  }),
+        subject<ProgressBar>("value", setRange<ProgressBar>),
+        subject<ProgressIndicator>(""),
+        subject<RadioButton>("text"),
+        subject<RangeSlider>(
+            "orientation tracking invertedAppearance",
+            [](auto *w, Dice &d) {
+                setRange(w, d);
+                w->setPositions(d.extremeInt(), d.extremeInt(), d.extremeInt());
             },
-            &GradientTool::setRamp, &GradientTool::setActiveSlider, &GradientTool::setSliderColor,
-            &GradientTool::setAlphaValue, &GradientTool::setOpacity, &GradientTool::colorChange,
-            &GradientTool::setCurrentColor, &GradientTool::setSlideUpdate,
-            &GradientTool::setColorChoose, &GradientTool::getSliderAlpha),
-        subject<GroupBox>("GroupBox", &GroupBox::setTitle, &GroupBox::setCheckable,
-                          &GroupBox::setChecked, [](GroupBox *w, Dice &) { new QWidget(w); }),
-        subject<KeySequenceEdit>(
-            "KeySequenceEdit",
-            [](KeySequenceEdit *w, Dice &d) { w->setKeySequence(d.extremeInt()); },
-            [](KeySequenceEdit *w, Dice &d) { w->setDefaultKeySequence(d.extremeInt()); },
-            &KeySequenceEdit::clearKeySequence,
-            [](KeySequenceEdit *w, Dice &) { w->defaultKeySequence(); }),
-        subject<LetterBoxWidget>(
-            "LetterBoxWidget", &LetterBoxWidget::setWidget,
-            [](LetterBoxWidget *w, Dice &) { delete w->widget(); },
-            [](LetterBoxWidget *w, Dice &d) {
-                if (w->widget())
-                    w->widget()->setSizeIncrement(d.roll(20), d.roll(20));
-            },
-            &LetterBoxWidget::setMargin,
-            [](LetterBoxWidget *w, Dice &d) { w->setResizeDelay(unsigned(d.roll(9))); },
-            &LetterBoxWidget::setBackgroundColor, &LetterBoxWidget::clearBackgroundColor,
-            &LetterBoxWidget::resizeWidget),
-        subject<LineEdit>("LineEdit", &LineEdit::setText),
-        subject<LineEditButton>("LineEditButton"),
-        subject<ListView>("ListView", setModel<ListView>),
-        list<ListWidget>("ListWidget", &ListWidget::shadow, &ListWidget::findItem,
-                         [](ListWidget *w, Dice &d) {
-                             w->setViewportMargins(d.roll(9), d.roll(9), d.roll(9), d.roll(9));
-                         }),
-        subject<Menu>(
-            "Menu", [](Menu *w, Dice &d) { w->addAction(d.text()); }, &Menu::clear,
-            [](Menu *w, Dice &d) { w->addMenu(d.text())->addAction(d.text()); },
-            [](Menu *w, Dice &) { w->popup(QPoint(5, 5)); }, &Menu::close),
-        subject<MidiSequenceEdit>(
-            "MidiSequenceEdit",
-            [](MidiSequenceEdit *w, Dice &d) {
-                static QMidiMessage edited;
-                w->setKeySequence(d.coin() ? &edited : nullptr);
-            },
-            [](MidiSequenceEdit *w, Dice &d) {
-                QMidiMessage message = messageBy(d);
-                w->updateKeySequence(d.roll(4) ? &message : nullptr);
-            },
-            &MidiSequenceEdit::restoreKeySequence, &MidiSequenceEdit::updateOldKeySequence,
-            &MidiSequenceEdit::clearKeySequence),
-        subject<ProgressBar>("ProgressBar", setRange<ProgressBar>, &ProgressBar::setValue,
-                             &ProgressBar::setFullSize),
-        subject<ProgressIndicator>(
-            "ProgressIndicator", &ProgressIndicator::startAnimation,
-            &ProgressIndicator::stopAnimation, &ProgressIndicator::setColor,
-            [](ProgressIndicator *w, Dice &d) { w->setAnimationDelay(d.roll(30) - 5); }),
-        subject<RadioButton>("RadioButton", &RadioButton::setText),
-        checked<RangeSlider>(
-            "RangeSlider", "the range handles are ordered",
-            [](RangeSlider *w) { return w->minimumValue() <= w->maximumValue(); },
-            setRange<RangeSlider>, turn<RangeSlider>, &RangeSlider::setValues,
-            &RangeSlider::setPositions, &RangeSlider::setMinimumValue,
-            &RangeSlider::setMaximumValue, &RangeSlider::setMainValue, &RangeSlider::setEnableRange,
-            &RangeSlider::setSymmetricMoves, &RangeSlider::positionChange,
-            &RangeSlider::setFrameRate, &RangeSlider::setHandleToolTip, &RangeSlider::setTracking,
-            &RangeSlider::setInvertedAppearance),
-        checked<RoundProgressBar>(
-            "RoundProgressBar", "the value is inside the range",
-            [](RoundProgressBar *w) {
-                return w->minimum() <= w->maximum() && w->value() >= w->minimum()
-                       && w->value() <= w->maximum();
-            },
-            QOverload<double, double>::of(&RoundProgressBar::setRange),
-            QOverload<double>::of(&RoundProgressBar::setValue),
-            QOverload<double>::of(&RoundProgressBar::setMinimum),
-            QOverload<double>::of(&RoundProgressBar::setMaximum),
-            &RoundProgressBar::setNullPosition, &RoundProgressBar::setOutlinePenWidth,
-            &RoundProgressBar::setDataPenWidth, &RoundProgressBar::setFormat,
-            &RoundProgressBar::setDataColors, &RoundProgressBar::setBarStyle,
-            &RoundProgressBar::setTitle,
-            [](RoundProgressBar *w, Dice &d) { w->setDecimals(d.roll(400) - 50); },
-            [](RoundProgressBar *w, Dice &d) {
+            ascending("minimumValue maximumValue")),
+        subject<RoundProgressBar>(
+            "",
+            [](auto *w, Dice &d) {
+                w->setDataColors(rampBy(d));
+                w->setTitle(d.text(), QFont(), QFont(), d.extremeDouble(), d.coin());
                 (void)w->humanReadableSize(qint64(d.extremeInt()) << d.roll(32));
-            }),
-        subject<SearchLineEdit>("SearchLineEdit", &SearchLineEdit::setText),
-        list<SimpleListWidget>("SimpleListWidget"),
-        subject<SlideCheckBox>("SlideCheckBox", &SlideCheckBox::toggle),
-        subject<Slider>("Slider", setRange<Slider>, turn<Slider>, &Slider::setValue,
-                        &Slider::positionChange, &Slider::setEnableDirectJump,
-                        &Slider::setKeyPressed),
-        checked<SpanSlider>(
-            "SpanSlider", "the span is ordered and inside the slider's range",
-            [](SpanSlider *w) {
-                return w->lowerValue() <= w->upperValue() && w->lowerValue() >= w->minimum()
-                       && w->upperValue() <= w->maximum();
             },
-            setRange<SpanSlider>, turn<SpanSlider>, &SpanSlider::setSpan,
-            &SpanSlider::setLowerValue, &SpanSlider::setUpperValue, &SpanSlider::setLowerPosition,
-            &SpanSlider::setUpperPosition, &SpanSlider::swapControls,
-            &SpanSlider::setHandleMovementMode, &SpanSlider::triggerAction,
-            &SpanSlider::setTracking),
-        subject<SpinBox>("SpinBox", setRange<SpinBox>, QOverload<double>::of(&SpinBox::setValue),
-                         QOverload<double, bool>::of(&SpinBox::setValue)),
-        subject<Splitter>(
-            "Splitter", [](Splitter *w, Dice &) { w->addWidget(new QWidget); }, deleteOne<Splitter>,
-            turn<Splitter>,
-            [](Splitter *w, Dice &d) {
-                w->setSizes({d.extremeInt(), d.extremeInt()});
+            ascending("minimum value maximum")),
+        subject<SearchLineEdit>("text"),
+        subject<SimpleListWidget>(listNames, useList),
+        subject<SlideCheckBox>("toggle"),
+        subject<Slider>("orientation value",
+                        [](auto *w, Dice &d) {
+                            setRange(w, d);
+                            w->setKeyPressed(d.coin());
+                        }),
+        subject<SpanSlider>(
+            "orientation tracking",
+            [](auto *w, Dice &d) {
+                setRange(w, d);
+                w->swapControls();
+                w->triggerAction(static_cast<QAbstractSlider::SliderAction>(d.roll(9)), d.coin());
             },
-            [](Splitter *w, Dice &d) { w->setHandleWidth(d.roll(40) - 5); }),
-        subject<StatusBar>(
-            "StatusBar", [](StatusBar *w, Dice &d) { w->showMessage(d.text(), d.roll(20)); },
-            &StatusBar::setSizeGripEnabled),
-        subject<TabBar>(
-            "TabBar", addTab<TabBar>,
-            [](TabBar *w, Dice &d) { w->removeTab(d.roll(w->count() + 1)); },
-            [](TabBar *w, Dice &d) { w->setWidth(d.roll(3000) - 100); },
-            [](TabBar *w, Dice &d) { w->setShape(static_cast<QTabBar::Shape>(d.roll(8))); },
-            &TabBar::setTabsClosable, &TabBar::setMovable, &TabBar::setCurrentIndex),
-        subject<TabWidget>(
-            "TabWidget", addTab<TabWidget>, deleteOne<TabWidget>,
-            [](TabWidget *w, Dice &d) { w->setTabBarWidth(d.roll(3000) - 100); },
-            [](TabWidget *w, Dice &d) {
-                w->setTabPosition(static_cast<QTabWidget::TabPosition>(d.roll(4)));
-            },
-            &TabWidget::setTabsClosable, &TabWidget::setMovable),
+            ascending("minimum lowerValue upperValue maximum")),
+        subject<SpinBox>("",
+                         [](auto *w, Dice &d) {
+                             setRange(w, d);
+                             w->setValue(d.extremeDouble(), d.coin());
+                         }),
+        subject<Splitter>("orientation",
+                          [](auto *w, Dice &d) {
+                              w->addWidget(new QWidget);
+                              w->setSizes({d.extremeInt(), d.extremeInt()});
+                              w->setHandleWidth(d.roll(40) - 5);
+                              delete w->widget(d.roll(w->count() * 2));
+                          }),
+        subject<StatusBar>("showMessage sizeGripEnabled"),
+        subject<TabBar>("shape tabsClosable movable currentIndex",
+                        [](auto *w, Dice &d) {
+                            w->addTab(d.text());
+                            w->removeTab(d.roll(w->count() * 2));
+                            w->setWidth(d.roll(3000) - 100);
+                        }),
+        subject<TabWidget>("tabPosition tabsClosable movable",
+                           [](auto *w, Dice &d) {
+                               w->addTab(new QWidget, d.text());
+                               delete w->widget(d.roll(w->count() * 2));
+                               w->setTabBarWidth(d.roll(3000) - 100);
+                           }),
         subject<TreeWidget>(
-            "TreeWidget",
-            [](TreeWidget *w, Dice &d) {
+            "verticalScrollMode clear expandAll collapseAll headerHidden scrollToBottom",
+            [](auto *w, Dice &d) {
                 auto *item = new QTreeWidgetItem(w, {d.text()});
                 for (int i = d.coin() ? 20 : 0; i > 0; --i)
                     item->addChild(new QTreeWidgetItem({QString::number(i)}));
                 item->setExpanded(d.coin());
-            },
-            [](TreeWidget *w, Dice &d) {
-                delete w->topLevelItem(d.roll(w->topLevelItemCount() + 1));
-            },
-            [](TreeWidget *w, Dice &d) { w->setColumnCount(d.roll(5)); },
-            [](TreeWidget *w, Dice &d) {
-                w->setVerticalScrollMode(d.coin() ? QAbstractItemView::ScrollPerItem
-                                                  : QAbstractItemView::ScrollPerPixel);
-            },
-            &TreeWidget::clear, &TreeWidget::expandAll, &TreeWidget::collapseAll,
-            &TreeWidget::setHeaderHidden, &TreeWidget::scrollToBottom),
-        subject<Widget>("Widget"),
+                w->setColumnCount(d.roll(5));
+                delete w->topLevelItem(d.roll(w->topLevelItemCount() * 2));
+            }),
+        subject<Widget>(""),
     };
 }
 
@@ -460,13 +411,6 @@ QString Dice::text()
 
 const std::vector<Subject> &subjects()
 {
-    static const std::vector<Subject> all = [] {
-        std::vector<Subject> made = makeSubjects();
-        const QList<QByteArray> late{"ComboFileChooser", "CroppingLabel", "FileChooser",
-                                     "FontComboBox",     "ListWidget",    "RangeSlider"};
-        for (Subject &subject : made)
-            subject.onlyDeletedLater = late.contains(QByteArray(subject.name));
-        return made;
-    }();
+    static const std::vector<Subject> all = makeSubjects();
     return all;
 }

@@ -37,6 +37,9 @@ private:
     quint32 m_state;
 };
 
+/// What is wrong with what the class promises; empty when nothing is.
+using Check = std::function<QString(QWidget *)>;
+
 /// One class under test.
 struct Subject
 {
@@ -44,10 +47,9 @@ struct Subject
     std::function<QWidget *()> create;
     /// Calls one of the class's functions, with arguments by the dice.
     std::function<void(QWidget *, Dice &)> call;
-    /// What is wrong with what the class promises; empty when nothing is.
-    std::function<QString(QWidget *)> check;
+    Check check; ///< null where nothing is promised
     /// Asks hosts to delete it with deleteLater() in its signals.
-    bool onlyDeletedLater = false;
+    bool onlyDeletedLater;
 };
 
 /// Every widget of the library.

@@ -6,27 +6,13 @@
 #include <nocturne/DarkUX>
 #include <nocturne/QBalloonTip>
 
-#include <QtCore/QCommandLineParser>
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QMetaMethod>
-#include <QtCore/QMimeData>
-#include <QtCore/QPointer>
-#include <QtCore/QProcess>
-#include <QtCore/QTemporaryDir>
-#include <QtCore/QTimer>
-#include <QtCore/QUrl>
-#include <QtGui/QDrag>
-#include <QtGui/QPainter>
 #include <QtTest/QtTest>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QDialog>
-#include <QtWidgets/QMenu>
-#include <QtWidgets/QStyleFactory>
-#include <QtWidgets/QVBoxLayout>
+#include <QtWidgets/QtWidgets>
 
 #include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <utility>
 
 // A monkey: random events and calls on one class after the other. After every step it checks what
 // the class promises; a script that breaks something is cut down to the shortest that still does.
@@ -77,387 +63,118 @@ void onMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
         fail("warning: " + text);
 }
 
-/// Hears every signal of the subject and may do something violent in the middle of one.
-class Listener : public QObject
+class Monkey : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Is told whether the signal is one of the library's.
-    std::function<void(bool own)> armed;
-
-public Q_SLOTS:
-    void heard() { act(false); }
-    void heardOwn() { act(true); }
-
-private:
-    void act(bool own)
+    Monkey(const Subject &subject, quint32 firstStep)
+        : m_subject(subject)
     {
-        if (const auto act = std::exchange(armed, nullptr))
-            act(own);
-    }
-};
+        QStyle *style = m_theme->style();
+        if (firstStep % 4 == 1 || firstStep % 4 == 2)
+            delete style;
+        if (firstStep % 4 == 1)
+            style = QStyleFactory::create("Fusion");
+        else if (firstStep % 4 == 2)
+            style = new DarkProxyStyle("Fusion");
+        else if (firstStep % 4 == 3)
+            m_window->setStyleSheet(
+                "QWidget { color: #ddd; } QSlider::handle { width: 9px; } QListView::item { "
+                "margin: 2px } QAbstractSpinBox { border: 1px solid red; }");
+        QApplication::setStyle(style);
+        QApplication::setPalette(m_theme->palette());
 
-class Monkey
-{
-public:
-    Monkey(const Subject &subject, quint32 firstStep);
-    ~Monkey();
-
-    void step(quint32 seed);
-    /// Lets go of everything; nothing may be left behind then.
-    void rest();
-
-private:
-    void makeSubject();
-    void listen();
-    QWidget *target(Dice &dice);
-    QPoint pointOn(const QWidget *widget, Dice &dice) const;
-    void send(QObject *receiver, QEvent *event);
-
-    void mouse(Dice &dice);
-    void wheel(Dice &dice);
-    void touchOrTablet(Dice &dice);
-    void keys(Dice &dice);
-    void drop(Dice &dice);
-    void otherInput(Dice &dice);
-    void changeWidget(Dice &dice);
-    void changeWorld(Dice &dice);
-    void arm(Dice &dice);
-    void check();
-
-    const Subject &m_subject;
-    std::unique_ptr<DarkUX> m_theme;
-    std::unique_ptr<QWidget> m_window;
-    QPointer<QWidget> m_widget;
-    QPointer<QWidget> m_pressedOn;
-    Qt::MouseButtons m_buttons;
-    Listener m_listener;
-    QTimer m_closer;
-    bool m_calling = false;
-};
-
-Monkey::Monkey(const Subject &subject, quint32 firstStep)
-    : m_subject(subject)
-    , m_theme(std::make_unique<DarkUX>())
-    , m_window(std::make_unique<QWidget>())
-{
-    QStyle *style = m_theme->style();
-    if (firstStep % 4 == 1 || firstStep % 4 == 2)
-        delete style;
-    if (firstStep % 4 == 1)
-        style = QStyleFactory::create("Fusion");
-    else if (firstStep % 4 == 2)
-        style = new DarkProxyStyle("Fusion");
-    else if (firstStep % 4 == 3)
-        m_window->setStyleSheet(QStringLiteral(
-            "QWidget { color: #ddd; } QSlider::handle { width: 9px; } QListView::item { margin: "
-            "2px } QAbstractSpinBox { border: 1px solid red; }"));
-    QApplication::setStyle(style);
-    QApplication::setPalette(m_theme->palette());
-
-    new QVBoxLayout(m_window.get());
-    m_window->resize(300, 200);
-    makeSubject();
-    m_window->show();
-
-    // Dialogs and menus that a step has opened end by themselves.
-    QObject::connect(&m_closer, &QTimer::timeout, [] {
-        QDrag::cancel();
-        if (QWidget *popup = QApplication::activePopupWidget())
-            popup->close();
-        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
-            dialog->reject();
-    });
-    m_closer.start(2);
-}
-
-Monkey::~Monkey()
-{
-    m_closer.stop();
-    QBalloonTip::hideBalloon();
-    delete m_widget;
-    m_window.reset();
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
-}
-
-void Monkey::makeSubject()
-{
-    m_widget = m_subject.create();
-    if (!m_widget->isWindow() || !(m_widget->windowFlags() & Qt::Popup))
-        m_window->layout()->addWidget(m_widget);
-    m_widget->show();
-    listen();
-}
-
-void Monkey::listen()
-{
-    const QMetaObject *meta = m_widget->metaObject();
-    for (int i = 0; i < meta->methodCount(); ++i) {
-        const QMetaMethod method = meta->method(i);
-        if (method.methodType() == QMetaMethod::Signal && method.name() != "destroyed") {
-            QObject::connect(
-                m_widget, QByteArray("2" + method.methodSignature()).constData(), &m_listener,
-                method.enclosingMetaObject() == meta ? SLOT(heardOwn()) : SLOT(heard()));
-        }
-    }
-}
-
-/// The subject or one of the widgets inside it.
-QWidget *Monkey::target(Dice &dice)
-{
-    if (!m_widget)
+        new QVBoxLayout(m_window.get());
+        m_window->resize(300, 200);
         makeSubject();
-    if (m_buttons && m_pressedOn)
-        return QWidget::mouseGrabber() ? QWidget::mouseGrabber() : m_pressedOn.data();
-    const QList<QWidget *> inside = m_widget->findChildren<QWidget *>();
-    if (inside.isEmpty() || dice.coin())
-        return m_widget;
-    return inside.at(dice.roll(inside.size()));
-}
+        m_window->show();
 
-QPoint Monkey::pointOn(const QWidget *widget, Dice &dice) const
-{
-    return {dice.roll(widget->width() + 20) - 10, dice.roll(widget->height() + 20) - 10};
-}
-
-void Monkey::send(QObject *receiver, QEvent *event)
-{
-    ++eventCount;
-    QCoreApplication::sendEvent(receiver, event);
-}
-
-void Monkey::mouse(Dice &dice)
-{
-    static const Qt::MouseButton allButtons[] = {Qt::LeftButton,  Qt::LeftButton,   Qt::LeftButton,
-                                                 Qt::RightButton, Qt::MiddleButton, Qt::BackButton};
-    const QPointer<QWidget> widget = target(dice);
-    const QPoint place = pointOn(widget, dice);
-    const QPoint global = widget->mapToGlobal(place);
-    const Qt::MouseButton button = allButtons[dice.roll(6)];
-    const auto modifiers = static_cast<Qt::KeyboardModifiers>(dice.roll(4) << 25);
-    QEvent::Type type = QEvent::MouseMove;
-    const int what = dice.roll(6);
-    if (what == 0) {
-        type = dice.roll(4) ? QEvent::MouseButtonPress : QEvent::MouseButtonDblClick;
-        if (!m_buttons)
-            m_pressedOn = widget;
-        m_buttons |= button;
-    } else if (what == 1) {
-        type = QEvent::MouseButtonRelease;
-        m_buttons &= ~button;
-    } else if (what == 2 && dice.roll(4) == 0) { // A release that went elsewhere.
-        m_buttons = Qt::NoButton;
+        // Dialogs and menus that a step has opened end by themselves.
+        connect(&m_closer, &QTimer::timeout, [] {
+            QDrag::cancel();
+            if (QWidget *popup = QApplication::activePopupWidget())
+                popup->close();
+            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+                dialog->reject();
+        });
+        m_closer.start(2);
     }
-    QMouseEvent event(type, place, global, type == QEvent::MouseMove ? Qt::NoButton : button,
-                      m_buttons, modifiers);
-    send(widget, &event);
-}
 
-void Monkey::wheel(Dice &dice)
-{
-    QWidget *widget = target(dice);
-    const QPoint place = pointOn(widget, dice);
-    QWheelEvent event(place, widget->mapToGlobal(place), QPoint(),
-                      QPoint(dice.roll(3) * 120 - 120, dice.roll(5) * 120 - 240), m_buttons,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    send(widget, &event);
-}
-
-void Monkey::touchOrTablet(Dice &dice)
-{
-    QWidget *widget = target(dice);
-    const QPointF place = pointOn(widget, dice);
-    if (dice.coin()) {
-        static auto *device = QTest::createTouchDevice();
-        auto touch = QTest::touchEvent(widget, device);
-        if (dice.coin())
-            touch.press(0, place.toPoint(), widget);
-        else
-            touch.release(0, place.toPoint(), widget);
-    } else {
-        QTabletEvent event =
-            QtVersion::penEvent(dice.coin() ? QEvent::TabletPress : QEvent::TabletMove, place,
-                                widget->mapToGlobal(place.toPoint()));
-        send(widget, &event);
-    }
-}
-
-void Monkey::keys(Dice &dice)
-{
-    static const int all[] = {Qt::Key_Left,   Qt::Key_Right,     Qt::Key_Up,     Qt::Key_Down,
-                              Qt::Key_Home,   Qt::Key_End,       Qt::Key_PageUp, Qt::Key_Delete,
-                              Qt::Key_Return, Qt::Key_Escape,    Qt::Key_Space,  Qt::Key_Tab,
-                              Qt::Key_A,      Qt::Key_Backspace, Qt::Key_F2,     Qt::Key_Backtab,
-                              Qt::Key_Menu,   Qt::Key_unknown,   Qt::Key_Shift,  Qt::Key_Z};
-    const QPointer<QWidget> widget = target(dice);
-    const int key = all[dice.roll(20)];
-    const auto modifiers =
-        static_cast<Qt::KeyboardModifiers>(dice.roll(3) ? 0 : dice.roll(8) << 25);
-    const QString text = key >= Qt::Key_A && key <= Qt::Key_Z ? QString(QChar(key)) : QString();
-    if (dice.roll(4) == 0) {
-        QKeyEvent override(QEvent::ShortcutOverride, key, modifiers, text);
-        send(widget, &override);
-    }
-    for (QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, key, modifiers, text, dice.coin());
-        if (widget && dice.roll(5))
-            send(widget, &event);
-    }
-}
-
-void Monkey::drop(Dice &dice)
-{
-    const QPointer<QWidget> widget = target(dice);
-    QMimeData data;
-    if (dice.coin())
-        data.setUrls({QUrl(dice.text()), QUrl::fromLocalFile("/a/b.mov"), QUrl()});
-    if (dice.coin())
-        data.setColorData(dice.coin() ? QVariant(QColor(1, 2, 3)) : QVariant(dice.text()));
-    if (dice.coin())
-        data.setText(dice.text());
-    if (dice.coin())
-        data.setData("application/x-qabstractitemmodeldatalist", dice.text().toUtf8());
-    const QPoint place = pointOn(widget, dice);
-    QDragEnterEvent enter(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
-    send(widget, &enter);
-    if (!widget)
-        return;
-    QDragMoveEvent move(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
-    send(widget, &move);
-    if (!widget)
-        return;
-    if (dice.coin()) {
-        QDropEvent event(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
-        send(widget, &event);
-    } else {
-        QDragLeaveEvent leave;
-        send(widget, &leave);
-    }
-}
-
-void Monkey::otherInput(Dice &dice)
-{
-    QWidget *widget = target(dice);
-    const QPoint place = pointOn(widget, dice);
-    const QPoint global = widget->mapToGlobal(place);
-    const auto reason = static_cast<Qt::FocusReason>(dice.roll(8));
-    const bool coin = dice.coin();
-    std::unique_ptr<QEvent> event;
-    switch (dice.roll(8)) {
-    case 0:
-        event = std::make_unique<QContextMenuEvent>(QContextMenuEvent::Mouse, place, global);
-        break;
-    case 1:
-        event =
-            std::make_unique<QHelpEvent>(coin ? QEvent::ToolTip : QEvent::WhatsThis, place, global);
-        break;
-    case 2:
-        event =
-            std::make_unique<QInputMethodEvent>(dice.text(), QList<QInputMethodEvent::Attribute>());
-        static_cast<QInputMethodEvent *>(event.get())->setCommitString(dice.text());
-        break;
-    case 3:
-        event = std::make_unique<QHoverEvent>(coin ? QEvent::HoverMove : QEvent::HoverLeave, place,
-                                              place);
-        break;
-    case 4:
-        event = std::make_unique<QFocusEvent>(coin ? QEvent::FocusIn : QEvent::FocusOut, reason);
-        break;
-    case 5:
-        event = std::make_unique<QEvent>(coin ? QEvent::Leave : QEvent::WindowDeactivate);
-        break;
-    case 6:
-        widget->setFocus(reason);
-        return;
-    default:
-        auto *menu = new QMenu(m_window.get());
-        menu->setAttribute(Qt::WA_DeleteOnClose);
-        menu->addAction(dice.text());
-        menu->popup(global);
-        return;
-    }
-    send(widget, event.get());
-}
-
-void Monkey::changeWidget(Dice &dice)
-{
-    if (!m_widget)
-        makeSubject();
-    ++eventCount;
-    const int what = dice.roll(10);
-    if (what == 0) {
-        m_widget->setEnabled(dice.coin());
-    } else if (what == 1) {
-        m_widget->setVisible(dice.roll(4));
-    } else if (what == 2) {
-        const int edge = dice.roll(20) ? 400 : 16384;
-        m_window->resize(dice.roll(edge), dice.roll(edge == 400 ? 400 : 60));
-    } else if (what == 3) {
+    ~Monkey() override
+    {
+        m_closer.stop();
+        QBalloonTip::hideBalloon();
         delete m_widget;
-    } else if (what == 4) {
-        m_widget->deleteLater();
-    } else if (what == 5) {
-        if (m_widget->isWindow())
-            return; // the toolkit's own windows don't bear it
-        auto other = std::make_unique<QWidget>();
-        m_widget->setParent(other.get());
-        m_widget->setParent(m_window.get());
-        m_window->layout()->addWidget(m_widget);
-        m_widget->show();
-    } else if (what == 6 && !m_widget->size().isEmpty()) {
-        QPixmap pixmap(m_widget->size().boundedTo({400, 400}) * 3);
-        pixmap.setDevicePixelRatio(1.0 + dice.roll(5) / 2.0);
-        m_widget->render(&pixmap);
-    } else {
-        m_calling = true;
-        m_subject.call(m_widget, dice);
-        m_calling = false;
+        m_window.reset();
+        QApplication::setStyle(QStyleFactory::create("Fusion"));
     }
-}
 
-void Monkey::changeWorld(Dice &dice)
-{
-    const int what = dice.roll(8);
-    if (what == 0) {
-        QPalette palette = m_theme->palette();
-        palette.setColor(QPalette::Window, QColor(dice.roll(256), dice.roll(256), 40));
-        m_theme->setPalette(palette, true);
-        m_window->setPalette(palette);
-    } else if (what == 1) {
-        m_window->setLayoutDirection(dice.coin() ? Qt::RightToLeft : Qt::LeftToRight);
-    } else if (what == 2) {
-        QFont font = m_window->font();
-        font.setPixelSize(1 + dice.roll(60));
-        font.setBold(dice.coin());
-        m_window->setFont(font);
-    } else if (what == 3) {
-        QEvent event(QEvent::LanguageChange);
-        send(m_widget ? m_widget.data() : m_window.get(), &event);
-    } else if (what == 4) {
-        // Widgets exist without a theme, as long as none of them paints.
-        m_theme.reset();
-        m_theme = std::make_unique<DarkUX>();
-        const std::unique_ptr<DarkFusionStyle> unusedStyle(m_theme->style());
-    } else if (what == 5) {
-        m_window->setStyleSheet(dice.coin() ? QString() : "* { padding: 3px; color: red; }");
-    } else if (what == 6) {
-        QBalloonTip::showBalloon(
-            static_cast<QSystemTrayIcon::MessageIcon>(dice.roll(4)), dice.text(), dice.text(),
-            nullptr, QPoint(dice.roll(800), dice.roll(800)), dice.roll(9) - 2, dice.coin());
-    } else {
+    void step(quint32 seed)
+    {
+        Dice dice(seed);
+        const int what = dice.roll(16);
+        if (what == 0)
+            wheel(dice);
+        else if (what <= 3)
+            keys(dice);
+        else if (what == 4)
+            drop(dice);
+        else if (what == 5)
+            otherInput(dice);
+        else if (what <= 7)
+            changeWidget(dice);
+        else if (what == 8 && dice.roll(3))
+            changeWorld(dice);
+        else if (what == 8)
+            m_armed = dice.roll(6);
+        else if (what == 9)
+            dice.roll(8) ? touchOrTablet(dice) : rest();
+        else
+            mouse(dice);
+        if (m_widget && m_subject.check)
+            fail(m_subject.check(m_widget));
+    }
+
+    /// Lets go of everything; nothing may be left behind then.
+    void rest()
+    {
+        m_armed = -1;
+        m_buttons = Qt::NoButton;
+        for (int i = 0; i < 10 && QApplication::activePopupWidget(); ++i)
+            QApplication::activePopupWidget()->close();
+        // What a real pointer would show next: it moves with no button held.
+        const QVector<QPointer<QWidget>> receivers{m_widget ? QWidget::mouseGrabber() : nullptr,
+                                                   m_widget};
+        for (const auto &receiver : receivers) {
+            const QPoint place(1, 1);
+            if (receiver)
+                send(receiver, QMouseEvent(QEvent::MouseMove, place, receiver->mapToGlobal(place),
+                                           Qt::NoButton, Qt::NoButton, Qt::NoModifier));
+        }
         QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        // After the toolkit has told of its own pointer, which may stand on the widget.
+        send(m_widget, QEvent(QEvent::Leave));
+        if (QWidget::mouseGrabber())
+            fail("the mouse stays grabbed");
+        if (QApplication::overrideCursor())
+            fail("an override cursor stays");
+        if (QApplication::activePopupWidget())
+            fail("a popup stays");
     }
-}
 
-void Monkey::arm(Dice &dice)
-{
-    const int what = dice.roll(6);
-    m_listener.armed = [this, what](bool own) {
-        if (!m_widget)
+private Q_SLOTS:
+    /// Of any signal of the subject. Does something violent in the middle of it if asked to.
+    void heard()
+    {
+        const int what = std::exchange(m_armed, -1);
+        if (what < 0 || !m_widget)
             return;
+        const QMetaObject *meta = m_widget->metaObject();
+        const bool isOwn = meta->method(senderSignalIndex()).enclosingMetaObject() == meta;
         // Neither the toolkit's own signals nor a call from outside bear it.
-        if (what == 0 && own && !m_calling && !m_subject.onlyDeletedLater) {
+        if (what == 0 && isOwn && !m_calling && !m_subject.onlyDeletedLater) {
             delete m_widget;
         } else if (what == 0) {
             m_widget->deleteLater();
@@ -466,10 +183,7 @@ void Monkey::arm(Dice &dice)
         } else if (what == 2) {
             m_widget->setEnabled(false);
         } else if (what == 3) {
-            if (m_widget->isWindow())
-                return; // the toolkit's own windows don't bear it
-            m_widget->setParent(nullptr);
-            m_window->layout()->addWidget(m_widget);
+            reparent(nullptr);
         } else if (what == 4) {
             // A popup whose appearance ends a gesture is not yet fit to be closed.
             m_closer.stop();
@@ -478,71 +192,262 @@ void Monkey::arm(Dice &dice)
             loop.exec();
             m_closer.start(2);
         } else {
-            Dice inner(static_cast<quint32>(what) + 77u);
+            Dice inner(82);
             m_subject.call(m_widget, inner);
         }
-    };
-}
+    }
 
-void Monkey::step(quint32 seed)
-{
-    Dice dice(seed);
-    const int what = dice.roll(16);
-    if (what == 0)
-        wheel(dice);
-    else if (what <= 3)
-        keys(dice);
-    else if (what == 4)
-        drop(dice);
-    else if (what == 5)
-        otherInput(dice);
-    else if (what <= 7)
-        changeWidget(dice);
-    else if (what == 8)
-        dice.roll(3) ? changeWorld(dice) : arm(dice);
-    else if (what == 9)
-        dice.roll(8) ? touchOrTablet(dice) : rest();
-    else
-        mouse(dice);
-    check();
-}
-
-void Monkey::check()
-{
-    const QString wrong = m_widget ? m_subject.check(m_widget) : QString();
-    if (!wrong.isEmpty())
-        fail(wrong);
-}
-
-void Monkey::rest()
-{
-    m_listener.armed = nullptr;
-    m_buttons = Qt::NoButton;
-    for (int i = 0; i < 10 && QApplication::activePopupWidget(); ++i)
-        QApplication::activePopupWidget()->close();
-    if (m_widget) {
-        // What a real pointer would show next: it moves with no button held.
-        for (QWidget *receiver : {QWidget::mouseGrabber(), m_widget.data()}) {
-            if (!receiver)
-                continue;
-            QMouseEvent move(QEvent::MouseMove, QPoint(1, 1), receiver->mapToGlobal(QPoint(1, 1)),
-                             Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-            send(receiver, &move);
+private:
+    void makeSubject()
+    {
+        m_widget = m_subject.create();
+        if (!m_widget->isWindow() || !(m_widget->windowFlags() & Qt::Popup))
+            m_window->layout()->addWidget(m_widget);
+        m_widget->show();
+        const QMetaObject *meta = m_widget->metaObject();
+        for (int i = 0; i < meta->methodCount(); ++i) {
+            const QMetaMethod method = meta->method(i);
+            if (method.methodType() == QMetaMethod::Signal && method.name() != "destroyed")
+                connect(m_widget, QByteArray("2" + method.methodSignature()), this, SLOT(heard()));
         }
     }
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    if (m_widget) { // After the toolkit has told of its own pointer, which may stand on the widget.
-        QEvent leave(QEvent::Leave);
-        send(m_widget, &leave);
+
+    /// The subject or one of the widgets inside it.
+    QWidget *target(Dice &dice)
+    {
+        if (!m_widget)
+            makeSubject();
+        if (m_buttons && m_pressedOn)
+            return QWidget::mouseGrabber() ? QWidget::mouseGrabber() : m_pressedOn.data();
+        const QList<QWidget *> inside = m_widget->findChildren<QWidget *>();
+        if (inside.isEmpty() || dice.coin())
+            return m_widget;
+        return inside.at(dice.roll(inside.size()));
     }
-    if (QWidget::mouseGrabber())
-        fail("the mouse stays grabbed");
-    if (QApplication::overrideCursor())
-        fail("an override cursor stays");
-    if (QApplication::activePopupWidget())
-        fail("a popup stays");
-}
+
+    static QPoint pointOn(const QWidget *widget, Dice &dice)
+    {
+        return {dice.roll(widget->width() + 20) - 10, dice.roll(widget->height() + 20) - 10};
+    }
+
+    static void send(const QPointer<QWidget> &receiver, QEvent &&event)
+    {
+        if (!receiver)
+            return;
+        ++eventCount;
+        QCoreApplication::sendEvent(receiver, &event);
+    }
+
+    void reparent(QWidget *parent)
+    {
+        if (m_widget->isWindow())
+            return; // the toolkit's own windows don't bear it
+        m_widget->setParent(parent);
+        m_window->layout()->addWidget(m_widget);
+    }
+
+    void mouse(Dice &dice)
+    {
+        static const Qt::MouseButton allButtons[] = {Qt::LeftButton,   Qt::LeftButton,
+                                                     Qt::LeftButton,   Qt::RightButton,
+                                                     Qt::MiddleButton, Qt::BackButton};
+        QWidget *widget = target(dice);
+        const QPoint place = pointOn(widget, dice);
+        const Qt::MouseButton button = allButtons[dice.roll(6)];
+        const auto modifiers = static_cast<Qt::KeyboardModifiers>(dice.roll(4) << 25);
+        QEvent::Type type = QEvent::MouseMove;
+        const int what = dice.roll(6);
+        if (what == 0) {
+            type = dice.roll(4) ? QEvent::MouseButtonPress : QEvent::MouseButtonDblClick;
+            if (!m_buttons)
+                m_pressedOn = widget;
+            m_buttons |= button;
+        } else if (what == 1) {
+            type = QEvent::MouseButtonRelease;
+            m_buttons &= ~button;
+        } else if (what == 2 && dice.roll(4) == 0) { // A release that went elsewhere.
+            m_buttons = Qt::NoButton;
+        }
+        send(widget,
+             QMouseEvent(type, place, widget->mapToGlobal(place),
+                         type == QEvent::MouseMove ? Qt::NoButton : button, m_buttons, modifiers));
+    }
+
+    void wheel(Dice &dice)
+    {
+        QWidget *widget = target(dice);
+        const QPoint place = pointOn(widget, dice);
+        const QPoint angle(dice.roll(3) * 120 - 120, dice.roll(5) * 120 - 240);
+        send(widget, QWheelEvent(place, widget->mapToGlobal(place), QPoint(), angle, m_buttons,
+                                 Qt::NoModifier, Qt::NoScrollPhase, false));
+    }
+
+    void touchOrTablet(Dice &dice)
+    {
+        QWidget *widget = target(dice);
+        const QPoint place = pointOn(widget, dice);
+        const bool isPen = !dice.coin();
+        const bool presses = dice.coin();
+        if (isPen) {
+            send(widget, QtVersion::penEvent(presses ? QEvent::TabletPress : QEvent::TabletMove,
+                                             place, widget->mapToGlobal(place)));
+            return;
+        }
+        static auto *device = QTest::createTouchDevice();
+        auto touch = QTest::touchEvent(widget, device);
+        presses ? touch.press(0, place, widget) : touch.release(0, place, widget);
+    }
+
+    void keys(Dice &dice)
+    {
+        static const int all[] = {
+            Qt::Key_Left,    Qt::Key_Right,  Qt::Key_Up,      Qt::Key_Down,      Qt::Key_Home,
+            Qt::Key_End,     Qt::Key_PageUp, Qt::Key_Delete,  Qt::Key_Return,    Qt::Key_Escape,
+            Qt::Key_Space,   Qt::Key_Tab,    Qt::Key_A,       Qt::Key_Backspace, Qt::Key_F2,
+            Qt::Key_Backtab, Qt::Key_Menu,   Qt::Key_unknown, Qt::Key_Shift,     Qt::Key_Z};
+        const QPointer<QWidget> widget = target(dice);
+        const int key = all[dice.roll(20)];
+        const auto modifiers =
+            static_cast<Qt::KeyboardModifiers>(dice.roll(3) ? 0 : dice.roll(8) << 25);
+        const QString text = key >= Qt::Key_A && key <= Qt::Key_Z ? QString(QChar(key)) : QString();
+        if (dice.roll(4) == 0)
+            send(widget, QKeyEvent(QEvent::ShortcutOverride, key, modifiers, text));
+        for (QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            const bool repeats = dice.coin();
+            if (dice.roll(5))
+                send(widget, QKeyEvent(type, key, modifiers, text, repeats));
+        }
+    }
+
+    void drop(Dice &dice)
+    {
+        const QPointer<QWidget> widget = target(dice);
+        QMimeData data;
+        if (dice.coin())
+            data.setUrls({QUrl(dice.text()), QUrl::fromLocalFile("/a/b.mov"), QUrl()});
+        if (dice.coin())
+            data.setColorData(dice.coin() ? QVariant(QColor(1, 2, 3)) : QVariant(dice.text()));
+        if (dice.coin())
+            data.setText(dice.text());
+        if (dice.coin())
+            data.setData("application/x-qabstractitemmodeldatalist", dice.text().toUtf8());
+        const QPoint place = pointOn(widget, dice);
+        const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
+        send(widget, QDragEnterEvent(place, actions, &data, Qt::LeftButton, {}));
+        send(widget, QDragMoveEvent(place, actions, &data, Qt::LeftButton, {}));
+        if (dice.coin())
+            send(widget, QDropEvent(place, actions, &data, Qt::LeftButton, {}));
+        else
+            send(widget, QDragLeaveEvent());
+    }
+
+    void otherInput(Dice &dice)
+    {
+        QWidget *widget = target(dice);
+        const QPoint place = pointOn(widget, dice);
+        const QPoint global = widget->mapToGlobal(place);
+        const auto reason = static_cast<Qt::FocusReason>(dice.roll(8));
+        const bool coin = dice.coin();
+        const int what = dice.roll(8);
+        if (what == 0) {
+            send(widget, QContextMenuEvent(QContextMenuEvent::Mouse, place, global));
+        } else if (what == 1) {
+            send(widget, QHelpEvent(coin ? QEvent::ToolTip : QEvent::WhatsThis, place, global));
+        } else if (what == 2) {
+            QInputMethodEvent input(dice.text(), {});
+            input.setCommitString(dice.text());
+            send(widget, std::move(input));
+        } else if (what == 3) {
+            send(widget, QHoverEvent(coin ? QEvent::HoverMove : QEvent::HoverLeave, place, place));
+        } else if (what == 4) {
+            send(widget, QFocusEvent(coin ? QEvent::FocusIn : QEvent::FocusOut, reason));
+        } else if (what == 5) {
+            send(widget, QEvent(coin ? QEvent::Leave : QEvent::WindowDeactivate));
+        } else if (what == 6) {
+            widget->setFocus(reason);
+        } else {
+            auto *menu = new QMenu(m_window.get());
+            menu->setAttribute(Qt::WA_DeleteOnClose);
+            menu->addAction(dice.text());
+            menu->popup(global);
+        }
+    }
+
+    void changeWidget(Dice &dice)
+    {
+        if (!m_widget)
+            makeSubject();
+        ++eventCount;
+        const int what = dice.roll(10);
+        if (what == 0) {
+            m_widget->setEnabled(dice.coin());
+        } else if (what == 1) {
+            m_widget->setVisible(dice.roll(4));
+        } else if (what == 2) {
+            const int edge = dice.roll(20) ? 400 : 16384;
+            m_window->resize(dice.roll(edge), dice.roll(edge == 400 ? 400 : 60));
+        } else if (what == 3) {
+            delete m_widget;
+        } else if (what == 4) {
+            m_widget->deleteLater();
+        } else if (what == 5) {
+            QWidget other;
+            reparent(&other);
+            m_widget->show();
+        } else if (what == 6 && !m_widget->size().isEmpty()) {
+            QPixmap pixmap(m_widget->size().boundedTo({400, 400}) * 3);
+            pixmap.setDevicePixelRatio(1.0 + dice.roll(5) / 2.0);
+            m_widget->render(&pixmap);
+        } else {
+            m_calling = true;
+            m_subject.call(m_widget, dice);
+            m_calling = false;
+        }
+    }
+
+    void changeWorld(Dice &dice)
+    {
+        const int what = dice.roll(8);
+        if (what == 0) {
+            QPalette palette = m_theme->palette();
+            palette.setColor(QPalette::Window, QColor(dice.roll(256), dice.roll(256), 40));
+            m_theme->setPalette(palette, true);
+            m_window->setPalette(palette);
+        } else if (what == 1) {
+            m_window->setLayoutDirection(dice.coin() ? Qt::RightToLeft : Qt::LeftToRight);
+        } else if (what == 2) {
+            QFont font = m_window->font();
+            font.setPixelSize(1 + dice.roll(60));
+            font.setBold(dice.coin());
+            m_window->setFont(font);
+        } else if (what == 3) {
+            send(m_widget ? m_widget.data() : m_window.get(), QEvent(QEvent::LanguageChange));
+        } else if (what == 4) {
+            // Widgets exist without a theme, as long as none of them paints.
+            m_theme.reset();
+            m_theme = std::make_unique<DarkUX>();
+            const std::unique_ptr<DarkFusionStyle> unusedStyle(m_theme->style());
+        } else if (what == 5) {
+            m_window->setStyleSheet(dice.coin() ? QString() : "* { padding: 3px; color: red; }");
+        } else if (what == 6) {
+            QBalloonTip::showBalloon(
+                static_cast<QSystemTrayIcon::MessageIcon>(dice.roll(4)), dice.text(), dice.text(),
+                nullptr, QPoint(dice.roll(800), dice.roll(800)), dice.roll(9) - 2, dice.coin());
+        } else {
+            QCoreApplication::processEvents();
+        }
+    }
+
+    const Subject &m_subject;
+    std::unique_ptr<DarkUX> m_theme = std::make_unique<DarkUX>();
+    std::unique_ptr<QWidget> m_window = std::make_unique<QWidget>();
+    QPointer<QWidget> m_widget;
+    QPointer<QWidget> m_pressedOn;
+    Qt::MouseButtons m_buttons;
+    QTimer m_closer;
+    bool m_calling = false;
+    int m_armed = -1; ///< what is done when the next signal is heard, nothing if negative
+};
 
 /// Runs \a script in this process; an empty text when it passes.
 QString run(const Subject &subject, const Script &script)
@@ -571,17 +476,14 @@ QString replayText(const Script &script)
 /// Runs \a script in a process of its own, which may crash or hang. What went wrong, or nothing.
 QString runApart(const char *name, const Script &script, quint64 *events = nullptr)
 {
-    QTemporaryDir folder;
-    const QString path = folder.filePath("script");
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return "cannot write " + path;
+    QTemporaryFile file;
+    file.open();
     file.write(replayText(script).toLatin1());
     file.close();
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QCoreApplication::applicationFilePath(),
-                  {"--class", name, "--replay", '@' + path});
+                  {"--class", name, "--replay", '@' + file.fileName()});
     if (!process.waitForFinished(120000)) {
         process.kill();
         process.waitForFinished();
