@@ -366,7 +366,6 @@ void TestReadable::focusByKeyboardOnly()
     second.move(0, 40);
     window.show();
     QApplication::setActiveWindow(&window);
-    const QSize sizes[] = {first.sizeHint(), second.sizeHint()};
     const auto framed = [&window] {
         const auto *frame = window.findChild<QFocusFrame *>();
         return frame ? frame->widget() : nullptr;
@@ -376,17 +375,13 @@ void TestReadable::focusByKeyboardOnly()
     QCOMPARE(framed(), &second);
     QTest::keyClick(&second, Qt::Key_Tab);
     QCOMPARE(framed(), &first);
-    QCOMPARE(first.sizeHint(), sizes[0]);
-    QCOMPARE(second.sizeHint(), sizes[1]);
     QApplication::setActiveWindow(nullptr);
     QVERIFY(!framed());
     QApplication::setActiveWindow(&window);
     QCOMPARE(framed(), &first);
 
     QTest::mouseClick(&second, Qt::LeftButton);
-    QVERIFY(second.hasFocus());
     QVERIFY(!framed());
-    QVERIFY(!window.testAttribute(Qt::WA_KeyboardFocusChange));
     first.setFocus(); // by the program, in answer to the pointer
     QVERIFY(!framed());
     QTest::keyClick(&first, Qt::Key_A);

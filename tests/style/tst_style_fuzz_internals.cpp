@@ -343,7 +343,7 @@ private:
 
 void TestStyleFuzz::initTestCase()
 {
-    m_image = picture(QSize(64, 48), [](QPainter &) {});
+    m_image = picture([](QPainter &) {}, QSize(64, 48));
     auto *text = new QTextEdit;
     m_window.setCentralWidget(text);
     m_widgets = {nullptr,

@@ -130,14 +130,9 @@ public:
 using Drawing = std::function<void(QPainter &painter)>;
 
 /// \a paint at the device pixel ratio of the run.
-inline QImage picture(const QSize &size, const Drawing &paint, const QColor &ground = background)
+inline QImage picture(const Drawing &paint, const QSize &size = canvas)
 {
-    return TestSupport::paintOn(size, ground, paint, qApp->devicePixelRatio());
-}
-
-inline QImage picture(const Drawing &paint)
-{
-    return picture(canvas, paint);
+    return TestSupport::paintOn(size, background, paint, qApp->devicePixelRatio());
 }
 
 /// The colour of the unit at x, y: that of its first device pixel. Lines of one unit that are drawn
@@ -148,14 +143,14 @@ inline QColor unitColor(const QImage &image, int x, int y)
     return image.pixelColor(x * ratio, y * ratio);
 }
 
-/// The units that are not \a ground.
-inline QRegion painted(const QImage &image, const QColor &ground = background)
+/// The units that are painted.
+inline QRegion painted(const QImage &image)
 {
     const int ratio = qRound(image.devicePixelRatio());
     QRegion units;
     for (int y = 0; y < image.height() / ratio; ++y) {
         for (int x = 0; x < image.width() / ratio; ++x) {
-            if (unitColor(image, x, y).rgba() != ground.rgba())
+            if (unitColor(image, x, y).rgba() != background.rgba())
                 units += QRect(x, y, 1, 1);
         }
     }
