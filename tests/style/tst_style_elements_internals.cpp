@@ -87,17 +87,17 @@ int number(const QString &text, const QString &prefix = QString())
     return sum;
 }
 
-/// Sets the fields of an option that have a setting, "name=value", and takes that off the list.
+using Settings = QMap<QString, QString>;
+
+/// Sets the fields of an option that have a setting, and takes that off.
 struct Setter
 {
     template <typename Field>
     void operator()(const char *field, Field &value)
     {
-        const QStringList found = settings.filter(QRegularExpression(QString("^%1=").arg(field)));
-        if (found.isEmpty())
+        if (!settings.contains(field))
             return;
-        settings.removeOne(found.first());
-        const QString text = found.first().section('=', 1);
+        const QString text = settings.take(field);
         if constexpr (std::is_same_v<Field, QString>)
             value = QString(text).replace("\\t", "\t");
         else if constexpr (std::is_same_v<Field, QIcon>)
@@ -109,13 +109,13 @@ struct Setter
         else
             value = Field(number(text));
     }
-    QStringList settings;
+    Settings settings;
 };
 
 /// The option of a row, with the settings that are its own.
 template <typename Option>
 std::shared_ptr<QStyleOption> build(const QRect &rect, QStyle::State state,
-                                    const QStringList &settings)
+                                    const Settings &settings)
 {
     auto option = std::make_shared<Option>(makeOption<Option>(rect, state));
     if constexpr (std::is_same_v<Option, QStyleOptionSlider>)
@@ -123,7 +123,7 @@ std::shared_ptr<QStyleOption> build(const QRect &rect, QStyle::State state,
     Setter setter{settings};
     StyleOptions::visitFields(*option, setter);
     if (!setter.settings.isEmpty())
-        qFatal("no such field: %s", qPrintable(setter.settings.first()));
+        qFatal("no such field: %s", qPrintable(setter.settings.firstKey()));
     if constexpr (std::is_same_v<Option, QStyleOptionSlider>)
         option->state.setFlag(QStyle::State_Horizontal, option->orientation == Qt::Horizontal);
     return option;
@@ -158,6 +158,42 @@ void setScreenScale(qreal scale)
     QGuiApplicationPrivate::resetCachedDevicePixelRatio();
 }
 
+/// What is drawn, and by which style.
+struct Row
+{
+    void drawBy(const QStyle &style, QPainter &painter) const;
+    QImage picture() const
+    {
+        return StylePainting::picture([this](QPainter &painter) { drawBy(*style, painter); },
+                                      canvas.expandedTo(option->rect.size()));
+    }
+
+    QString element;
+    std::shared_ptr<QStyleOption> option;
+    const QStyle *style = nullptr;
+    const QWidget *widget = nullptr;
+    QRect clip;
+};
+
+void Row::drawBy(const QStyle &style, QPainter &painter) const
+{
+    painter.setLayoutDirection(option->direction);
+    if (!clip.isNull())
+        painter.setClipRect(clip);
+    const int value = number(element);
+    if (element.startsWith("SP_"))
+        painter.drawPixmap(option->rect.topLeft(),
+                           style.standardPixmap(QStyle::StandardPixmap(value), option.get()));
+    else if (element.startsWith("PE_"))
+        style.drawPrimitive(QStyle::PrimitiveElement(value), option.get(), &painter, widget);
+    else if (element.startsWith("CE_"))
+        style.drawControl(QStyle::ControlElement(value), option.get(), &painter, widget);
+    else if (element.startsWith("CC_"))
+        style.drawComplexControl(QStyle::ComplexControl(value),
+                                 static_cast<QStyleOptionComplex *>(option.get()), &painter,
+                                 widget);
+}
+
 } // namespace
 
 class TestStyleElements : public QObject
@@ -169,6 +205,7 @@ private Q_SLOTS:
 
     void elements_data();
     void elements();
+    void keptBesideOthers();
 
     void groupBox();
     void menuItemText();
@@ -178,7 +215,6 @@ private Q_SLOTS:
     void colorizedImages();
 
 private:
-    void draw(const QStyle &style, QPainter &painter) const;
     QString answer(const QString &question, const QImage &image) const;
     QString fault(const QString &expectation, const QImage &image) const;
 
@@ -189,11 +225,8 @@ private:
     QHash<QString, QWidget *> m_widgets;
     QMainWindow m_mainWindow;
 
-    // of the row
-    QString m_element;
-    std::shared_ptr<QStyleOption> m_option;
-    const QWidget *m_widget = nullptr;
-    QRect m_clip;
+    Row m_row;
+    QVector<QPair<Row, QImage>> m_pictures;
 };
 
 void TestStyleElements::initTestCase()
@@ -232,49 +265,32 @@ void TestStyleElements::elements_data()
     }
 }
 
-void TestStyleElements::draw(const QStyle &style, QPainter &painter) const
-{
-    painter.setLayoutDirection(m_option->direction);
-    if (!m_clip.isNull())
-        painter.setClipRect(m_clip);
-    const int element = number(m_element);
-    if (m_element.startsWith("SP_"))
-        painter.drawPixmap(m_option->rect.topLeft(),
-                           style.standardPixmap(QStyle::StandardPixmap(element), m_option.get()));
-    else if (m_element.startsWith("PE_"))
-        style.drawPrimitive(QStyle::PrimitiveElement(element), m_option.get(), &painter, m_widget);
-    else if (m_element.startsWith("CE_"))
-        style.drawControl(QStyle::ControlElement(element), m_option.get(), &painter, m_widget);
-    else if (m_element.startsWith("CC_"))
-        style.drawComplexControl(QStyle::ComplexControl(element),
-                                 static_cast<QStyleOptionComplex *>(m_option.get()), &painter,
-                                 m_widget);
-}
-
 /// What the style says to \a question, in the form of the table; nothing where that is a place of
 /// \a image.
 QString TestStyleElements::answer(const QString &question, const QImage &image) const
 {
-    const int element = number(m_element);
+    const int element = number(m_row.element);
     if (question == "within")
         return nameOf(painted(image).boundingRect());
     if (question == "at")
-        return nameOf(m_style->subElementRect(QStyle::SubElement(element), m_option.get()));
+        return nameOf(m_style->subElementRect(QStyle::SubElement(element), m_row.option.get()));
     if (question.startsWith("SC_"))
-        return nameOf(m_style->subControlRect(QStyle::ComplexControl(element),
-                                              static_cast<QStyleOptionComplex *>(m_option.get()),
-                                              QStyle::SubControl(number(question))));
+        return nameOf(m_style->subControlRect(
+            QStyle::ComplexControl(element), static_cast<QStyleOptionComplex *>(m_row.option.get()),
+            QStyle::SubControl(number(question))));
     if (question == "hint")
-        return QString::number(m_style->styleHint(QStyle::StyleHint(element), m_option.get()));
+        return QString::number(m_style->styleHint(QStyle::StyleHint(element), m_row.option.get()));
     if (question == "metric")
-        return QString::number(m_style->pixelMetric(QStyle::PixelMetric(element), m_option.get()));
+        return QString::number(
+            m_style->pixelMetric(QStyle::PixelMetric(element), m_row.option.get()));
     if (question != "size" && question != "adds")
         return QString();
     const auto type = QStyle::ContentsType(element);
-    const QSize contents = m_option->rect.size();
-    QSize size = m_style->sizeFromContents(type, m_option.get(), contents, m_widget);
+    const QSize contents = m_row.option->rect.size();
+    QSize size = m_style->sizeFromContents(type, m_row.option.get(), contents, m_row.widget);
     if (question == "adds")
-        size -= m_style->QCommonStyle::sizeFromContents(type, m_option.get(), contents, m_widget);
+        size -= m_style->QCommonStyle::sizeFromContents(type, m_row.option.get(), contents,
+                                                        m_row.widget);
     return QStringLiteral("%1,%2").arg(size.width()).arg(size.height());
 }
 
@@ -311,65 +327,65 @@ void TestStyleElements::elements()
 {
     QFETCH(QStringList, columns);
     const QStringList words = columns[0].split(' ');
-    QStringList settings = columns[1].split(' ', Qt::SkipEmptyParts);
-    const auto take = [&settings](const QString &name) {
-        const QStringList found = settings.filter(QRegularExpression("^" + name + "(=|$)"));
-        settings.removeOne(found.value(0));
-        return found.isEmpty() ? QString() : found[0].section('=', 1) + ' ';
-    };
-    m_element = words[0];
-    QStyle::State state = enabled | QStyle::State(number(take("with").trimmed(), "State_"));
-    if (const QString only = take("state"); !only.isEmpty())
-        state = QStyle::State(number(only.trimmed(), "State_"));
-    m_widget = m_widgets.value(take("widget").trimmed());
-    const QString clip = take("clip");
-    m_clip = clip.isEmpty() ? QRect() : rect(clip);
-    const bool isMirrored = !take("mirrored").isEmpty();
-    const bool isReadable = !take("readable").isEmpty();
-    m_recorder.isTransient = take("solid").isEmpty();
-    const QStringList roles = settings.filter(QRegularExpression("^[A-Z]"));
-    for (const QString &role : roles)
-        settings.removeOne(role);
-    m_option = builders[words[1]](rect(words[2]), state, settings);
+    Settings settings;
+    for (const QString &setting : columns[1].split(' ', Qt::SkipEmptyParts))
+        settings[setting.section('=', 0, 0)] = setting.section('=', 1);
+    Settings roles;
+    for (const QString &name : settings.keys().filter(QRegularExpression("^[A-Z]")))
+        roles[name] = settings.take(name);
+    QStyle::State state = enabled | QStyle::State(number(settings.take("with"), "State_"));
+    if (settings.contains("state"))
+        state = QStyle::State(number(settings.take("state"), "State_"));
+    m_row = Row();
+    m_row.element = words[0];
+    m_row.widget = m_widgets.value(settings.take("widget"));
+    if (settings.contains("clip"))
+        m_row.clip = rect(settings.take("clip"));
+    const bool isMirrored = settings.remove("mirrored");
+    const bool isReadable = settings.remove("readable");
+    const bool isSolid = settings.remove("solid");
+    m_recorder.isTransient = !isSolid;
+    m_row.style = m_style.get();
+    if (isSolid)
+        m_row.style = &m_recorder;
     if (isReadable)
-        m_option->palette = DarkReadableStyle::palette(m_option->palette);
-    for (const QString &role : roles)
-        m_option->palette.setBrush(QPalette::ColorRole(number(role.section('=', 0, 0))),
-                                   brush(role.section('=', 1)));
-    m_option->direction = isMirrored ? Qt::RightToLeft : Qt::LeftToRight;
+        m_row.style = &m_readable;
+    m_row.option = builders[words[1]](rect(words[2]), state, settings);
+    m_row.option->direction = isMirrored ? Qt::RightToLeft : Qt::LeftToRight;
+    if (isReadable)
+        m_row.option->palette = DarkReadableStyle::palette(m_row.option->palette);
+    for (auto role = roles.cbegin(); role != roles.cend(); ++role)
+        m_row.option->palette.setBrush(QPalette::ColorRole(number(role.key())),
+                                       brush(role.value()));
 
-    const QSize size = canvas.expandedTo(m_option->rect.size());
-    const QStyle &style = isReadable               ? static_cast<const QStyle &>(m_readable)
-                          : m_recorder.isTransient ? static_cast<const QStyle &>(*m_style)
-                                                   : m_recorder;
-    const Drawing paint = [&](QPainter &painter) { draw(style, painter); };
-    const QImage image = picture(paint, size); // with what the row before has left in the cache
+    QPixmapCache::clear();
+    const QImage image = m_row.picture();
+    QCOMPARE(m_row.picture(), image); // from the cache
     const int ratio = qRound(qApp->devicePixelRatio());
     const auto paintFiner = [&] {
-        return TestSupport::paintOn(size, background, paint, 1.5 * ratio);
+        const auto paint = [&](QPainter &painter) { m_row.drawBy(*m_row.style, painter); };
+        return TestSupport::paintOn(canvas, background, paint, 1.5 * ratio);
     };
     const QImage finer = paintFiner();
     setScreenScale(ratio + 1);
-    const QImage dense = picture(paint, size);
+    const QImage dense = m_row.picture();
     QPixmapCache::clear();
-    const QImage fresh = picture(paint, size);
+    const QImage fresh = m_row.picture();
     setScreenScale(ratio);
     QCOMPARE(dense, fresh);
-    QCOMPARE(picture(paint, size), image);
-    QCOMPARE(picture(paint, size), image); // from the cache
 
     const auto limit = QPixmapCache::cacheLimit();
     QPixmapCache::setCacheLimit(0); // nothing is taken from there
     const QImage inPlace = paintFiner();
     m_recorder.log.clear();
-    const auto paintRecorded = [&](QPainter &painter) {
-        draw(m_element.startsWith("PE_") ? *m_recorder.baseStyle() : m_recorder, painter);
-    };
-    picture(paintRecorded, size);
+    StylePainting::picture([&](QPainter &painter) {
+        m_row.drawBy(words[0].startsWith("PE_") ? *m_recorder.baseStyle() : m_recorder, painter);
+    });
     QPixmapCache::setCacheLimit(limit);
     static const QRegularExpression neverBlurred("PE_Indicator(Check|Radio|Arrow)|CE_ProgressBar");
-    if (m_element.contains(neverBlurred))
+    if (words[0].contains(neverBlurred))
         QCOMPARE(finer, inPlace);
+    m_pictures.append({m_row, image});
 
     const QStringList expectations = columns[2].trimmed().split("; ", Qt::SkipEmptyParts);
     const QStringList log = expectations.filter(QRegularExpression("^> "));
@@ -389,6 +405,16 @@ void TestStyleElements::elements()
         const QByteArray sum =
             QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex().left(8);
         QCOMPARE(QString::fromLatin1(sum), columns[3].simplified().split(' ').value(ratio - 1));
+    }
+}
+
+/// No picture is taken for that of another row, for which the key has to hold all that it shows.
+void TestStyleElements::keptBesideOthers()
+{
+    QPixmapCache::clear();
+    for (const auto &[row, image] : std::as_const(m_pictures)) {
+        m_recorder.isTransient = row.style != &m_recorder;
+        QVERIFY2(row.picture() == image, qPrintable(row.element));
     }
 }
 
