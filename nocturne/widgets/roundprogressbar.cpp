@@ -212,15 +212,16 @@ void RoundProgressBar::valueFormatChanged()
 
 QString RoundProgressBar::valueToText(double value)
 {
+    const int decimals = qMin(m_decimals, 1074); // no number has more
     QString text = m_format;
     if (m_updateFlags & UF_VALUE)
-        text.replace(QLatin1String("%v"), QString::number(value, 'f', m_decimals));
+        text.replace(QLatin1String("%v"), QString::number(value, 'f', decimals));
     if (m_updateFlags & UF_CONNECT) {
-        text.replace(QLatin1String("%connect"), QString::number(value, 'f', m_decimals));
+        text.replace(QLatin1String("%connect"), QString::number(value, 'f', decimals));
         m_unitText = QStringLiteral("connect");
     }
     if (m_updateFlags & UF_PERCENT) {
-        const QString percent = QString::number(share(value) * 100.0, 'f', m_decimals);
+        const QString percent = QString::number(share(value) * 100.0, 'f', decimals);
         if (m_unitMode) {
             text.replace(QLatin1String("%p%"), percent);
             m_unitText = QStringLiteral("%");

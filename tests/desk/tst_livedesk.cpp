@@ -21,6 +21,7 @@
 #include <algorithm>
 #include <memory>
 #include <numeric>
+#include <utility>
 #include <vector>
 
 // The small real host, driven through its work on a real X server: each gesture is one step of the
@@ -60,7 +61,8 @@ double slope(const std::vector<double> &values)
     return products / squares;
 }
 
-/// Measures how long each event takes that is delivered from the event loop, in milliseconds.
+/// Counts the events that are delivered from the event loop by the hundredths of a millisecond they
+/// took, so that the record itself does not grow.
 class TimedApplication : public QApplication
 {
 public:
@@ -68,32 +70,29 @@ public:
 
     bool notify(QObject *receiver, QEvent *event) override
     {
-        if (m_nested)
-            return QApplication::notify(receiver, event);
-        m_nested = true;
+        const bool isNested = std::exchange(m_nested, true);
         QElapsedTimer timer;
         timer.start();
         const bool result = QApplication::notify(receiver, event);
-        ++counts[size_t(qMin<qint64>(timer.nsecsElapsed() / 10000, qint64(counts.size()) - 1))];
-        m_nested = false;
+        if (!isNested)
+            ++m_counts[size_t(qMin<qint64>(timer.nsecsElapsed() / 10000, longest))];
+        m_nested = isNested;
         return result;
     }
-
-    /// Events by the hundredths of a millisecond they took, so that the record itself does not
-    /// grow.
-    std::vector<qint64> counts = std::vector<qint64>(100000);
 
     /// The time within which all but a thousandth of the events were done, in ms.
     double slowest() const
     {
-        qint64 left = std::accumulate(counts.begin(), counts.end(), qint64(0)) / 1000;
-        size_t at = counts.size();
+        qint64 left = std::accumulate(m_counts.begin(), m_counts.end(), qint64(0)) / 1000;
+        size_t at = m_counts.size();
         while (at > 0 && left >= 0)
-            left -= counts[--at];
+            left -= m_counts[--at];
         return double(at) / 100;
     }
 
 private:
+    static constexpr qint64 longest = 99999;
+    std::vector<qint64> m_counts = std::vector<qint64>(longest + 1);
     bool m_nested = false;
 };
 
@@ -134,27 +133,6 @@ private Q_SLOTS:
         QVERIFY(state() == end);
         QCOMPARE(m_window->controls()->binding().key(), 21);
         QCOMPARE(history()->count(), 0);
-    }
-
-    void picture()
-    {
-        const auto shows = [this](const Look &look, const QPoint &place, const QColor &color) {
-            m_window->desk()->edit("Look", true, [&](DeskState &state) { state.look = look; });
-            QCOMPARE(find<Monitor>("preview")->picture().pixelColor(place), color);
-        };
-        drop({"/clips/bars.mov"});
-        Look moved, graded, dark;
-        moved.x = 80;
-        graded.amount = 100;
-        graded.ramp = {{0.0, Qt::red}, {1.0, Qt::blue}};
-        dark.black = 254;
-        shows(Look(), {100, 100}, Qt::yellow);
-        shows(moved, {40, 100}, Qt::black);
-        shows(moved, {180, 100}, Qt::yellow);
-        shows(graded, {20, 100}, Qt::blue); // white
-        shows(graded, {620, 100}, Qt::red); // black
-        shows(dark, {100, 100}, Qt::yellow);
-        shows(dark, {30, 350}, Qt::black);
     }
 
     void midiControl()
@@ -251,11 +229,7 @@ private:
             urls << QUrl::fromLocalFile(file);
         QMimeData data;
         data.setUrls(urls);
-        QWidget *viewport = find<ListWidget>("bin")->viewport();
-        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(viewport, &enter);
-        QDropEvent drop(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(viewport, &drop);
+        TestSupport::drop(find<ListWidget>("bin")->viewport(), data, {5, 5});
         expectStep("a drop of files");
     }
 

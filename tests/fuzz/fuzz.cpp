@@ -42,7 +42,6 @@ void promise(bool kept)
     QMidiMessage message = Nocturne::decodeMidiMessage(0.001, bytes);
     promise(message.channel() >= 0 && message.channel() <= 16);
     promise(message.type() >= 0 && message.type() <= 255);
-    QMidiMessage::typeName(message.type());
     const QMidiMessage::Bytes raw = message.rawMessage();
     if (message.type() == QMidiMessage::SystemExclusive) {
         promise(raw.size() >= bytes.size() && raw.back() == 0xF7);
@@ -55,27 +54,25 @@ void promise(bool kept)
 /// Drops the data in several formats on \a target.
 void dropOn(QWidget *target, const QByteArray &data)
 {
+    const QByteArray content = data.mid(1);
+    const int formats = data.isEmpty() ? 0 : data[0];
     QMimeData mime;
-    if (!data.isEmpty()) {
-        const QByteArray content = data.mid(1);
-        if (data[0] & 1)
-            mime.setData("application/x-color", content);
-        if (data[0] & 2)
-            mime.setData("text/uri-list", content);
-        if (data[0] & 4)
-            mime.setText(QString::fromUtf8(content));
-        if (data[0] & 8)
-            mime.setData("application/x-qabstractitemmodeldatalist", content);
-        if (data[0] & 16)
-            mime.setColorData(QVariant(QString::fromUtf8(content)));
-    }
+    if (formats & 1)
+        mime.setData("application/x-color", content);
+    if (formats & 2)
+        mime.setData("text/uri-list", content);
+    if (formats & 4)
+        mime.setText(QString::fromUtf8(content));
+    if (formats & 8)
+        mime.setData("application/x-qabstractitemmodeldatalist", content);
+    if (formats & 16)
+        mime.setColorData(QVariant(QString::fromUtf8(content)));
     const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
     QDragEnterEvent enter({5, 5}, actions, &mime, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &enter);
     QDragMoveEvent move({6, 6}, actions, &mime, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &move);
     QDropEvent drop({6, 6}, actions, &mime, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &drop);
+    for (QEvent *event : std::initializer_list<QEvent *>{&enter, &move, &drop})
+        QCoreApplication::sendEvent(target, event);
 }
 
 [[maybe_unused]] void feedDrops(const QByteArray &data)
@@ -108,13 +105,13 @@ void dropOn(QWidget *target, const QByteArray &data)
         promise(stop.first >= 0.0 && stop.first <= 1.0);
     for (char byte : data.left(16)) {
         const int x = static_cast<unsigned char>(byte);
-        const auto send = [x](QEvent::Type type, int y, Qt::MouseButtons buttons) {
-            QMouseEvent event(type, QPointF(x, y), QPointF(x, y), Qt::LeftButton, buttons, {});
+        const auto send = [](QEvent::Type type, QPointF place, Qt::MouseButtons buttons) {
+            QMouseEvent event(type, place, place, Qt::LeftButton, buttons, {});
             QCoreApplication::sendEvent(&editor, &event);
         };
-        send(QEvent::MouseButtonPress, x % 60, Qt::LeftButton);
-        send(QEvent::MouseMove, x * 2, Qt::LeftButton);
-        send(QEvent::MouseButtonRelease, x, Qt::NoButton);
+        send(QEvent::MouseButtonPress, QPointF(x, x % 60), Qt::LeftButton);
+        send(QEvent::MouseMove, QPointF(x, x * 2), Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, QPointF(x, x), Qt::NoButton);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         promise(editor.getSliderNum() >= 2);
     }
@@ -154,13 +151,10 @@ void dropOn(QWidget *target, const QByteArray &data)
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int argc = 1;
-    static char name[] = "fuzz";
-    static char *argv[] = {name, nullptr};
-    static QApplication application(argc, argv);
+    static QApplication application(*argc, *argv);
     static DarkUX theme;
     QApplication::setStyle(theme.style());
     return 0;
