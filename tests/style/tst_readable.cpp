@@ -197,8 +197,6 @@ public:
                                    true);
     }
 
-    QWidget *control() const { return m_control; }
-
     QImage picture(bool on)
     {
         toggle(m_control, m_sample.toggled, on);
@@ -274,12 +272,6 @@ public:
     mutable int boxes = 0;
 };
 
-const Sample &sampleNamed(const QString &name)
-{
-    return *std::find_if(samples().begin(), samples().end(),
-                         [&](const Sample &sample) { return sample.name() == name; });
-}
-
 } // namespace
 
 class TestReadable : public QObject
@@ -291,7 +283,6 @@ private Q_SLOTS:
     void contrasts_data();
     void contrasts();
     void palettes();
-    void exactFaceBeside();
     void focusByKeyboardOnly();
     void polishing();
     void listsOfComboBoxesBelowAHostsProxy();
@@ -340,22 +331,6 @@ void TestReadable::palettes()
             QVERIFY(between(P::Highlight, P::Base) >= 3.0);
         }
     }
-}
-
-/// What one face keeps, the other does not show, though both have the same palette.
-void TestReadable::exactFaceBeside()
-{
-    DarkFusionStyle exact;
-    const auto picture = [&](QStyle *style) {
-        Stage stage(sampleNamed("combo box, editable: text"), State::Hovered, Qt::RightToLeft);
-        stage.control()->setStyle(style);
-        return stage.picture(true);
-    };
-    QPixmapCache::clear();
-    const QImage before = picture(&exact);
-    QPixmapCache::clear();
-    QVERIFY(picture(QApplication::style()) != before);
-    QCOMPARE(picture(&exact), before);
 }
 
 void TestReadable::focusByKeyboardOnly()
