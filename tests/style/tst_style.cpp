@@ -108,9 +108,8 @@ void TestStyle::palettes()
     halfText.setAlpha(128);
     QCOMPARE(themed.color(QPalette::Disabled, QPalette::PlaceholderText), halfText);
 
-    QPalette other = themed; // what the theme has no colour for stays as it is set
-    for (auto role : {QPalette::Window, QPalette::Text, QPalette::Link})
-        other.setColor(role, Qt::green);
+    QPalette other = themed;
+    other.setColor(QPalette::Link, Qt::green);
     theme.setPalette(other, false);
     QCOMPARE(theme.palette(), other);
     QCOMPARE(theme.defaultPalette(), plain);
