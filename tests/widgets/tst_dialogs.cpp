@@ -166,22 +166,10 @@ private Q_SLOTS:
         choose(chooser, m_clip);
         choose(chooser);
         QCOMPARE(heard, QStringList({m_clip, m_clip, m_clip}));
-        QCOMPARE(chooser.fileName(), m_clip);
-    }
-
-    void directoriesOnly()
-    {
-        const auto look = [](QFileDialog *dialog) {
-            QVERIFY(dialog->testOption(QFileDialog::ShowDirsOnly));
-        };
-        FileChooser chooser;
         chooser.setMode(FileChooser::OpenDirectory);
-        choose(chooser, m_dir.path(), look);
-        ComboFileChooser combo;
-        combo.setMode(ComboFileChooser::OpenDirectory);
-        choose(combo, m_dir.path(), look);
+        choose(chooser, m_dir.path(),
+               [](QFileDialog *dialog) { QVERIFY(dialog->testOption(QFileDialog::ShowDirsOnly)); });
         QCOMPARE(chooser.fileName(), m_dir.path());
-        QCOMPARE(combo.fileName(), m_dir.path());
     }
 
     void filters()
@@ -215,8 +203,7 @@ private Q_SLOTS:
         ComboFileChooser chooser;
         auto *combo = chooser.findChild<ComboBox *>();
         QCOMPARE(chooser.focusProxy(), combo);
-        chooser.addItem("a");
-        chooser.addItems({"b", "c"});
+        chooser.addItems({"a", "b", "c"});
         chooser.setFileName("b");
         QCOMPARE(chooser.fileName(), QString("b"));
         QStringList heard;
@@ -273,17 +260,15 @@ private Q_SLOTS:
                 QCOMPARE(image.pixelColor(x, y).alpha(), mask.contains(QPoint(x, y)) ? 255 : 0);
         }
         const int right = size.width() - 1;
-        const int bottom = size.height() - 1;
         const QRect body(0, top ? 18 : 0, size.width(), size.height() - 18);
         const QColor paper(255, 255, 225);
-        TestSupport::comparePixels(
-            image, Qt::transparent,
-            {body.topLeft(), body.bottomRight(), {right / 2, top ? 10 : bottom - 9}});
+        TestSupport::comparePixels(image, Qt::transparent, {body.topLeft(), body.bottomRight()});
         TestSupport::comparePixels(
             image, paper.darker(160),
             {{right / 2, body.top()}, {right / 2, body.bottom()}, {0, body.center().y()}});
         COMPARE_PIXEL(image, 2, body.center().y(), paper);
-        QCOMPARE(mask.contains(QPoint(left ? 20 : right - 20, top ? 10 : bottom - 9)), arrow);
+        const QPoint inArrow(left ? 20 : right - 20, top ? 10 : size.height() - 10);
+        QCOMPARE(mask.contains(inArrow), arrow);
 
         // It stays on the screen.
         balloon = show(QPoint(left ? 1 : screen.right() - 1, 100));

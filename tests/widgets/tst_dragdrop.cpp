@@ -7,7 +7,6 @@
 #include <nocturne/DarkUX>
 #include <nocturne/ListWidget>
 #include <nocturne/SimpleListWidget>
-#include <nocturne/SpinBox>
 
 #include <QtCore/QMimeData>
 #include <QtCore/QUrl>
@@ -181,26 +180,6 @@ private Q_SLOTS:
         // Dragged out and back again, a color has not changed.
         dragAndDrop(sourceGeometry.center(), sourceGeometry.center() + QPoint(60, 40));
         QCOMPARE(clicked.count() + left.count(), 0);
-    }
-
-    /// Far out of the window and back is one drag.
-    void acrossASpinBox()
-    {
-        QWidget window;
-        window.setGeometry(listGeometry);
-        SpinBox box(&window);
-        box.setGeometry(20, 20, 120, 24);
-        box.setRange(-1000, 1000);
-        QSignalSpy changes(&box, QOverload<double, bool>::of(&SpinBox::valueChanged));
-        window.setFocusPolicy(Qt::StrongFocus);
-        window.setFocus();
-        QVERIFY(TestSupport::showActive(&window));
-        const QPoint start = box.mapToGlobal(box.rect().center());
-        pointer({at(start), "mousedown 1", at(start + QPoint(10, 0)), at(start + QPoint(10, -100)),
-                 at(start + QPoint(400, -100)), at(start + QPoint(5, 0)), "mouseup 1"});
-        QCOMPARE(changes,
-                 QList<QVariantList>({{10.0, true}, {110.0, false}, {500.0, false}, {5.0, false}}));
-        QVERIFY(!QWidget::mouseGrabber());
     }
 
     void aClickOpensACheckComboBox()

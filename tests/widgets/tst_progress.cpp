@@ -107,7 +107,6 @@ private Q_SLOTS:
         QFont loud("monospace", 40, QFont::Bold, true);
         loud.setFamilies({"monospace"});
         loud.setUnderline(true);
-        loud.setOverline(true);
         loud.setStrikeOut(true);
         loud.setStretch(200);
         loud.setLetterSpacing(QFont::AbsoluteSpacing, 5);
