@@ -24,7 +24,7 @@
 namespace {
 
 /// A step is the seed of its dice, so any part of a script can be replayed on its own.
-using Script = std::vector<quint32>;
+using Script = QVector<quint32>;
 
 /// Warnings of the toolkit that say nothing about the library.
 const char *const expectedWarnings[] = {
@@ -454,7 +454,7 @@ QString run(const Subject &subject, const Script &script)
 {
     failure.clear();
     {
-        Monkey monkey(subject, script.empty() ? 0 : script.front());
+        Monkey monkey(subject, script.value(0));
         for (quint32 step : script) {
             monkey.step(step);
             if (!failure.isEmpty())
@@ -477,9 +477,8 @@ QString replayText(const Script &script)
 QString runApart(const char *name, const Script &script, quint64 *events = nullptr)
 {
     QTemporaryFile file;
-    file.open();
-    file.write(replayText(script).toLatin1());
-    file.close();
+    if (!file.open() || file.write(replayText(script).toLatin1()) < 0 || !file.flush())
+        return "cannot write a script";
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QCoreApplication::applicationFilePath(),
@@ -510,12 +509,10 @@ Script shortened(const char *name, Script script, const QString &wrong)
 {
     QElapsedTimer clock;
     clock.start();
-    for (std::size_t part = script.size() / 2; part > 0; part /= 2) {
-        for (std::size_t at = 0; at < script.size() && clock.elapsed() < 300000;) {
+    for (int part = int(script.size()) / 2; part > 0; part /= 2) {
+        for (int at = 0; at < script.size() && clock.elapsed() < 300000;) {
             Script shorter = script;
-            const auto from = shorter.begin() + static_cast<std::ptrdiff_t>(at);
-            const auto to = from + static_cast<std::ptrdiff_t>(std::min(part, script.size() - at));
-            shorter.erase(from, to);
+            shorter.remove(at, std::min(part, int(script.size()) - at));
             if (kindOf(runApart(name, shorter)) == kindOf(wrong))
                 script = shorter;
             else
