@@ -56,7 +56,6 @@ private Q_SLOTS:
     void contentSizes();
     void standardIcons();
     void polishing();
-    void itemText();
 
     void baseOfProxy();
     void menuItemTexts();
@@ -230,24 +229,6 @@ void TestStyle::polishing()
     }
     // The style alone leaves the light palette; the dark one is the theme's.
     QVERIFY(m_style.standardPalette().color(QPalette::Window).lightness() > 200);
-}
-
-/// In the colour of its role, or else of the painter.
-void TestStyle::itemText()
-{
-    for (QPalette::ColorRole role : {QPalette::ButtonText, QPalette::NoRole}) {
-        const QImage image = picture([&](QPainter &painter) {
-            painter.setPen(Qt::green);
-            QPalette palette;
-            palette.setColor(QPalette::ButtonText, Qt::red);
-            m_style.drawItemText(&painter, everything, Qt::AlignCenter, palette, false, "MMM",
-                                 role);
-        });
-        QCOMPARE(image, picture([&](QPainter &painter) {
-                     painter.setPen(role == QPalette::NoRole ? Qt::green : Qt::red);
-                     painter.drawText(everything, Qt::AlignCenter, "MMM");
-                 }));
-    }
 }
 
 namespace {

@@ -19,7 +19,6 @@ namespace StylePainting {
 
 constexpr QStyle::State enabled = QStyle::State_Enabled | QStyle::State_Active;
 inline const QSize canvas(120, 60);
-inline const QRect everything(QPoint(), canvas);
 inline const QColor background(0x20, 0x40, 0x60);
 
 /// What stands in a file beside the tests of the style.
