@@ -1,6 +1,7 @@
-// How often the caches of drawings and of text have what a minute of use asks for: a window full of
-// views and controls, resized, swept by the pointer, and with values that change, thirty times a
-// second. Then the window as it was at first, to tell whether one-off sizes have pushed that out.
+// How often the caches of drawings, of text and of text on its ground have what a minute of use
+// asks for: a window full of views and controls, resized, swept by the pointer, and with values
+// that change, thirty times a second. Then the window as it was at first, to tell whether one-off
+// sizes have pushed that out.
 
 #include "darkapplication.h"
 #include "panel.h"
@@ -84,12 +85,6 @@ void valueStep(QMainWindow *window, int step)
         box->setValue(step % 100);
 }
 
-struct Uses
-{
-    Nocturne::CacheUse pixmaps;
-    Nocturne::CacheUse texts;
-};
-
 double percent(const Nocturne::CacheUse &use)
 {
     return use.lookUps ? 100.0 * double(use.hits) / double(use.lookUps) : 100.0;
@@ -97,18 +92,20 @@ double percent(const Nocturne::CacheUse &use)
 
 /// Takes \a steps steps, lets the window repaint after each, and prints what was found.
 template <typename Step>
-Uses use(const char *name, QMainWindow *window, int steps, Step step)
+void use(const char *name, QMainWindow *window, int steps, Step step)
 {
-    Nocturne::keptPixmapUse = {};
-    Nocturne::keptTextUse = {};
+    const std::initializer_list<Nocturne::CacheUse *> uses = {
+        &Nocturne::keptPixmapUse, &Nocturne::keptTextUse, &Nocturne::textPictureUse};
+    for (Nocturne::CacheUse *use : uses)
+        *use = {};
     for (int i = 0; i < steps; ++i) {
         step(window, i);
         QCoreApplication::processEvents();
     }
-    const Uses uses{Nocturne::keptPixmapUse, Nocturne::keptTextUse};
-    std::printf("%-44s %12llu %8.1f %% %12llu %8.1f %%\n", name, uses.pixmaps.lookUps,
-                percent(uses.pixmaps), uses.texts.lookUps, percent(uses.texts));
-    return uses;
+    std::printf("%-36s", name);
+    for (const Nocturne::CacheUse *use : uses)
+        std::printf(" %9llu %7.1f %%", use->lookUps, percent(*use));
+    std::printf("\n");
 }
 
 } // namespace
@@ -120,7 +117,10 @@ int main(int argc, char *argv[])
     window->show();
     QCoreApplication::processEvents();
 
-    std::printf("%-44s %12s %10s %12s %10s\n", "", "drawings", "found", "texts", "found");
+    std::printf("%-36s", "");
+    for (const char *cache : {"drawings", "texts", "pictures"})
+        std::printf(" %9s %9s", cache, "found");
+    std::printf("\n");
     const auto repaint = [](QMainWindow *repainted, int) { repainted->repaint(); };
     use("a repaint, all kept", window.get(), stepsPerSecond, repaint);
     use("20 seconds of resizing", window.get(), 20 * stepsPerSecond, resizeStep);

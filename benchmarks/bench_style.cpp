@@ -660,7 +660,9 @@ public:
     {
         if (m_changes)
             m_specimen.change(m_step++);
-        m_specimen.control->render(&m_canvas, QPoint(), QRegion(), QWidget::DrawChildren);
+        // On the ground of its window, as on a screen: not over what was painted the last time.
+        m_specimen.control->render(&m_canvas, QPoint(), QRegion(),
+                                   QWidget::DrawWindowBackground | QWidget::DrawChildren);
     }
 
 private:

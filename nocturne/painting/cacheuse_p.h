@@ -19,8 +19,9 @@ struct CacheUse
     }
 };
 
-inline CacheUse keptPixmapUse; ///< drawings and arrows of the style
-inline CacheUse keptTextUse;   ///< shaped lines, shortened texts and measures
+inline CacheUse keptPixmapUse;  ///< drawings and arrows of the style
+inline CacheUse keptTextUse;    ///< shaped lines, shortened texts and measures
+inline CacheUse textPictureUse; ///< lines together with their ground
 
 } // namespace Nocturne
 

@@ -1,6 +1,7 @@
 #include "kepttext_p.h"
 
 #include "cacheuse_p.h"
+#include "textpicture_p.h"
 
 #include <nocturne/theme/qtversion_p.h>
 
@@ -57,6 +58,7 @@ uint qHash(const LineKey &key, uint seed = 0)
 struct Line
 {
     std::unique_ptr<QTextLayout> layout;
+    mutable TextPicture picture;
     qreal advance = 0.0; ///< what alignment goes by
     qreal width = 0.0;   ///< up to the end of the last glyph, should it hang over
     qreal height = 0.0;
@@ -127,6 +129,7 @@ void forget()
     lines().clear();
     elidedTexts().clear();
     measures().clear();
+    TextPicture::forget();
 }
 
 /// Forgets what is kept as soon as the fonts that it is made of may be gone: with each change of
@@ -312,7 +315,7 @@ void drawInside(QPainter *painter, const QRectF &rect, const Line &line, int fla
     const QPointF room(rect.width() - line.advance, rect.height() - line.height);
     const QPointF offset(room.x() * horizontalShare(flags, mirrored),
                          room.y() * verticalShare(flags));
-    line.layout->draw(painter, rect.topLeft() + offset);
+    line.picture.draw(painter, *line.layout, rect.topLeft() + offset);
 }
 
 bool fits(const Line &line, const QRectF &rect)
@@ -430,7 +433,8 @@ void drawElidedLine(QPainter *painter, const QRect &rect, Qt::Alignment alignmen
         return;
     const qreal x = (rect.width() - line->advance)
                     * horizontalShare(int(alignment), direction == Qt::RightToLeft);
-    line->layout->draw(painter, QPointF(rect.x() + x, wholeTop(rect, height, int(alignment))));
+    line->picture.draw(painter, *line->layout,
+                       QPointF(rect.x() + x, wholeTop(rect, height, int(alignment))));
 }
 
 QRect boundingRect(const QFontMetrics &metrics, const QString &text)
