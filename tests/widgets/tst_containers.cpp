@@ -112,8 +112,14 @@ private Q_SLOTS:
         QCOMPARE(bar->tabRect(1), QRect(90, 0, 90, 30));
         tabs.setTabBarWidth(120);
         QCOMPARE(bar->tabRect(1), QRect(120, 0, 120, 30));
-        bar->setWidth(130);
-        QCOMPARE(bar->tabRect(1), QRect(130, 0, 130, 30));
+        TabBar alone;
+        for (const char *text : {"Media", "Audio"})
+            alone.addTab(text);
+        QVERIFY(TestSupport::showExposed(&alone));
+        alone.adjustSize();
+        alone.setWidth(130);
+        QCOMPARE(alone.tabRect(1), QRect(130, 0, 130, 30));
+        QCOMPARE(alone.width(), 260);
     }
 
     void splitterHandle()
