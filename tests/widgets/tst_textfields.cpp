@@ -254,9 +254,11 @@ private Q_SLOTS:
                 QCOMPARE(changes, QList<QVariantList>{{QVariant::fromValue(sequence)}});
         };
         const int shift = Qt::SHIFT;
-        const int allModifiers = shift | Qt::CTRL | Qt::ALT | Qt::META;
-        compare(Qt::Key_S, Qt::CTRL, "\x13", Qt::CTRL | Qt::Key_S);
-        compare(Qt::Key_5, Qt::KeypadModifier, "5", Qt::KeypadModifier | Qt::Key_5);
+        const int control = Qt::CTRL;
+        const int keypad = Qt::KeypadModifier;
+        const int allModifiers = shift | control | Qt::ALT | Qt::META;
+        compare(Qt::Key_S, control, "\x13", control | Qt::Key_S);
+        compare(Qt::Key_5, keypad, "5", keypad | Qt::Key_5);
         compare(Qt::Key_Question, 0, "?", Qt::Key_Question);
         for (const char *text : {"x", "??"})
             compare(Qt::Key_Question, shift, text, shift | Qt::Key_Question);
