@@ -88,6 +88,12 @@ bool isItemElement(QStyle::SubElement element)
            || element == QStyle::SE_ItemViewItemFocusRect;
 }
 
+bool isProgressElement(QStyle::SubElement element)
+{
+    return element == QStyle::SE_ProgressBarGroove || element == QStyle::SE_ProgressBarContents
+           || element == QStyle::SE_ProgressBarLabel;
+}
+
 } // namespace
 
 QSize DarkFusionStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
@@ -142,14 +148,12 @@ QRect DarkFusionStyle::subElementRect(SubElement element, const QStyleOption *op
         if (const auto *item = Nocturne::ItemView::plainItem(this, option, widget))
             return Nocturne::ItemView::elementRect(this, element, *item, widget);
     }
+    if (isProgressElement(element))
+        return option->rect; // whatever the text needs, which the common style would measure
     const QRect rect = QCommonStyle::subElementRect(element, option, widget);
     switch (element) {
     case SE_PushButtonFocusRect:
         return rect.adjusted(0, 1, 0, -1);
-    case SE_ProgressBarGroove:
-    case SE_ProgressBarContents:
-    case SE_ProgressBarLabel:
-        return option->rect;
     case SE_DockWidgetTitleBarText:
         return dockTitleTextRect(option, rect);
     default:
