@@ -343,10 +343,9 @@ void TestStyleElements::elements()
         m_row.clip = rect(settings.take("clip"));
     const bool isMirrored = settings.remove("mirrored");
     const bool isReadable = settings.remove("readable");
-    const bool isSolid = settings.remove("solid");
-    m_recorder.isTransient = !isSolid;
+    m_recorder.isTransient = !settings.remove("solid");
     m_row.style = m_style.get();
-    if (isSolid)
+    if (!m_recorder.isTransient)
         m_row.style = &m_recorder;
     if (isReadable)
         m_row.style = &m_readable;
