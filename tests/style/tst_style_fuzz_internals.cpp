@@ -31,7 +31,7 @@ namespace KeptText = Nocturne::KeptText;
 namespace {
 
 /// More are tried by hand: NOCTURNE_SEEDS=100 tst_style_fuzz_internals
-const int textRounds = 1000 * qMax(1, qEnvironmentVariableIntValue("NOCTURNE_SEEDS"));
+const int textRounds = 2000 * qMax(1, qEnvironmentVariableIntValue("NOCTURNE_SEEDS"));
 constexpr int styleRounds = 40000;
 
 /// The elements that the style paints itself, as its table lists them; the common style does not
