@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 namespace Nocturne::KeptText {
 
@@ -112,6 +113,31 @@ QCache<LineKey, Line> &lines()
     return cache;
 }
 
+/// The line that was asked for last. A view asks for the same several times for each item, with
+/// copies of one text and one font, which are told at a glance.
+struct LastLine
+{
+    QString text;
+    QFont font;
+    Qt::LayoutDirection direction;
+    Mnemonic mnemonic;
+    const Line *line;
+
+    bool is(const QFont &askedFont, const QString &askedText, Qt::LayoutDirection askedDirection,
+            Mnemonic askedMnemonic) const
+    {
+        return text.constData() == askedText.constData() && text.size() == askedText.size()
+               && direction == askedDirection && mnemonic == askedMnemonic
+               && font.isCopyOf(askedFont);
+    }
+};
+
+std::optional<LastLine> &lastLine()
+{
+    static std::optional<LastLine> line;
+    return line;
+}
+
 QCache<ElidedKey, QString> &elidedTexts()
 {
     static QCache<ElidedKey, QString> cache(keptMeasures);
@@ -126,6 +152,7 @@ QCache<MeasureKey, Measured> &measures()
 
 void forget()
 {
+    lastLine().reset();
     lines().clear();
     elidedTexts().clear();
     measures().clear();
@@ -255,16 +282,20 @@ const Line *keptLine(const QFont &font, const QString &text, Qt::LayoutDirection
 {
     if (!QtVersion::keepsText || text.isEmpty() || text.size() > longestKept || !isGuiThread())
         return nullptr;
-    const LineKey key{text, font, fontDpi(font), direction, mnemonic};
-    const Line *line = lines().object(key);
-    keptTextUse.count(line);
-    if (!line) {
-        fontWatch().start();
-        auto *shaped = shapedLine(key).release();
-        lines().insert(key, shaped, lineBytes + unitBytes * int(text.size()));
-        line = shaped;
+    std::optional<LastLine> &last = lastLine();
+    if (!last || !last->is(font, text, direction, mnemonic)) {
+        const LineKey key{text, font, fontDpi(font), direction, mnemonic};
+        const Line *line = lines().object(key);
+        keptTextUse.count(line);
+        if (!line) {
+            fontWatch().start();
+            auto *shaped = shapedLine(key).release();
+            lines().insert(key, shaped, lineBytes + unitBytes * int(text.size()));
+            line = shaped;
+        }
+        last = LastLine{text, font, direction, mnemonic, line};
     }
-    return line->layout ? line : nullptr;
+    return last->line->layout ? last->line : nullptr;
 }
 
 /// The same, and null for a painter that had better shape the text itself.
