@@ -12,6 +12,9 @@
 class JackServer
 {
 public:
+    /// Bytes of /dev/shm that a server takes, whatever its ports.
+    static constexpr qint64 sharedMemory = qint64(42) * 1024 * 1024;
+
     ~JackServer() { stop(); }
 
     static bool isInstalled()
