@@ -262,7 +262,7 @@ std::vector<Subject> makeSubjects()
             "",
             [](auto *w, Dice &d) {
                 w->setCurrentColor(colorBy(d));
-                w->setColorChoose(d.coin() ? nullptr : new QColorDialog);
+                w->setColorChoose(d.coin() ? nullptr : new QColorDialog(w));
                 w->setRamp(rampBy(d));
                 w->getSliderAlpha(d.extremeInt());
             },

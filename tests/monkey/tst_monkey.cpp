@@ -589,9 +589,11 @@ int main(int argc, char *argv[])
                 continue;
             verdict = "FAILED";
             ++failures;
+            std::printf("%s fails with seed %u, and is cut down: %s\n", subject.name, seed,
+                        qPrintable(wrong));
+            std::fflush(stdout);
             const Script shortest = shortened(subject.name, script, wrong);
-            std::printf("%s fails with seed %u: %s\nreplay with: --class %s --replay %s\n",
-                        subject.name, seed, qPrintable(wrong), subject.name,
+            std::printf("replay with: --class %s --replay %s\n", subject.name,
                         qPrintable(replayText(shortest)));
         }
         std::printf("%-20s %9llu events %s\n", subject.name,
