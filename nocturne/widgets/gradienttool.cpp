@@ -68,7 +68,13 @@ GradientTool::GradientTool(QWidget *parent)
 
 GradientTool::~GradientTool()
 {
-    delete m_colorDialog;
+    if (m_colorDialog && m_colorDialog->isVisible()) {
+        // An open dialog may be in the middle of a signal that led here.
+        m_colorDialog->hide();
+        m_colorDialog->deleteLater();
+    } else {
+        delete m_colorDialog;
+    }
 }
 
 QVector<QPair<double, QColor>> GradientTool::getRamp() const

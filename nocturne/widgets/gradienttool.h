@@ -86,8 +86,9 @@ public:
     void setCurrentColor(const QColor &color);
 
     /// The dialog that a double-click opens from now on; with null a double-click opens none. The
-    /// editor shows the dialog's colours as they change, and deletes it in its destructor unless
-    /// it was replaced before. A dialog that the editor had made itself is deleted now.
+    /// editor shows the dialog's colours as they change, and deletes it in its destructor, or right
+    /// after it while the dialog is open, unless it was replaced before. A dialog that the editor
+    /// had made itself is deleted now.
     void setColorChoose(QColorDialog *dialog);
 
     /// Kept for the host.

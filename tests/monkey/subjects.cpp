@@ -262,7 +262,10 @@ std::vector<Subject> makeSubjects()
             "",
             [](auto *w, Dice &d) {
                 w->setCurrentColor(colorBy(d));
-                w->setColorChoose(d.coin() ? nullptr : new QColorDialog(w));
+                auto *dialog = d.coin() ? nullptr : new QColorDialog;
+                if (dialog) // a child would be deleted inside of its own signals
+                    QObject::connect(w, &QObject::destroyed, dialog, &QObject::deleteLater);
+                w->setColorChoose(dialog);
                 w->setRamp(rampBy(d));
                 w->getSliderAlpha(d.extremeInt());
             },
