@@ -206,7 +206,8 @@ void setModel(QAbstractItemView *view, Dice &dice)
 void useCombo(QComboBox *combo, Dice &dice)
 {
     combo->addItem(dice.text());
-    if (dice.roll(3) == 0)
+    // The toolkit's popup tells its highlighted item in the middle of a removal.
+    if (dice.roll(3) == 0 && !combo->view()->isVisible())
         combo->removeItem(dice.roll(combo->count() + 1));
     if (dice.roll(3) == 0)
         combo->insertSeparator(dice.roll(5));

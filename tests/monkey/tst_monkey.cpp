@@ -364,6 +364,7 @@ private:
         } else if (what == 5) {
             send(widget, QEvent(coin ? QEvent::Leave : QEvent::WindowDeactivate));
         } else if (what == 6) {
+            m_armed = -1; // the toolkit's call does not outlive a widget that is deleted in it
             widget->setFocus(reason);
         } else {
             auto *menu = new QMenu(m_window.get());
@@ -498,22 +499,34 @@ QString runApart(const char *name, const Script &script, quint64 *events = nullp
     return QString::fromLocal8Bit(output.right(6000));
 }
 
-/// What went wrong without the numbers in it, to tell whether two failures are alike.
-QString kindOf(QString wrong)
+/// What went wrong without the numbers in it, to tell whether two failures are alike; of a
+/// checker's report, its summary.
+QString kindOf(const QString &wrong)
 {
-    return wrong.remove(QRegularExpression("[0-9]+"));
+    return wrong.mid(qMax(0, int(wrong.indexOf("SUMMARY:"))))
+        .remove(QRegularExpression("0x[0-9a-f]+|[0-9]+"));
 }
 
-/// Leaves out ever smaller parts of \a script while it goes on failing.
+/// Leaves out what comes after the step that fails, and then ever smaller parts of \a script while
+/// it goes on failing.
 Script shortened(const char *name, Script script, const QString &wrong)
 {
     QElapsedTimer clock;
     clock.start();
+    const auto fails = [&](const Script &part) {
+        return kindOf(runApart(name, part)) == kindOf(wrong);
+    };
+    int passing = 0;
+    for (int failing = int(script.size()); failing - passing > 1;) {
+        const int middle = (passing + failing) / 2;
+        (fails(script.mid(0, middle)) ? failing : passing) = middle;
+    }
+    script.resize(passing + 1);
     for (int part = int(script.size()) / 2; part > 0; part /= 2) {
         for (int at = 0; at < script.size() && clock.elapsed() < 300000;) {
             Script shorter = script;
             shorter.remove(at, std::min(part, int(script.size()) - at));
-            if (kindOf(runApart(name, shorter)) == kindOf(wrong))
+            if (fails(shorter))
                 script = shorter;
             else
                 at += part;
