@@ -56,7 +56,8 @@ void LetterBoxWidget::resizeWidget()
         return;
     const QSize ratio = m_widget->sizeIncrement();
     QSize fitting = ratio.isEmpty() ? size() : ratio.scaled(size(), Qt::KeepAspectRatio);
-    fitting -= QSize(2 * m_margin, 2 * m_margin);
+    const int margin = qBound(-QWIDGETSIZE_MAX, m_margin, QWIDGETSIZE_MAX);
+    fitting -= QSize(2 * margin, 2 * margin);
     fitting = QLayout::closestAcceptableSize(m_widget, fitting).expandedTo(QSize(0, 0));
     m_widget->setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, fitting, rect()));
 }

@@ -230,7 +230,7 @@ std::vector<Subject> makeSubjects()
 {
     return {
         subject<CheckBox>("text"),
-        subject<CheckComboBox>("clear",
+        subject<CheckComboBox>("",
                                [](auto *w, Dice &d) {
                                    useCombo(w, d);
                                    w->addCheckItem(d.text(), d.roll(9),
@@ -243,7 +243,7 @@ std::vector<Subject> makeSubjects()
             "", [](auto *w, Dice &d) { d.coin() ? w->startFlicker() : w->stopFlicker(); }),
         subject<ColorButton>(""),
         subject<ColorToolButton>("text"),
-        subject<ComboBox>("clear currentIndex editable",
+        subject<ComboBox>("currentIndex editable",
                           [](auto *w, Dice &d) {
                               w->addParentItem(d.text());
                               w->addChildItem(d.text(), d.roll(9));
