@@ -1,8 +1,11 @@
 #include "simplelistwidget.h"
 
+#include "droppeditems_p.h"
+
 #include <QtCore/QMimeData>
 #include <QtGui/QCursor>
 #include <QtGui/QDrag>
+#include <QtGui/QDropEvent>
 #include <QtGui/QPainter>
 
 SimpleListWidget::SimpleListWidget(QWidget *parent)
@@ -39,4 +42,12 @@ QPixmap SimpleListWidget::dragPixmap() const
             painter.drawPixmap(row.topLeft(), viewport()->grab(row));
     }
     return pixmap;
+}
+
+void SimpleListWidget::dropEvent(QDropEvent *event)
+{
+    if (Nocturne::hasSoundItems(event))
+        QListWidget::dropEvent(event);
+    else
+        event->ignore();
 }

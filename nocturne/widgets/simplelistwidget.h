@@ -8,7 +8,8 @@
 /// A list whose dragged items look as they do in the list, where they are in the list.
 ///
 /// A drag is a move unless the user or the target wants otherwise. The list doesn't remove what
-/// another widget has taken; it is for the host to do so.
+/// another widget has taken; it is for the host to do so. Items of another program are declined
+/// when they carry what the toolkit could not take safely.
 ///
 /// \code
 /// auto *scenes = new SimpleListWidget(panel);
@@ -25,6 +26,7 @@ public:
 
 protected:
     void startDrag(Qt::DropActions supportedActions) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     QPixmap dragPixmap() const;

@@ -1,9 +1,11 @@
 #include "treewidget.h"
 
-#include <nocturne/painting/edgeshadow_p.h>
+#include "droppeditems_p.h"
 
+#include <nocturne/painting/edgeshadow_p.h>
 #include <nocturne/painting/themepaint_p.h>
 
+#include <QtGui/QDropEvent>
 #include <QtGui/QPaintEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QScrollBar>
@@ -146,4 +148,12 @@ int TreeWidget::scrolledPixels(int dy) const
             row = indexBelow(row);
     }
     return dy < 0 ? -pixels : pixels;
+}
+
+void TreeWidget::dropEvent(QDropEvent *event)
+{
+    if (Nocturne::hasSoundItems(event))
+        QTreeWidget::dropEvent(event);
+    else
+        event->ignore();
 }

@@ -10,7 +10,8 @@
 ///
 /// The shadow at the top shows as soon as the tree is scrolled down, the one at the bottom while
 /// verticalOffset() is less than the maximum of the vertical scroll bar. Owns its items, as every
-/// QTreeWidget does.
+/// QTreeWidget does. Items of another program are declined when they carry what the toolkit could
+/// not take safely.
 ///
 /// \code
 /// auto *bins = new TreeWidget(parent);
@@ -26,6 +27,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,

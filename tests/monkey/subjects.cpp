@@ -323,7 +323,7 @@ std::vector<Subject> makeSubjects()
             [](auto *w, Dice &d) {
                 w->setDataColors(rampBy(d));
                 w->setTitle(d.text(), QFont(), QFont(), d.extremeDouble(), d.coin());
-                (void)w->humanReadableSize(qint64(d.extremeInt()) << d.roll(32));
+                (void)w->humanReadableSize(d.extremeInt() * (qint64(1) << d.roll(32)));
             },
             ascending("minimum value maximum")),
         subject<SearchLineEdit>("text"),

@@ -6,6 +6,7 @@
 #include <nocturne/IListItem>
 #include <nocturne/ItemDelegate>
 #include <nocturne/ListWidget>
+#include <nocturne/SimpleListWidget>
 #include <nocturne/TreeWidget>
 
 #include <QtCore/QDataStream>
@@ -350,23 +351,25 @@ private Q_SLOTS:
     /// with a length in front of it that the toolkit would believe.
     void itemsFromOutside()
     {
-        const auto countAfter = [](int row, const QVariant &value) {
+        const auto countAfter = [](auto list, int row, const QVariant &value) {
             QByteArray items;
             QDataStream(&items, QIODevice::WriteOnly)
                 << row << 0 << QMap<int, QVariant>{{Qt::DisplayRole, value}};
             QMimeData data;
             data.setData("application/x-qabstractitemmodeldatalist", items);
-            ListWidget list;
-            list.setDragDropMode(QAbstractItemView::DragDrop);
-            list.show();
-            TestSupport::drop(list.viewport(), data, QPoint(9, 9));
-            return list.count();
+            list->setDragDropMode(QAbstractItemView::DragDrop);
+            list->show();
+            TestSupport::drop(list->viewport(), data, QPoint(9, 9));
+            return list->model()->rowCount();
         };
-        QCOMPARE(countAfter(0, "A"), 1);
-        QCOMPARE(countAfter(0, QColor(Qt::red)), 1);
-        for (int row : {-1, INT_MAX})
-            QCOMPARE(countAfter(row, "A"), 0);
-        QCOMPARE(countAfter(0, QPolygon({{1, 1}})), 0);
+        QCOMPARE(countAfter(std::make_unique<ListWidget>(), 0, "A"), 1);
+        QCOMPARE(countAfter(std::make_unique<ListWidget>(), 0, QColor(Qt::red)), 1);
+        for (int row : {-1, INT_MAX}) {
+            QCOMPARE(countAfter(std::make_unique<ListWidget>(), row, "A"), 0);
+            QCOMPARE(countAfter(std::make_unique<SimpleListWidget>(), row, "A"), 0);
+            QCOMPARE(countAfter(std::make_unique<TreeWidget>(), row, "A"), 0);
+        }
+        QCOMPARE(countAfter(std::make_unique<ListWidget>(), 0, QPolygon({{1, 1}})), 0);
     }
 
     void delegateSizes()
