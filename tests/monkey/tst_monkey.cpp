@@ -184,6 +184,8 @@ private Q_SLOTS:
             m_widget->setEnabled(false);
         } else if (what == 3) {
             reparent(nullptr);
+        } else if (what == 4 && m_calling && qobject_cast<QMenu *>(m_widget)) {
+            m_widget->update(); // nor does the toolkit's popup() bear a nested loop
         } else if (what == 4) {
             // A popup whose appearance ends a gesture is not yet fit to be closed.
             m_closer.stop();
@@ -307,6 +309,8 @@ private:
             Qt::Key_Backtab, Qt::Key_Menu,   Qt::Key_unknown, Qt::Key_Shift,     Qt::Key_Z};
         const QPointer<QWidget> widget = target(dice);
         const int key = all[dice.roll(20)];
+        if (key == Qt::Key_Tab || key == Qt::Key_Backtab)
+            m_armed = -1; // as for setFocus() below
         const auto modifiers =
             static_cast<Qt::KeyboardModifiers>(dice.roll(3) ? 0 : dice.roll(8) << 25);
         const QString text = key >= Qt::Key_A && key <= Qt::Key_Z ? QString(QChar(key)) : QString();
