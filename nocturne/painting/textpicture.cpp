@@ -163,8 +163,10 @@ bool TextPicture::drawPicture(QPainter *painter, const QTextLayout &layout, cons
     if (m_ratio != ratio || m_hints != painter->renderHints())
         measure(layout, ratio, painter->renderHints());
 
-    // Where a line begins inside of a unit decides how its glyphs meet the pixels.
     const QTransform &transform = painter->deviceTransform();
+    if (!QRectF(image->rect()).contains(transform.map(position)))
+        return false;
+    // Where a line begins inside of a unit decides how its glyphs meet the pixels.
     const QPointF unit(qFloor(position.x()), qFloor(position.y()));
     const QPoint pixel = transform.map(unit).toPoint();
     const QRect rect = m_ink.translated(pixel);

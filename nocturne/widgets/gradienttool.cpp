@@ -94,10 +94,7 @@ void GradientTool::setRamp(const QVector<QPair<double, QColor>> &ramp)
     // then, since it is what gets the rest of the drag.
     GradientToolSlider *dragged =
         isDragging() && m_activeIndex < ramp.size() ? activeMarker() : nullptr;
-    for (const Stop &stop : std::as_const(m_stops)) {
-        if (stop.second != dragged)
-            discard(stop.second);
-    }
+    const QList<Stop> before = m_stops;
     m_stops.clear();
     for (const auto &entry : ramp) {
         const double position = boundedPosition(entry.first);
@@ -110,7 +107,15 @@ void GradientTool::setRamp(const QVector<QPair<double, QColor>> &ramp)
         m_dragIndex = -1;
         m_verticalFraction = 0.0;
     }
-    update();
+    // The new ramp is whole by now: a marker that goes passes the focus on, which is told, and a
+    // receiver may set the ramp anew or delete the editor.
+    const QPointer<GradientTool> self(this);
+    for (const Stop &stop : before) {
+        if (self && stop.second != dragged)
+            discard(stop.second);
+    }
+    if (self)
+        update();
 }
 
 QVector<unsigned int> GradientTool::getColorTable() const

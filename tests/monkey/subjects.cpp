@@ -157,8 +157,9 @@ Subject subject(const QString &named, const Use<Widget> &other = {}, const Check
         if (const int count = int(uses.size()))
             uses[std::size_t(dice.roll(count))](widget, dice);
     };
-    static const QByteArrayList late{"ComboFileChooser", "CroppingLabel", "FileChooser",
-                                     "FontComboBox",     "ListWidget",    "RangeSlider"};
+    static const QByteArrayList late{"CheckComboBox", "ComboFileChooser", "CroppingLabel",
+                                     "FileChooser",   "FontComboBox",     "ListWidget",
+                                     "RangeSlider"};
     return {meta.className(), create, call, check, late.contains(meta.className())};
 }
 

@@ -40,6 +40,8 @@ const char *const expectedWarnings[] = {
     "QFont::setPixelSize: ",
     "SpanSlider::triggerAction: Unknown action",
     "QDrag: No mimedata set",
+    // Items removed in the middle of a removal; the library itself removes none.
+    "QAbstractItemModel::endRemoveRows:  Invalid index",
     "Trying to construct an instance of an invalid type", // dropped items with values of no type
     "QSplitter",
     // A line edit's own: nothing of the library selects by position.
@@ -193,7 +195,7 @@ private Q_SLOTS:
             QTimer::singleShot(1, &loop, &QEventLoop::quit);
             loop.exec();
             m_closer.start(2);
-        } else {
+        } else if (!m_calling) { // the toolkit's models bear no change in the middle of another
             Dice inner(82);
             m_subject.call(m_widget, inner);
         }
