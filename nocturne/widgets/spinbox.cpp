@@ -117,8 +117,11 @@ void SpinBox::dragEnd(QMouseEvent *event)
 
 bool SpinBox::eventFilter(QObject *watched, QEvent *event)
 {
-    if (!isEnabled())
+    if (!isEnabled()) {
+        if (watched == this) // may have been disabled beneath the pointer
+            dropCursor();
         return false;
+    }
     if (event->type() == QEvent::Wheel) {
         event->ignore();
         return true;
