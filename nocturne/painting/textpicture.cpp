@@ -164,7 +164,11 @@ bool TextPicture::drawPicture(QPainter *painter, const QTextLayout &layout, cons
         measure(layout, ratio, painter->renderHints());
 
     const QTransform &transform = painter->deviceTransform();
-    if (!QRectF(image->rect()).contains(transform.map(position)))
+    const QPointF origin = transform.map(position);
+    const auto isInside = [](qreal at, int length) {
+        return at >= 0 && at < length;
+    }; // a NaN isn't
+    if (!isInside(origin.x(), image->width()) || !isInside(origin.y(), image->height()))
         return false;
     // Where a line begins inside of a unit decides how its glyphs meet the pixels.
     const QPointF unit(qFloor(position.x()), qFloor(position.y()));
