@@ -15,8 +15,8 @@ class QStandardItemModel;
 ///
 /// A press anywhere on an item toggles it, and the popup stays open; so does the space bar. The
 /// field can't be edited or selected; a press on it opens the popup. The wheel is left to the
-/// parent. The combo box owns its items. A slot that wants to delete it uses deleteLater(): the popup
-/// may be toggling an item at this moment.
+/// parent. The combo box owns its items. A slot that wants to delete it uses deleteLater(): the
+/// popup may be toggling an item at this moment.
 ///
 /// \code
 /// auto *outputs = new CheckComboBox(panel);
