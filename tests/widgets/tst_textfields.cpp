@@ -81,6 +81,8 @@ class TestTextFields : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanupTestCase() { delete m_theme.style(); } // no application has taken it
+
     void searchField()
     {
         QCOMPARE(SearchLineEdit().textMargins(), QMargins(4, 0, 0, 0)); // without a picture
