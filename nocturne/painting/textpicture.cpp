@@ -86,6 +86,22 @@ const QImage *canvas(const QPainter &painter)
     return isRead ? image : nullptr;
 }
 
+/// Whether what \a painter draws in its pen hides what is beneath.
+bool isOpaque(const QPainter &painter)
+{
+    const QPen &pen = painter.pen();
+    return painter.opacity() >= 1
+           && painter.compositionMode() == QPainter::CompositionMode_SourceOver
+           && pen.style() == Qt::SolidLine && pen.brush().style() == Qt::SolidPattern
+           && pen.color().alpha() == 255;
+}
+
+/// Whether \a at is a number from 0 to below \a length.
+bool isInside(qreal at, int length)
+{
+    return at >= 0 && at < length;
+}
+
 /// The ground of \a rect; empty when a row has several colours, or a pixel lets something through.
 Ground groundOf(const QImage &image, const QRect &rect)
 {
@@ -154,20 +170,13 @@ bool TextPicture::drawPicture(QPainter *painter, const QTextLayout &layout, cons
     }
     const QImage *image = canvas(*painter);
     const int ratio = wholeRatio(*painter);
-    if (!image || ratio < 1 || ratio > 2 || painter->opacity() < 1
-        || painter->compositionMode() != QPainter::CompositionMode_SourceOver
-        || painter->pen().style() != Qt::SolidLine
-        || painter->pen().brush().style() != Qt::SolidPattern
-        || painter->pen().color().alpha() < 255)
+    if (!image || ratio < 1 || ratio > 2 || !isOpaque(*painter))
         return false;
     if (m_ratio != ratio || m_hints != painter->renderHints())
         measure(layout, ratio, painter->renderHints());
 
     const QTransform &transform = painter->deviceTransform();
     const QPointF origin = transform.map(position);
-    const auto isInside = [](qreal at, int length) {
-        return at >= 0 && at < length;
-    }; // a NaN isn't
     if (!isInside(origin.x(), image->width()) || !isInside(origin.y(), image->height()))
         return false;
     // Where a line begins inside of a unit decides how its glyphs meet the pixels.

@@ -30,8 +30,6 @@ public:
     static void forget();
 
 private:
-    class Place;
-
     bool drawPicture(QPainter *painter, const QTextLayout &layout, const QPointF &position);
     void measure(const QTextLayout &layout, int ratio, QPainter::RenderHints hints);
     bool wasSeen(quint64 hash);
