@@ -22,7 +22,9 @@ public:
 
 Q_SIGNALS:
     /// The pointer left the menu. Emitted instead of what a menu otherwise does then: the
-    /// highlighted action stays highlighted.
+    /// highlighted action stays highlighted. A slot that wants to delete the menu uses
+    /// deleteLater(): the toolkit also sends a menu this event while it shows it or opens a
+    /// sub-menu, and goes on with it afterwards.
     void leaved();
 
 protected:

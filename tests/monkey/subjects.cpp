@@ -159,7 +159,7 @@ Subject subject(const QString &named, const Use<Widget> &other = {}, const Check
     };
     static const QByteArrayList late{"CheckComboBox", "ComboFileChooser", "CroppingLabel",
                                      "FileChooser",   "FontComboBox",     "ListWidget",
-                                     "RangeSlider"};
+                                     "Menu",          "RangeSlider"};
     return {meta.className(), create, call, check, late.contains(meta.className())};
 }
 
@@ -220,9 +220,9 @@ void useList(QListWidget *list, Dice &dice)
     for (int i = dice.roll(30); i > 0; --i)
         list->addItem(dice.text());
     delete list->takeItem(dice.roll(list->count() + 1));
-    if (QListWidgetItem *item = list->item(dice.roll(list->count() + 1)))
-        item->setCheckState(dice.coin() ? Qt::Checked : Qt::Unchecked);
     list->setItemDelegate(new ItemDelegate(list));
+    if (QListWidgetItem *item = list->item(dice.roll(list->count() + 1)))
+        item->setCheckState(dice.coin() ? Qt::Checked : Qt::Unchecked); // may be the list's end
 }
 
 const QString listNames = "selectionMode dragDropMode viewMode clear currentRow scrollToBottom";
@@ -288,9 +288,9 @@ std::vector<Subject> makeSubjects()
         subject<ListView>("", setModel),
         subject<ListWidget>(listNames,
                             [](auto *w, Dice &d) {
-                                useList(w, d);
                                 w->findItem(d.text());
                                 w->setViewportMargins(d.roll(9), d.roll(9), d.roll(9), d.roll(9));
+                                useList(w, d);
                             }),
         subject<Menu>("",
                       [](auto *w, Dice &d) {

@@ -50,6 +50,7 @@ const char *const expectedWarnings[] = {
 };
 
 QString failure;
+QString lastWarning;
 quint64 eventCount = 0;
 
 void fail(const QString &what)
@@ -62,6 +63,10 @@ void onMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     const bool expected = std::any_of(std::begin(expectedWarnings), std::end(expectedWarnings),
                                       [&](const char *known) { return text.startsWith(known); });
+    // After that repaint the toolkit goes on without a device to paint on.
+    if (text.startsWith("QPainter::") && lastWarning.startsWith("QWidget::paintEngine: "))
+        return;
+    lastWarning = text;
     if (type != QtDebugMsg && !expected)
         fail("warning: " + text);
 }
@@ -115,6 +120,7 @@ public:
 
     void step(quint32 seed)
     {
+        lastWarning.clear();
         Dice dice(seed);
         const int what = dice.roll(16);
         if (what == 0)
@@ -263,6 +269,8 @@ private:
         QEvent::Type type = QEvent::MouseMove;
         const int what = dice.roll(6);
         if (what == 0) {
+            if (widget->size().isEmpty())
+                return; // the toolkit's header paints a picture as high as itself
             type = dice.roll(4) ? QEvent::MouseButtonPress : QEvent::MouseButtonDblClick;
             if (!m_buttons)
                 m_pressedOn = widget;
