@@ -115,12 +115,6 @@ void settle()
     QTest::qWait(250);
 }
 
-template <typename Port>
-QString listed(Port &port, const QString &part)
-{
-    return port.portNames().filter(part).value(0);
-}
-
 } // namespace
 
 #define NEED_JACK() \

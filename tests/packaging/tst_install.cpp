@@ -109,11 +109,6 @@ private Q_SLOTS:
         m_library = libraries.first();
     }
 
-    void bundleComesAndGoesWithTheLibrary()
-    {
-        VERIFY_RUNS(buildDirectory + "/bin/nocturne-loadprobe", {m_library});
-    }
-
     void exactlyWhatIsListedIsExported()
     {
         const QStringList listed =
