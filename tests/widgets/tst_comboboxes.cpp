@@ -70,12 +70,6 @@ public:
 
     QString summary() const { return combo.lineEdit()->text(); }
 
-    /// Where a click on the check box of \a row goes.
-    QPoint boxOf(int row) const
-    {
-        return combo.view()->visualRect(items.at(row)->index()).topLeft() + QPoint(10, 8);
-    }
-
     CheckComboBox combo;
     QVector<QStandardItem *> items;
     QVector<int> states;
@@ -201,8 +195,9 @@ private Q_SLOTS:
         QTest::qWait(QApplication::doubleClickInterval() + 5);
 
         QWidget *popup = f.combo.view()->viewport();
-        const QPoint besideTheBox = f.boxOf(1) + QPoint(60, 0);
-        for (const QPoint &position : {f.boxOf(1), besideTheBox}) {
+        const QPoint row = f.combo.view()->visualRect(f.items.at(1)->index()).topLeft();
+        for (const QPoint &place : {QPoint(10, 8), QPoint(70, 8)}) { // the box and beside it
+            const QPoint position = row + place;
             QTest::mouseClick(popup, Qt::LeftButton, {}, position);
             QCOMPARE(f.items.at(1)->checkState(), Qt::Checked);
             // A fast second click arrives as a double click.

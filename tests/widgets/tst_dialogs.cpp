@@ -226,53 +226,50 @@ private Q_SLOTS:
         QMetaObject::invokeMethod(doomed, "chooseFile");
     }
 
-    void balloonPlacement_data()
-    {
-        QTest::addColumn<bool>("top");
-        QTest::addColumn<bool>("left");
-        QTest::addColumn<bool>("arrow");
-        for (int i = 0; i < 8; ++i)
-            QTest::addRow("%d", i) << bool(i & 1) << bool(i & 2) << bool(i & 4);
-    }
-
     void balloonPlacement()
     {
-        QFETCH(bool, top);
-        QFETCH(bool, left);
-        QFETCH(bool, arrow);
         const QRect screen = QGuiApplication::primaryScreen()->geometry();
-        const QPoint position(left ? 60 : screen.right() - 60, top ? 60 : screen.bottom() - 60);
-        QBalloonTip *balloon = show(position, 0, arrow);
-        QVERIFY(balloon);
-        const QSize size = balloon->sizeHint();
-        QCOMPARE(balloon->size(), size);
-        QCOMPARE(balloon->pos(),
-                 position - QPoint(left ? 18 : size.width() - 18, top ? 0 : size.height()));
-        QCOMPARE(balloon->contentsMargins(), top ? QMargins(4, 21, 4, 3) : QMargins(4, 3, 4, 21));
+        for (int i = 0; i < 8; ++i) {
+            const bool top = i & 1;
+            const bool left = i & 2;
+            const bool arrow = i & 4;
+            const QPoint position(left ? 60 : screen.right() - 60, top ? 60 : screen.bottom() - 60);
+            QBalloonTip *balloon = show(position, 0, arrow);
+            QVERIFY(balloon);
+            const QSize size = balloon->sizeHint();
+            QCOMPARE(balloon->size(), size);
+            QCOMPARE(balloon->pos(),
+                     position - QPoint(left ? 18 : size.width() - 18, top ? 0 : size.height()));
+            QCOMPARE(balloon->contentsMargins(),
+                     top ? QMargins(4, 21, 4, 3) : QMargins(4, 3, 4, 21));
 
-        // What is painted is what the mask keeps: paper inside, a darker line around it.
-        const QRegion mask = balloon->mask();
-        const QImage image = TestSupport::paintOn(size, Qt::transparent, [&](QPainter &painter) {
-            balloon->render(&painter, mask.boundingRect().topLeft(), {}, QWidget::DrawChildren);
-        });
-        for (int y = 0; y < size.height(); ++y) {
-            for (int x = 0; x < size.width(); ++x)
-                QCOMPARE(image.pixelColor(x, y).alpha(), mask.contains(QPoint(x, y)) ? 255 : 0);
+            // What is painted is what the mask keeps: paper inside, a darker line around it.
+            const QRegion mask = balloon->mask();
+            const QImage image =
+                TestSupport::paintOn(size, Qt::transparent, [&](QPainter &painter) {
+                    balloon->render(&painter, mask.boundingRect().topLeft(), {},
+                                    QWidget::DrawChildren);
+                });
+            for (int y = 0; y < size.height(); ++y) {
+                for (int x = 0; x < size.width(); ++x)
+                    QCOMPARE(image.pixelColor(x, y).alpha(), mask.contains(QPoint(x, y)) ? 255 : 0);
+            }
+            const int right = size.width() - 1;
+            const QRect body(0, top ? 18 : 0, size.width(), size.height() - 18);
+            const QColor paper(255, 255, 225);
+            TestSupport::comparePixels(image, Qt::transparent,
+                                       {body.topLeft(), body.bottomRight()});
+            TestSupport::comparePixels(
+                image, paper.darker(160),
+                {{right / 2, body.top()}, {right / 2, body.bottom()}, {0, body.center().y()}});
+            COMPARE_PIXEL(image, 2, body.center().y(), paper);
+            const QPoint inArrow(left ? 20 : right - 20, top ? 10 : size.height() - 10);
+            QCOMPARE(mask.contains(inArrow), arrow);
+
+            // It stays on the screen.
+            balloon = show(QPoint(left ? 1 : screen.right() - 1, 100));
+            QCOMPARE(balloon->x(), left ? 2 : screen.right() - balloon->width() - 2);
         }
-        const int right = size.width() - 1;
-        const QRect body(0, top ? 18 : 0, size.width(), size.height() - 18);
-        const QColor paper(255, 255, 225);
-        TestSupport::comparePixels(image, Qt::transparent, {body.topLeft(), body.bottomRight()});
-        TestSupport::comparePixels(
-            image, paper.darker(160),
-            {{right / 2, body.top()}, {right / 2, body.bottom()}, {0, body.center().y()}});
-        COMPARE_PIXEL(image, 2, body.center().y(), paper);
-        const QPoint inArrow(left ? 20 : right - 20, top ? 10 : size.height() - 10);
-        QCOMPARE(mask.contains(inArrow), arrow);
-
-        // It stays on the screen.
-        balloon = show(QPoint(left ? 1 : screen.right() - 1, 100));
-        QCOMPARE(balloon->x(), left ? 2 : screen.right() - balloon->width() - 2);
     }
 
     void balloonContents()

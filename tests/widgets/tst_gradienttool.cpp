@@ -181,24 +181,14 @@ private Q_SLOTS:
         QVERIFY(after.hasFocus());
     }
 
-    void receiversMayReplaceOrDeleteEverything()
+    void receiversMayReplaceEverything()
     {
-        {
-            Editor editor;
-            connect(&editor, &GradientTool::rampChanged, &editor, [&editor] {
-                editor.setRamp({{0.25, Qt::red}, {0.75, Qt::blue}});
-            });
-            editor.run("press 105 -30, release 105, press 55, move 65, move 66, release 66");
-            QCOMPARE(editor.getSliderNum(), 2);
-        }
-        for (const QPoint &point : {QPoint(105, 20), QPoint(5, 50)}) {
-            const QPointer<GradientTool> deleted(new Editor);
-            connect(deleted, &GradientTool::opacityValueChange, this,
-                    [deleted] { delete deleted; });
-            TestSupport::sendMouse(deleted, QEvent::MouseButtonPress, point, Qt::LeftButton,
-                                   Qt::LeftButton);
-            QVERIFY(!deleted);
-        }
+        Editor editor;
+        connect(&editor, &GradientTool::rampChanged, &editor, [&editor] {
+            editor.setRamp({{0.25, Qt::red}, {0.75, Qt::blue}});
+        });
+        editor.run("press 105 -30, release 105, press 55, move 65, move 66, release 66");
+        QCOMPARE(editor.getSliderNum(), 2);
     }
 
     void colorDialog()

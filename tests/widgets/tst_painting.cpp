@@ -1,28 +1,14 @@
+#include "../monkey/subjects.h"
 #include "gestures.h"
 #include "probes.h"
 
 #include <nocturne/CheckBox>
-#include <nocturne/ColorBar>
-#include <nocturne/ColorButton>
 #include <nocturne/DarkFusionStyle>
 #include <nocturne/DarkUX>
-#include <nocturne/Frame>
 #include <nocturne/GradientTool>
-#include <nocturne/GroupBox>
-#include <nocturne/LetterBoxWidget>
-#include <nocturne/LineEdit>
-#include <nocturne/ProgressBar>
-#include <nocturne/ProgressIndicator>
-#include <nocturne/RadioButton>
-#include <nocturne/RangeSlider>
 #include <nocturne/RoundProgressBar>
-#include <nocturne/SlideCheckBox>
-#include <nocturne/SpanSlider>
-#include <nocturne/Splitter>
-#include <nocturne/StatusBar>
 #include <nocturne/TabBar>
 #include <nocturne/TabWidget>
-#include <nocturne/Widget>
 
 #include <QtWidgets/QProxyStyle>
 
@@ -88,36 +74,6 @@ const QHash<QString, Setting> settings = {
          widget->setPalette(QPalette({}, {}, {}, {}, {}, Qt::black, QColor(color)));
      }}};
 
-template <typename Class>
-QWidget *make()
-{
-    if constexpr (std::is_base_of_v<QSlider, Class>)
-        return new Class(Qt::Horizontal);
-    else
-        return new Class;
-}
-
-const QHash<QString, QWidget *(*)()> classes = {{"CheckBox", make<CheckBox>},
-                                                {"ColorBar", make<ColorBar>},
-                                                {"ColorButton", make<ColorButton>},
-                                                {"Frame", make<Frame>},
-                                                {"GradientTool", make<GradientTool>},
-                                                {"GroupBox", make<GroupBox>},
-                                                {"LetterBoxWidget", make<LetterBoxWidget>},
-                                                {"LineEdit", make<LineEdit>},
-                                                {"ProgressBar", make<ProgressBar>},
-                                                {"ProgressIndicator", make<ProgressIndicator>},
-                                                {"RadioButton", make<RadioButton>},
-                                                {"RangeSlider", make<RangeSlider>},
-                                                {"RoundProgressBar", make<RoundProgressBar>},
-                                                {"SlideCheckBox", make<SlideCheckBox>},
-                                                {"SpanSlider", make<SpanSlider>},
-                                                {"Splitter", make<Splitter>},
-                                                {"StatusBar", make<StatusBar>},
-                                                {"TabBar", make<TabBar>},
-                                                {"TabWidget", make<TabWidget>},
-                                                {"Widget", make<Widget>}};
-
 } // namespace
 
 class TestPainting : public QObject
@@ -148,7 +104,11 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, words);
         QFETCH(QStringList, probes);
-        const std::unique_ptr<QWidget> widget(classes[words.takeFirst()]());
+        const auto subject =
+            std::find_if(subjects().begin(), subjects().end(),
+                         [name = words.takeFirst()](const auto &s) { return name == s.name; });
+        QVERIFY(subject != subjects().end());
+        const std::unique_ptr<QWidget> widget(subject->create());
         if (widget->inherits("LineEdit") || widget->inherits("QSlider"))
             widget->setStyle(&m_bareStyle);
         const QStringList size = words.takeFirst().split('x');

@@ -156,8 +156,6 @@ public:
     }
 };
 
-const auto changed = QOverload<double, bool>::of(&SpinBox::valueChanged);
-
 /// A spin box of -100 to 100 whose places are along x.
 class TestSpin : public TestSupport::Driven<SpinBox>
 {
@@ -166,7 +164,7 @@ public:
         : Driven(parent)
     {
         setRange(-100, 100);
-        connect(this, changed, this, note("value"));
+        connect(this, QOverload<double, bool>::of(&SpinBox::valueChanged), this, note("value"));
     }
 
     QPoint place(int number) const override { return QPoint(number, 10); }
@@ -440,20 +438,6 @@ private Q_SLOTS:
         QCOMPARE(values, QVector<int>({6, QtVersion::roundedNegativeHalf, 100, 100}));
         QVERIFY(!TestSupport::takesWheel(&box) && !TestSupport::takesWheel(box.field()));
         QCOMPARE(box.value(), 100);
-    }
-
-    void theSpinBoxMayBeDeletedInMidDrag()
-    {
-        SpinFixture f;
-        f.box->run("enter, press 30, move 35");
-        delete f.box;
-        QVERIFY(TestSupport::nothingIsHeld());
-
-        const QPointer<SpinBox> box(f.sibling);
-        connect(f.sibling, changed, this, [&f] { delete f.sibling; });
-        f.sibling->run("press 30");
-        TestSupport::sendDrag(f.sibling, QPoint(33, 10));
-        QVERIFY(!box);
     }
 
     void restoresOnlyItsOwnCursor()
