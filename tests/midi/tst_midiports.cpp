@@ -12,6 +12,7 @@
 #include <QtTest/QtTest>
 
 #include <atomic>
+#include <cstdio>
 #include <dlfcn.h>
 #include <mutex>
 #include <thread>
@@ -567,7 +568,7 @@ private Q_SLOTS:
                 input->portNames();
         }
         QTRY_VERIFY(threadCount() <= threadsBefore);
-        qInfo("%d servers, %d messages counted", servers, counted);
+        std::printf("%d servers, %d messages counted\n", servers, counted);
     }
 
 private:
