@@ -31,22 +31,17 @@ public:
     using QMessageBoxEx::setCustomTextForButtons;
 };
 
-/// Types \a path into the dialog and confirms it as a user does, or presses Escape.
-void answer(QFileDialog *dialog, const QString &path = {})
-{
-    auto *edit = dialog->findChild<QLineEdit *>("fileNameEdit");
-    edit->setText(path);
-    QTest::keyClick(edit, path.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
-}
-
-/// Opens the dialog of \a chooser, has it looked at and answers it.
+/// Opens the dialog of \a chooser, has it looked at, types \a path into it and confirms it as a
+/// user does, or presses Escape.
 void choose(
     QWidget &chooser, const QString &path = {},
     const std::function<void(QFileDialog *)> &look = [](QFileDialog *) {})
 {
     whenOpen<QFileDialog>([=](QFileDialog *dialog) {
         look(dialog);
-        answer(dialog, path);
+        auto *edit = dialog->findChild<QLineEdit *>("fileNameEdit");
+        edit->setText(path);
+        QTest::keyClick(edit, path.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
     });
     QTest::mouseClick(chooser.findChild<QAbstractButton *>(), Qt::LeftButton);
 }

@@ -5,16 +5,7 @@
 #include <nocturne/ProgressIndicator>
 #include <nocturne/RoundProgressBar>
 
-#include <memory>
-
 namespace {
-
-QFont pixelFont(int size)
-{
-    QFont font;
-    font.setPixelSize(size);
-    return font;
-}
 
 class Ring : public RoundProgressBar
 {
@@ -29,8 +20,7 @@ class TestProgress : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { m_theme = std::make_unique<DarkUX>(); }
-    void cleanupTestCase() { delete m_theme->style(); }
+    void cleanupTestCase() { delete m_theme.style(); }
 
     void ringRangeAndValue()
     {
@@ -57,7 +47,7 @@ private Q_SLOTS:
             Ring ring;
             ring.setFormat(format);
             QCOMPARE(ring.valueToText(value), QString(text));
-            ring.setTitle(QString(), pixelFont(12), pixelFont(24), 1.0, true);
+            ring.setTitle(QString(), QFont(), QFont(), 1.0, true);
             QVERIFY(!unitText || ring.valueToText(value) == unitText);
             ring.resetFormat();
             QCOMPARE(ring.valueToText(value), QString());
@@ -141,7 +131,7 @@ private Q_SLOTS:
     }
 
 private:
-    std::unique_ptr<DarkUX> m_theme;
+    DarkUX m_theme;
 };
 
 NOCTURNE_TEST_MAIN(TestProgress)
