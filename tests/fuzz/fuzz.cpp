@@ -4,6 +4,8 @@
 //   cmake --preset fuzz && cmake --build --preset fuzz
 //   build/fuzz/bin/fuzz_drops -max_total_time=600
 
+#include "gestures.h"
+
 #include <deskstate.h>
 #include <testpictures.h>
 
@@ -18,11 +20,7 @@
 
 #include <QtCore/QDataStream>
 #include <QtCore/QJsonDocument>
-#include <QtCore/QMimeData>
-#include <QtCore/QUrl>
 #include <QtGui/QClipboard>
-#include <QtGui/QDropEvent>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 
 #include <cstdlib>
@@ -56,23 +54,16 @@ void dropOn(QWidget *target, const QByteArray &data)
 {
     const QByteArray content = data.mid(1);
     const int formats = data.isEmpty() ? 0 : data[0];
+    static const char *const names[] = {"application/x-color", "text/uri-list", "text/plain",
+                                        "application/x-qabstractitemmodeldatalist"};
     QMimeData mime;
-    if (formats & 1)
-        mime.setData("application/x-color", content);
-    if (formats & 2)
-        mime.setData("text/uri-list", content);
-    if (formats & 4)
-        mime.setText(QString::fromUtf8(content));
-    if (formats & 8)
-        mime.setData("application/x-qabstractitemmodeldatalist", content);
+    for (int i = 0; i < 4; ++i) {
+        if (formats & 1 << i)
+            mime.setData(names[i], content);
+    }
     if (formats & 16)
         mime.setColorData(QVariant(QString::fromUtf8(content)));
-    const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
-    QDragEnterEvent enter({5, 5}, actions, &mime, Qt::LeftButton, Qt::NoModifier);
-    QDragMoveEvent move({6, 6}, actions, &mime, Qt::LeftButton, Qt::NoModifier);
-    QDropEvent drop({6, 6}, actions, &mime, Qt::LeftButton, Qt::NoModifier);
-    for (QEvent *event : std::initializer_list<QEvent *>{&enter, &move, &drop})
-        QCoreApplication::sendEvent(target, event);
+    TestSupport::drop(target, mime, {6, 6});
 }
 
 [[maybe_unused]] void feedDrops(const QByteArray &data)
@@ -105,13 +96,10 @@ void dropOn(QWidget *target, const QByteArray &data)
         promise(stop.first >= 0.0 && stop.first <= 1.0);
     for (char byte : data.left(16)) {
         const int x = static_cast<unsigned char>(byte);
-        const auto send = [](QEvent::Type type, QPointF place, Qt::MouseButtons buttons) {
-            QMouseEvent event(type, place, place, Qt::LeftButton, buttons, {});
-            QCoreApplication::sendEvent(&editor, &event);
-        };
-        send(QEvent::MouseButtonPress, QPointF(x, x % 60), Qt::LeftButton);
-        send(QEvent::MouseMove, QPointF(x, x * 2), Qt::LeftButton);
-        send(QEvent::MouseButtonRelease, QPointF(x, x), Qt::NoButton);
+        TestSupport::sendMouse(&editor, QEvent::MouseButtonPress, {x, x % 60}, Qt::LeftButton,
+                               Qt::LeftButton);
+        TestSupport::sendDrag(&editor, {x, x * 2});
+        TestSupport::sendMouse(&editor, QEvent::MouseButtonRelease, {x, x}, Qt::LeftButton, {});
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         promise(editor.getSliderNum() >= 2);
     }

@@ -1,49 +1,6 @@
 #include "subjects.h"
 
-#include <nocturne/CheckBox>
-#include <nocturne/CheckComboBox>
-#include <nocturne/ClickableLabel>
-#include <nocturne/ColorBar>
-#include <nocturne/ColorButton>
-#include <nocturne/ColorToolButton>
-#include <nocturne/ComboBox>
-#include <nocturne/ComboBoxListView>
-#include <nocturne/ComboFileChooser>
-#include <nocturne/CroppingLabel>
-#include <nocturne/DelayButton>
-#include <nocturne/DelayToolButton>
-#include <nocturne/Dial>
-#include <nocturne/FileChooser>
-#include <nocturne/FontComboBox>
-#include <nocturne/Frame>
-#include <nocturne/GradientTool>
-#include <nocturne/GroupBox>
-#include <nocturne/ItemDelegate>
-#include <nocturne/KeySequenceEdit>
-#include <nocturne/LetterBoxWidget>
-#include <nocturne/LineEdit>
-#include <nocturne/LineEditButton>
-#include <nocturne/ListView>
-#include <nocturne/ListWidget>
-#include <nocturne/Menu>
-#include <nocturne/MidiSequenceEdit>
-#include <nocturne/ProgressBar>
-#include <nocturne/ProgressIndicator>
-#include <nocturne/RadioButton>
-#include <nocturne/RangeSlider>
-#include <nocturne/RoundProgressBar>
-#include <nocturne/SearchLineEdit>
-#include <nocturne/SimpleListWidget>
-#include <nocturne/SlideCheckBox>
-#include <nocturne/Slider>
-#include <nocturne/SpanSlider>
-#include <nocturne/SpinBox>
-#include <nocturne/Splitter>
-#include <nocturne/StatusBar>
-#include <nocturne/TabBar>
-#include <nocturne/TabWidget>
-#include <nocturne/TreeWidget>
-#include <nocturne/Widget>
+#include <nocturne-headers.h>
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QMetaProperty>
@@ -52,7 +9,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <type_traits>
 
 namespace {
 
@@ -87,7 +43,6 @@ QVariant valueBy(Dice &dice, int type)
 /// Something that is done to a widget, by the dice.
 template <typename Widget>
 using Use = std::function<void(Widget *, Dice &)>;
-using Uses = std::vector<Use<QWidget>>;
 
 /// Sets a property, and to a value that it has if it is an enumeration.
 Use<QWidget> use(const QMetaProperty &property)
@@ -116,92 +71,28 @@ Use<QWidget> use(const QMetaMethod &slot)
     };
 }
 
-/// What a class adds to the toolkit's properties and public slots, and those of the toolkit's own
-/// that are named.
-Uses usesOf(const QMetaObject &meta, const QString &named)
+/// The properties and public slots that a class adds to the toolkit's, and some of the toolkit's.
+std::vector<Use<QWidget>> usesOf(const QMetaObject &meta)
 {
-    Uses uses;
-    const QStringList names = named.split(' ');
+    static const QByteArrayList toolkit =
+        QByteArray("checkable checked clear collapseAll currentFont currentIndex currentRow "
+                   "editable expandAll frameShadow frameShape headerHidden invertedAppearance "
+                   "movable orientation scrollToBottom selectionMode shape showMessage "
+                   "sizeGripEnabled tabPosition tabsClosable text title toggle tracking value "
+                   "verticalScrollMode")
+            .split(' ');
+    std::vector<Use<QWidget>> uses;
     for (int i = 0; i < meta.propertyCount(); ++i) {
-        if (i >= meta.propertyOffset() || names.contains(meta.property(i).name()))
+        if (i >= meta.propertyOffset() || toolkit.contains(meta.property(i).name()))
             uses.push_back(use(meta.property(i)));
     }
     for (int i = 0; i < meta.methodCount(); ++i) {
         const QMetaMethod slot = meta.method(i);
         if (slot.methodType() == QMetaMethod::Slot && slot.access() == QMetaMethod::Public
-            && (i >= meta.methodOffset() || names.contains(slot.name())))
+            && (i >= meta.methodOffset() || toolkit.contains(slot.name())))
             uses.push_back(use(slot));
     }
     return uses;
-}
-
-/// A class, what may be used of the toolkit's under its name, and what else is done to it.
-template <typename Widget>
-Subject subject(const QString &named, const Use<Widget> &other = {}, const Check &check = {})
-{
-    const QMetaObject &meta = Widget::staticMetaObject;
-    Uses uses = usesOf(meta, named);
-    // Half of the time, or a class with many properties would see little of it.
-    if (other) {
-        uses.resize(qMax(std::size_t(1), uses.size()) * 2, [other](QWidget *widget, Dice &dice) {
-            other(static_cast<Widget *>(widget), dice);
-        });
-    }
-    const auto create = []() -> QWidget * {
-        if constexpr (std::is_base_of_v<QSlider, Widget>)
-            return new Widget(Qt::Horizontal, nullptr);
-        else
-            return new Widget;
-    };
-    const auto call = [uses](QWidget *widget, Dice &dice) {
-        if (const int count = int(uses.size()))
-            uses[std::size_t(dice.roll(count))](widget, dice);
-    };
-    static const QByteArrayList late{"CheckComboBox", "ComboFileChooser", "CroppingLabel",
-                                     "FileChooser",   "FontComboBox",     "ListWidget",
-                                     "Menu",          "RangeSlider"};
-    return {meta.className(), create, call, check, late.contains(meta.className())};
-}
-
-/// That values, beginning with the lowest, never get out of order.
-Check ascending(const QString &properties)
-{
-    return [names = properties.split(' ')](QWidget *widget) {
-        for (int i = 1; i < names.size(); ++i) {
-            const double lower = widget->property(names.at(i - 1).toLatin1()).toDouble();
-            const double upper = widget->property(names.at(i).toLatin1()).toDouble();
-            if (!(lower <= upper))
-                return "broken promise: " + names.at(i - 1) + " is at most " + names.at(i);
-        }
-        return QString();
-    };
-}
-
-QString checkRamp(QWidget *widget)
-{
-    auto *tool = static_cast<GradientTool *>(widget);
-    const auto ramp = tool->getRamp();
-    const bool isInside = std::all_of(ramp.begin(), ramp.end(), [](const auto &stop) {
-        return stop.first >= 0.0 && stop.first <= 1.0;
-    });
-    return isInside && ramp.size() >= 2 && tool->getColorTable().size() == 256
-               ? QString()
-               : "broken promise: two stops or more, from 0 to 1";
-}
-
-// What several classes have from the toolkit.
-
-template <typename Widget>
-void setRange(Widget *widget, Dice &dice)
-{
-    widget->setRange(dice.rangeEnd(), dice.rangeEnd());
-}
-
-void setModel(QAbstractItemView *view, Dice &dice)
-{
-    delete view->model();
-    const QStringList rows = dice.coin() ? QStringList{dice.text(), dice.text()} : QStringList();
-    view->setModel(new QStringListModel(rows, view));
 }
 
 void useCombo(QComboBox *combo, Dice &dice)
@@ -221,165 +112,161 @@ void useList(QListWidget *list, Dice &dice)
         list->addItem(dice.text());
     delete list->takeItem(dice.roll(list->count() + 1));
     list->setItemDelegate(new ItemDelegate(list));
+    // Not for all views: the toolkit's own models trust what is dropped, and icons can be.
+    list->setViewMode(dice.coin() ? QListView::IconMode : QListView::ListMode);
+    list->setDragDropMode(static_cast<QAbstractItemView::DragDropMode>(dice.roll(5)));
     if (QListWidgetItem *item = list->item(dice.roll(list->count() + 1)))
         item->setCheckState(dice.coin() ? Qt::Checked : Qt::Unchecked); // may be the list's end
 }
 
-const QString listNames = "selectionMode dragDropMode viewMode clear currentRow scrollToBottom";
+/// What several classes have from the toolkit beside properties and slots.
+void useToolkit(QWidget *widget, Dice &dice)
+{
+    if (auto *combo = qobject_cast<QComboBox *>(widget)) {
+        useCombo(combo, dice);
+    } else if (auto *list = qobject_cast<QListWidget *>(widget)) {
+        useList(list, dice);
+    } else if (auto *view = qobject_cast<QListView *>(widget)) {
+        delete view->model();
+        view->setModel(new QStringListModel(dice.text().split(' '), view));
+    } else {
+        // One end by the other is a range no longer than an int can count.
+        const char *const end = dice.coin() ? "minimum" : "maximum";
+        if (widget->metaObject()->indexOfProperty(end) >= 0)
+            widget->setProperty(end, dice.extremeInt() / 4);
+    }
+}
+
+/// A class, and what is done to it besides.
+template <typename Widget>
+Subject subject(const Use<Widget> &other = {})
+{
+    const char *const name = Widget::staticMetaObject.className();
+    static const QByteArrayList late{"CheckComboBox", "ComboFileChooser", "CroppingLabel",
+                                     "FileChooser",   "FontComboBox",     "ListWidget",
+                                     "Menu",          "RangeSlider"};
+    const auto create = [] {
+        QWidget *widget = new Widget;
+        widget->setProperty("orientation", Qt::Horizontal);
+        return widget;
+    };
+    const auto call = [other, uses = usesOf(Widget::staticMetaObject)](QWidget *widget,
+                                                                       Dice &dice) {
+        const int what = dice.roll(5);
+        if (what < 2 && other)
+            other(static_cast<Widget *>(widget), dice);
+        else if (what == 2 || uses.empty())
+            useToolkit(widget, dice);
+        else
+            uses[std::size_t(dice.roll(int(uses.size())))](widget, dice);
+    };
+    return {name, create, call, late.contains(name)};
+}
+
+template <typename... Widgets>
+std::vector<Subject> plainSubjects()
+{
+    return {subject<Widgets>()...};
+}
 
 std::vector<Subject> makeSubjects()
 {
-    return {
-        subject<CheckBox>("text"),
-        subject<CheckComboBox>("",
-                               [](auto *w, Dice &d) {
-                                   useCombo(w, d);
-                                   w->addCheckItem(d.text(), d.roll(9),
-                                                   static_cast<Qt::CheckState>(d.roll(3)));
-                                   w->setNoneCheckedText(d.text());
-                                   w->setAllCheckedText(d.text());
-                               }),
-        subject<ClickableLabel>("text"),
+    auto all = plainSubjects<CheckBox, ClickableLabel, ColorButton, ColorToolButton,
+                             ComboBoxListView, ComboFileChooser, DelayButton, DelayToolButton, Dial,
+                             FileChooser, FontComboBox, Frame, KeySequenceEdit, LineEdit,
+                             LineEditButton, ListView, ProgressBar, ProgressIndicator, RadioButton,
+                             SearchLineEdit, SimpleListWidget, SlideCheckBox, StatusBar, Widget>();
+    const Subject others[] = {
+        subject<CheckComboBox>([](auto *w, Dice &d) {
+            w->addCheckItem(d.text(), d.roll(9), static_cast<Qt::CheckState>(d.roll(3)));
+            w->setNoneCheckedText(d.text());
+            w->setAllCheckedText(d.text());
+        }),
         subject<ColorBar>(
-            "", [](auto *w, Dice &d) { d.coin() ? w->startFlicker() : w->stopFlicker(); }),
-        subject<ColorButton>(""),
-        subject<ColorToolButton>("text"),
-        subject<ComboBox>("currentIndex editable",
-                          [](auto *w, Dice &d) {
-                              w->addParentItem(d.text());
-                              w->addChildItem(d.text(), d.roll(9));
-                              useCombo(w, d);
-                          }),
-        subject<ComboBoxListView>("", setModel),
-        subject<ComboFileChooser>(
-            "", [](auto *w, Dice &d) { d.roll(4) ? w->addItem(d.text()) : w->clear(); }),
-        subject<CroppingLabel>("", [](auto *w, Dice &) { w->editBegin(); }),
-        subject<DelayButton>("checkable toggle"),
-        subject<DelayToolButton>("checkable toggle"),
-        subject<Dial>("", setRange<Dial>),
-        subject<FileChooser>(""),
-        subject<FontComboBox>("currentFont", useCombo),
-        subject<Frame>("frameShape frameShadow"),
-        subject<GradientTool>(
-            "",
-            [](auto *w, Dice &d) {
-                w->setCurrentColor(colorBy(d));
-                auto *dialog = d.coin() ? nullptr : new QColorDialog;
-                if (dialog) // a child would be deleted inside of its own signals
-                    QObject::connect(w, &QObject::destroyed, dialog, &QObject::deleteLater);
-                w->setColorChoose(dialog);
-                w->setRamp(rampBy(d));
-                w->getSliderAlpha(d.extremeInt());
-            },
-            checkRamp),
-        subject<GroupBox>("title checkable checked", [](auto *w, Dice &) { new QWidget(w); }),
-        subject<KeySequenceEdit>(""),
-        subject<LetterBoxWidget>("",
-                                 [](auto *w, Dice &d) {
-                                     w->clearBackgroundColor();
-                                     if (d.coin())
-                                         delete w->widget();
-                                     w->setWidget(d.roll(4) == 0 ? nullptr : new QWidget);
-                                     if (w->widget())
-                                         w->widget()->setSizeIncrement(d.roll(20), d.roll(20));
-                                 }),
-        subject<LineEdit>("text"),
-        subject<LineEditButton>(""),
-        subject<ListView>("", setModel),
-        subject<ListWidget>(listNames,
-                            [](auto *w, Dice &d) {
-                                w->findItem(d.text());
-                                w->setViewportMargins(d.roll(9), d.roll(9), d.roll(9), d.roll(9));
-                                useList(w, d);
-                            }),
-        subject<Menu>("",
-                      [](auto *w, Dice &d) {
-                          if (d.roll(4) == 0) // later: the toolkit does not bear it in a signal
-                              QMetaObject::invokeMethod(w, &Menu::clear, Qt::QueuedConnection);
-                          w->addAction(d.text());
-                          w->addMenu(d.text())->addAction(d.text());
-                          d.coin() ? w->popup(QPoint(5, 5)) : static_cast<void>(w->close());
-                      }),
-        subject<MidiSequenceEdit>("",
-                                  [](auto *w, Dice &d) {
-                                      static QMidiMessage edited;
-                                      QMidiMessage message;
-                                      message.setType(d.extremeInt());
-                                      message.setKey(d.extremeInt());
-                                      w->setKeySequence(d.coin() ? &edited : nullptr);
-                                      w->updateKeySequence(d.roll(4) ? &message : nullptr);
-                                  }),
-        subject<ProgressBar>("value", setRange<ProgressBar>),
-        subject<ProgressIndicator>(""),
-        subject<RadioButton>("text"),
-        subject<RangeSlider>(
-            "orientation tracking invertedAppearance",
-            [](auto *w, Dice &d) {
-                setRange(w, d);
-                w->setPositions(d.extremeInt(), d.extremeInt(), d.extremeInt());
-            },
-            ascending("minimumValue maximumValue")),
-        subject<RoundProgressBar>(
-            "",
-            [](auto *w, Dice &d) {
-                w->setDataColors(rampBy(d));
-                w->setTitle(d.text(), QFont(), QFont(), d.extremeDouble(), d.coin());
-                (void)w->humanReadableSize(d.extremeInt() * (qint64(1) << d.roll(32)));
-            },
-            ascending("minimum value maximum")),
-        subject<SearchLineEdit>("text"),
-        subject<SimpleListWidget>(listNames, useList),
-        subject<SlideCheckBox>("toggle"),
-        subject<Slider>("orientation value",
-                        [](auto *w, Dice &d) {
-                            setRange(w, d);
-                            w->setKeyPressed(d.coin());
-                        }),
-        subject<SpanSlider>(
-            "orientation tracking",
-            [](auto *w, Dice &d) {
-                setRange(w, d);
-                w->swapControls();
-                w->triggerAction(static_cast<QAbstractSlider::SliderAction>(d.roll(9)), d.coin());
-            },
-            ascending("minimum lowerValue upperValue maximum")),
-        subject<SpinBox>("",
-                         [](auto *w, Dice &d) {
-                             setRange(w, d);
-                             w->setValue(d.extremeDouble(), d.coin());
-                         }),
-        subject<Splitter>("orientation",
-                          [](auto *w, Dice &d) {
-                              w->addWidget(new QWidget);
-                              w->setSizes({d.extremeInt(), d.extremeInt()});
-                              w->setHandleWidth(d.roll(40) - 5);
-                              delete w->widget(d.roll(w->count() * 2));
-                          }),
-        subject<StatusBar>("showMessage sizeGripEnabled"),
-        subject<TabBar>("shape tabsClosable movable currentIndex",
-                        [](auto *w, Dice &d) {
-                            w->addTab(d.text());
-                            w->removeTab(d.roll(w->count() * 2));
-                            w->setWidth(d.roll(3000) - 100);
-                        }),
-        subject<TabWidget>("tabPosition tabsClosable movable",
-                           [](auto *w, Dice &d) {
-                               w->addTab(new QWidget, d.text());
-                               delete w->widget(d.roll(w->count() * 2));
-                               w->setTabBarWidth(d.roll(3000) - 100);
-                           }),
-        subject<TreeWidget>(
-            "verticalScrollMode clear expandAll collapseAll headerHidden scrollToBottom",
-            [](auto *w, Dice &d) {
-                auto *item = new QTreeWidgetItem(w, {d.text()});
-                for (int i = d.coin() ? 20 : 0; i > 0; --i)
-                    item->addChild(new QTreeWidgetItem({QString::number(i)}));
-                item->setExpanded(d.coin());
-                w->setColumnCount(d.roll(5));
-                delete w->topLevelItem(d.roll(w->topLevelItemCount() * 2));
-            }),
-        subject<Widget>(""),
+            [](auto *w, Dice &d) { d.coin() ? w->startFlicker() : w->stopFlicker(); }),
+        subject<ComboBox>([](auto *w, Dice &d) {
+            w->addParentItem(d.text());
+            w->addChildItem(d.text(), d.roll(9));
+        }),
+        subject<CroppingLabel>([](auto *w, Dice &) { w->editBegin(); }),
+        subject<GradientTool>([](auto *w, Dice &d) {
+            w->setCurrentColor(colorBy(d));
+            auto *dialog = d.coin() ? nullptr : new QColorDialog;
+            if (dialog) // a child would be deleted inside of its own signals
+                QObject::connect(w, &QObject::destroyed, dialog, &QObject::deleteLater);
+            w->setColorChoose(dialog);
+            w->setRamp(rampBy(d));
+            w->getSliderAlpha(d.extremeInt());
+        }),
+        subject<GroupBox>([](auto *w, Dice &) { new QWidget(w); }),
+        subject<LetterBoxWidget>([](auto *w, Dice &d) {
+            w->clearBackgroundColor();
+            if (d.coin())
+                delete w->widget();
+            w->setWidget(d.roll(4) == 0 ? nullptr : new QWidget);
+            if (w->widget())
+                w->widget()->setSizeIncrement(d.roll(20), d.roll(20));
+        }),
+        subject<ListWidget>([](auto *w, Dice &d) {
+            w->findItem(d.text());
+            w->setViewportMargins(d.roll(9), d.roll(9), d.roll(9), d.roll(9));
+        }),
+        subject<Menu>([](auto *w, Dice &d) {
+            if (d.roll(4) == 0) // later: the toolkit does not bear it in a signal
+                QMetaObject::invokeMethod(w, &Menu::clear, Qt::QueuedConnection);
+            w->addAction(d.text());
+            w->addMenu(d.text())->addAction(d.text());
+            d.coin() ? w->popup(QPoint(5, 5)) : static_cast<void>(w->close());
+        }),
+        subject<MidiSequenceEdit>([](auto *w, Dice &d) {
+            static QMidiMessage edited;
+            QMidiMessage message;
+            message.setType(d.extremeInt());
+            message.setKey(d.extremeInt());
+            w->setKeySequence(d.coin() ? &edited : nullptr);
+            w->updateKeySequence(d.roll(4) ? &message : nullptr);
+        }),
+        subject<RangeSlider>([](auto *w, Dice &d) {
+            w->setPositions(d.extremeInt(), d.extremeInt(), d.extremeInt());
+        }),
+        subject<RoundProgressBar>([](auto *w, Dice &d) {
+            w->setDataColors(rampBy(d));
+            w->setTitle(d.text(), QFont(), QFont(), d.extremeDouble(), d.coin());
+            (void)w->humanReadableSize(d.extremeInt() * (qint64(1) << d.roll(32)));
+        }),
+        subject<Slider>([](auto *w, Dice &d) { w->setKeyPressed(d.coin()); }),
+        subject<SpanSlider>([](auto *w, Dice &d) {
+            w->swapControls();
+            w->triggerAction(static_cast<QAbstractSlider::SliderAction>(d.roll(9)), d.coin());
+        }),
+        subject<SpinBox>([](auto *w, Dice &d) { w->setValue(d.extremeDouble(), d.coin()); }),
+        subject<Splitter>([](auto *w, Dice &d) {
+            w->addWidget(new QWidget);
+            w->setSizes({d.extremeInt(), d.extremeInt()});
+            w->setHandleWidth(d.roll(40) - 5);
+            delete w->widget(d.roll(w->count() * 2));
+        }),
+        subject<TabBar>([](auto *w, Dice &d) {
+            w->addTab(d.text());
+            w->removeTab(d.roll(w->count() * 2));
+            w->setWidth(d.roll(3000) - 100);
+        }),
+        subject<TabWidget>([](auto *w, Dice &d) {
+            w->addTab(new QWidget, d.text());
+            delete w->widget(d.roll(w->count() * 2));
+            w->setTabBarWidth(d.roll(3000) - 100);
+        }),
+        subject<TreeWidget>([](auto *w, Dice &d) {
+            auto *item = new QTreeWidgetItem(w, {d.text()});
+            for (int i = d.coin() ? 20 : 0; i > 0; --i)
+                item->addChild(new QTreeWidgetItem({QString::number(i)}));
+            item->setExpanded(d.coin());
+            w->setColumnCount(d.roll(5));
+            delete w->topLevelItem(d.roll(w->topLevelItemCount() * 2));
+        }),
     };
+    all.insert(all.end(), std::begin(others), std::end(others));
+    return all;
 }
 
 } // namespace
@@ -412,6 +299,33 @@ QString Dice::text()
         QString(QChar(0xd800)) + QChar(0) + 'x',
         QString("Clip %1").arg(roll(100))};
     return texts[qMin(roll(8), 6)];
+}
+
+QString brokenPromise(const QWidget *widget)
+{
+    static const QVector<QByteArrayList> ascending{
+        {"minimum", "value", "maximum"},
+        {"minimum", "lowerValue", "upperValue", "maximum"},
+        {"minimumValue", "maximumValue"}};
+    for (const QByteArrayList &names : ascending) {
+        for (int i = 1; i < names.size(); ++i) {
+            const QVariant lower = widget->property(names.at(i - 1));
+            const QVariant upper = widget->property(names.at(i));
+            // The toolkit's bar stands below its range at first.
+            if (lower.isValid() && upper.isValid() && !(lower.toDouble() <= upper.toDouble())
+                && !qobject_cast<const QProgressBar *>(widget))
+                return QString(names.at(i - 1) + " is at most " + names.at(i));
+        }
+    }
+    if (auto *tool = qobject_cast<const GradientTool *>(widget)) {
+        const auto ramp = tool->getRamp();
+        const bool isInside = std::all_of(ramp.begin(), ramp.end(), [](const auto &stop) {
+            return stop.first >= 0.0 && stop.first <= 1.0;
+        });
+        if (!isInside || ramp.size() < 2 || tool->getColorTable().size() != 256)
+            return "two stops or more, from 0 to 1";
+    }
+    return {};
 }
 
 const std::vector<Subject> &subjects()

@@ -28,17 +28,12 @@ public:
 
     /// A number that setters are easily wrong about, or any other.
     int extremeInt();
-    /// One end of a range that is no longer than an int can count.
-    int rangeEnd() { return extremeInt() / 4; }
     double extremeDouble();
     QString text();
 
 private:
     quint32 m_state;
 };
-
-/// What is wrong with what the class promises; empty when nothing is.
-using Check = std::function<QString(QWidget *)>;
 
 /// One class under test.
 struct Subject
@@ -47,10 +42,12 @@ struct Subject
     std::function<QWidget *()> create;
     /// Calls one of the class's functions, with arguments by the dice.
     std::function<void(QWidget *, Dice &)> call;
-    Check check; ///< null where nothing is promised
     /// Asks hosts to delete it with deleteLater() in its signals.
     bool onlyDeletedLater;
 };
+
+/// A promise of its class that \a widget does not keep, or an empty text.
+QString brokenPromise(const QWidget *widget);
 
 /// Every widget of the library.
 const std::vector<Subject> &subjects();

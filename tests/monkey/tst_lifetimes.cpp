@@ -1,16 +1,7 @@
 #include "subjects.h"
 #include "testsupport.h"
 
-#include <nocturne/DarkFusionStyle>
-#include <nocturne/DarkUX>
-#include <nocturne/DelayButton>
-#include <nocturne/LetterBoxWidget>
-#include <nocturne/Menu>
-#include <nocturne/QBalloonTip>
-#include <nocturne/QMessageBoxEx>
-#include <nocturne/QMidiIn>
-#include <nocturne/QMidiOut>
-#include <nocturne/Slider>
+#include <nocturne-headers.h>
 
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
@@ -39,16 +30,23 @@ QString complaint(const QString &program, const QStringList &arguments)
     return failed ? QStringLiteral("exit code %1: %2").arg(process.exitCode()).arg(said) : said;
 }
 
+struct Everything : QWidget
+{
+    Everything()
+    {
+        auto *layout = new QFormLayout(this);
+        for (const Subject &subject : subjects())
+            layout->addRow(subject.create());
+    }
+};
+
 /// What is alive when the application ends: on the stack after it, and owned by nobody.
 int quitInTheMiddle(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     auto *theme = new DarkUX;
     QApplication::setStyle(theme->style());
-    QWidget window;
-    QFormLayout layout(&window);
-    for (const Subject &subject : subjects())
-        layout.addRow(subject.create());
+    Everything window;
     window.show();
 
     QMidiIn input;
@@ -93,10 +91,7 @@ private Q_SLOTS:
     {
         DarkUX theme;
         const std::unique_ptr<QStyle> unused(theme.style());
-        QWidget window;
-        QFormLayout layout(&window);
-        for (const Subject &subject : subjects())
-            layout.addRow(subject.create());
+        Everything window;
         window.resize(800, 1600);
         window.show();
         std::size_t settled = 0;

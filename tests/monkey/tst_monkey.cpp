@@ -1,10 +1,7 @@
 #include "qtversion.h"
 #include "subjects.h"
 
-#include <nocturne/DarkFusionStyle>
-#include <nocturne/DarkProxyStyle>
-#include <nocturne/DarkUX>
-#include <nocturne/QBalloonTip>
+#include <nocturne-headers.h>
 
 #include <QtTest/QtTest>
 #include <QtWidgets/QtWidgets>
@@ -17,7 +14,7 @@
 // A monkey: random events and calls on one class after the other. After every step it checks what
 // the class promises; a script that breaks something is cut down to the shortest that still does.
 //
-//   tst_monkey                             a short run over all classes, with a seed of the day
+//   tst_monkey                             a short run over all classes
 //   tst_monkey --seed 7 --steps 100000     as long as wanted; --class Slider for one class
 //   tst_monkey --class Slider --replay 12,77,1034    the script that was printed
 
@@ -51,7 +48,7 @@ const char *const expectedWarnings[] = {
 
 QString failure;
 QString lastWarning;
-quint64 eventCount = 0;
+unsigned long long eventCount = 0;
 
 void fail(const QString &what)
 {
@@ -79,18 +76,16 @@ public:
     Monkey(const Subject &subject, quint32 firstStep)
         : m_subject(subject)
     {
-        QStyle *style = m_theme->style();
-        if (firstStep % 4 == 1 || firstStep % 4 == 2)
-            delete style;
+        std::unique_ptr<QStyle> style(m_theme->style());
         if (firstStep % 4 == 1)
-            style = QStyleFactory::create("Fusion");
+            style.reset(QStyleFactory::create("Fusion"));
         else if (firstStep % 4 == 2)
-            style = new DarkProxyStyle("Fusion");
+            style = std::make_unique<DarkProxyStyle>("Fusion");
         else if (firstStep % 4 == 3)
             m_window->setStyleSheet(
                 "QWidget { color: #ddd; } QSlider::handle { width: 9px; } QListView::item { "
                 "margin: 2px } QAbstractSpinBox { border: 1px solid red; }");
-        QApplication::setStyle(style);
+        QApplication::setStyle(style.release());
         QApplication::setPalette(m_theme->palette());
 
         new QVBoxLayout(m_window.get());
@@ -122,27 +117,16 @@ public:
     {
         lastWarning.clear();
         Dice dice(seed);
-        const int what = dice.roll(16);
-        if (what == 0)
-            wheel(dice);
-        else if (what <= 3)
-            keys(dice);
-        else if (what == 4)
-            drop(dice);
-        else if (what == 5)
-            otherInput(dice);
-        else if (what <= 7)
-            changeWidget(dice);
-        else if (what == 8 && dice.roll(3))
-            changeWorld(dice);
-        else if (what == 8)
-            m_armed = dice.roll(6);
-        else if (what == 9)
-            dice.roll(8) ? touchOrTablet(dice) : rest();
-        else
-            mouse(dice);
-        if (m_widget && m_subject.check)
-            fail(m_subject.check(m_widget));
+        using Action = void (Monkey::*)(Dice &);
+        static const Action actions[] = {
+            &Monkey::mouse, &Monkey::mouse,        &Monkey::mouse,        &Monkey::mouse,
+            &Monkey::mouse, &Monkey::mouse,        &Monkey::keys,         &Monkey::keys,
+            &Monkey::keys,  &Monkey::otherInput,   &Monkey::otherInput,   &Monkey::otherInput,
+            &Monkey::drop,  &Monkey::changeWidget, &Monkey::changeWidget, &Monkey::changeWorld};
+        (this->*actions[dice.roll(16)])(dice);
+        const QString broken = m_widget ? brokenPromise(m_widget) : QString();
+        if (!broken.isEmpty())
+            fail("broken promise: " + broken);
     }
 
     /// Lets go of everything; nothing may be left behind then.
@@ -153,12 +137,10 @@ public:
         for (int i = 0; i < 10 && QApplication::activePopupWidget(); ++i)
             QApplication::activePopupWidget()->close();
         // What a real pointer would show next: it moves with no button held.
-        const QVector<QPointer<QWidget>> receivers{m_widget ? QWidget::mouseGrabber() : nullptr,
-                                                   m_widget};
-        for (const auto &receiver : receivers) {
-            const QPoint place(1, 1);
-            if (receiver)
-                send(receiver, QMouseEvent(QEvent::MouseMove, place, receiver->mapToGlobal(place),
+        using Receiver = QPointer<QWidget>;
+        for (const Receiver &receiver : {Receiver(QWidget::mouseGrabber()), m_widget}) {
+            if (receiver && m_widget)
+                send(receiver, QMouseEvent(QEvent::MouseMove, {1, 1}, receiver->mapToGlobal({1, 1}),
                                            Qt::NoButton, Qt::NoButton, Qt::NoModifier));
         }
         QCoreApplication::processEvents();
@@ -286,31 +268,6 @@ private:
                          type == QEvent::MouseMove ? Qt::NoButton : button, m_buttons, modifiers));
     }
 
-    void wheel(Dice &dice)
-    {
-        QWidget *widget = target(dice);
-        const QPoint place = pointOn(widget, dice);
-        const QPoint angle(dice.roll(3) * 120 - 120, dice.roll(5) * 120 - 240);
-        send(widget, QWheelEvent(place, widget->mapToGlobal(place), QPoint(), angle, m_buttons,
-                                 Qt::NoModifier, Qt::NoScrollPhase, false));
-    }
-
-    void touchOrTablet(Dice &dice)
-    {
-        QWidget *widget = target(dice);
-        const QPoint place = pointOn(widget, dice);
-        const bool isPen = !dice.coin();
-        const bool presses = dice.coin();
-        if (isPen) {
-            send(widget, QtVersion::penEvent(presses ? QEvent::TabletPress : QEvent::TabletMove,
-                                             place, widget->mapToGlobal(place)));
-            return;
-        }
-        static auto *device = QTest::createTouchDevice();
-        auto touch = QTest::touchEvent(widget, device);
-        presses ? touch.press(0, place, widget) : touch.release(0, place, widget);
-    }
-
     void keys(Dice &dice)
     {
         static const int all[] = {
@@ -363,22 +320,33 @@ private:
         const QPoint global = widget->mapToGlobal(place);
         const auto reason = static_cast<Qt::FocusReason>(dice.roll(8));
         const bool coin = dice.coin();
-        const int what = dice.roll(8);
-        if (what == 0) {
+        const int what = dice.roll(24);
+        if (what < 8) {
+            const QPoint angle(dice.roll(3) * 120 - 120, dice.roll(5) * 120 - 240);
+            send(widget, QWheelEvent(place, global, QPoint(), angle, m_buttons, Qt::NoModifier,
+                                     Qt::NoScrollPhase, false));
+        } else if (what < 12) {
+            static auto *device = QTest::createTouchDevice();
+            auto touch = QTest::touchEvent(widget, device);
+            coin ? touch.press(0, place, widget) : touch.release(0, place, widget);
+        } else if (what < 16) {
+            const auto type = coin ? QEvent::TabletPress : QEvent::TabletMove;
+            send(widget, QtVersion::penEvent(type, place, global));
+        } else if (what == 16) {
             send(widget, QContextMenuEvent(QContextMenuEvent::Mouse, place, global));
-        } else if (what == 1) {
+        } else if (what == 17) {
             send(widget, QHelpEvent(coin ? QEvent::ToolTip : QEvent::WhatsThis, place, global));
-        } else if (what == 2) {
+        } else if (what == 18) {
             QInputMethodEvent input(dice.text(), {});
             input.setCommitString(dice.text());
             send(widget, std::move(input));
-        } else if (what == 3) {
+        } else if (what == 19) {
             send(widget, QHoverEvent(coin ? QEvent::HoverMove : QEvent::HoverLeave, place, place));
-        } else if (what == 4) {
+        } else if (what == 20) {
             send(widget, QFocusEvent(coin ? QEvent::FocusIn : QEvent::FocusOut, reason));
-        } else if (what == 5) {
+        } else if (what == 21) {
             send(widget, QEvent(coin ? QEvent::Leave : QEvent::WindowDeactivate));
-        } else if (what == 6) {
+        } else if (what == 22) {
             m_armed = -1; // the toolkit's call does not outlive a widget that is deleted in it
             widget->setFocus(reason);
         } else {
@@ -394,7 +362,7 @@ private:
         if (!m_widget)
             makeSubject();
         ++eventCount;
-        const int what = dice.roll(10);
+        const int what = dice.roll(12);
         if (what == 0) {
             m_widget->setEnabled(dice.coin());
         } else if (what == 1) {
@@ -423,7 +391,7 @@ private:
 
     void changeWorld(Dice &dice)
     {
-        const int what = dice.roll(8);
+        const int what = dice.roll(17);
         if (what == 0) {
             QPalette palette = m_theme->palette();
             palette.setColor(QPalette::Window, QColor(dice.roll(256), dice.roll(256), 40));
@@ -449,6 +417,10 @@ private:
             QBalloonTip::showBalloon(
                 static_cast<QSystemTrayIcon::MessageIcon>(dice.roll(4)), dice.text(), dice.text(),
                 nullptr, QPoint(dice.roll(800), dice.roll(800)), dice.roll(9) - 2, dice.coin());
+        } else if (what == 7) {
+            rest();
+        } else if (what < 15) {
+            m_armed = dice.roll(6);
         } else {
             QCoreApplication::processEvents();
         }
@@ -465,40 +437,54 @@ private:
     int m_armed = -1; ///< what is done when the next signal is heard, nothing if negative
 };
 
-/// Runs \a script in this process; an empty text when it passes.
-QString run(const Subject &subject, const Script &script)
+QByteArray replayText(const Script &script)
 {
-    failure.clear();
-    {
-        Monkey monkey(subject, script.value(0));
-        for (quint32 step : script) {
-            monkey.step(step);
-            if (!failure.isEmpty())
-                return failure + QString(" (at step %1)").arg(step);
-        }
-        monkey.rest();
-    }
-    return failure;
-}
-
-QString replayText(const Script &script)
-{
-    QStringList steps;
+    QByteArrayList steps;
     for (quint32 step : script)
-        steps << QString::number(step);
+        steps << QByteArray::number(step);
     return steps.join(',');
 }
 
-/// Runs \a script in a process of its own, which may crash or hang. What went wrong, or nothing.
-QString runApart(const char *name, const Script &script, quint64 *events = nullptr)
+Script parsed(const QByteArray &text)
 {
-    QTemporaryFile file;
-    if (!file.open() || file.write(replayText(script).toLatin1()) < 0 || !file.flush())
-        return "cannot write a script";
+    Script script;
+    for (const QByteArray &step : text.split(','))
+        script.push_back(step.trimmed().toUInt());
+    return script;
+}
+
+/// Runs \a text as a script in this process and says what went wrong. Inside an event loop, as in a
+/// host: what is deleted later is deleted there.
+int replay(const Subject &subject, const QString &text)
+{
+    QFile input;
+    const bool isRead = text == "-" && input.open(stdin, QIODevice::ReadOnly);
+    const Script script = parsed(isRead ? input.readAll() : text.toLatin1());
+    qInstallMessageHandler(onMessage);
+    QTimer::singleShot(0, qApp, [&] {
+        {
+            Monkey monkey(subject, script.value(0));
+            for (int i = 0; i < script.size() && failure.isEmpty(); ++i)
+                monkey.step(script.at(i));
+            if (failure.isEmpty())
+                monkey.rest();
+        }
+        QCoreApplication::quit();
+    });
+    QCoreApplication::exec();
+    qInstallMessageHandler(nullptr);
+    std::printf("%s\nevents %llu\n", qPrintable(failure), eventCount);
+    return failure.isEmpty() ? 0 : 1;
+}
+
+/// Runs \a script in a process of its own, which may crash or hang. What went wrong, or nothing.
+QString runApart(const char *name, const Script &script, unsigned long long *events = nullptr)
+{
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QCoreApplication::applicationFilePath(),
-                  {"--class", name, "--replay", '@' + file.fileName()});
+    process.start(QCoreApplication::applicationFilePath(), {"--class", name, "--replay", "-"});
+    process.write(replayText(script));
+    process.closeWriteChannel();
     if (!process.waitForFinished(120000)) {
         process.kill();
         process.waitForFinished();
@@ -522,8 +508,7 @@ QString kindOf(const QString &wrong)
         .remove(QRegularExpression("0x[0-9a-f]+|[0-9]+"));
 }
 
-/// Leaves out what comes after the step that fails, and then ever smaller parts of \a script while
-/// it goes on failing.
+/// Leaves out ever smaller parts of \a script while it goes on failing.
 Script shortened(const char *name, Script script, const QString &wrong)
 {
     QElapsedTimer clock;
@@ -531,12 +516,6 @@ Script shortened(const char *name, Script script, const QString &wrong)
     const auto fails = [&](const Script &part) {
         return kindOf(runApart(name, part)) == kindOf(wrong);
     };
-    int passing = 0;
-    for (int failing = int(script.size()); failing - passing > 1;) {
-        const int middle = (passing + failing) / 2;
-        (fails(script.mid(0, middle)) ? failing : passing) = middle;
-    }
-    script.resize(passing + 1);
     for (int part = int(script.size()) / 2; part > 0; part /= 2) {
         for (int at = 0; at < script.size() && clock.elapsed() < 300000;) {
             Script shorter = script;
@@ -547,18 +526,6 @@ Script shortened(const char *name, Script script, const QString &wrong)
                 at += part;
         }
     }
-    return script;
-}
-
-Script parsed(QString text)
-{
-    if (text.startsWith('@')) {
-        QFile file(text.mid(1));
-        text = file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
-    }
-    Script script;
-    for (const QString &step : text.split(','))
-        script.push_back(step.trimmed().toUInt());
     return script;
 }
 
@@ -574,39 +541,22 @@ int main(int argc, char *argv[])
 
     QCommandLineParser parser;
     parser.addHelpOption();
-    const auto option = [&parser](const char *name, const char *what, const char *standard) {
-        parser.addOption({name, what, "value", standard});
-    };
-    option("seed", "The first random number.", "1");
-    option("steps", "Steps for each class.", "600");
-    option("class", "One class only.", "");
-    option("replay", "The steps of a script, or @ and a file with them.", "");
+    parser.addOptions({{"seed", "The first random number.", "value", "1"},
+                       {"steps", "Steps for each class.", "value", "2400"},
+                       {"class", "One class only.", "value"},
+                       {"replay", "The steps of a script, or - to read them.", "value"}});
     parser.process(app);
-    const QString only = parser.value("class");
-    const QString replay = parser.value("replay");
     const quint32 seed = parser.value("seed").toUInt();
     const int steps = parser.value("steps").toInt();
 
     int failures = 0;
     for (const Subject &subject : subjects()) {
-        if (!only.isEmpty() && only != subject.name)
+        if (parser.isSet("class") && parser.value("class") != subject.name)
             continue;
-        if (!replay.isEmpty()) {
-            qInstallMessageHandler(onMessage);
-            // Inside an event loop, as in a host: what is deleted later is deleted there.
-            QString wrong;
-            QTimer::singleShot(0, &app, [&] {
-                wrong = run(subject, parsed(replay));
-                QCoreApplication::quit();
-            });
-            QCoreApplication::exec();
-            qInstallMessageHandler(nullptr);
-            std::printf("%s\nevents %llu\n", qPrintable(wrong),
-                        static_cast<unsigned long long>(eventCount));
-            return wrong.isEmpty() ? 0 : 1;
-        }
+        if (parser.isSet("replay"))
+            return replay(subject, parser.value("replay"));
         // Four scripts, one for each style.
-        quint64 events = 0;
+        unsigned long long events = 0;
         const char *verdict = "passed";
         for (quint32 part = 0; part < 4; ++part) {
             Script script(1, seed * 4 + part);
@@ -622,10 +572,9 @@ int main(int argc, char *argv[])
             std::fflush(stdout);
             const Script shortest = shortened(subject.name, script, wrong);
             std::printf("replay with: --class %s --replay %s\n", subject.name,
-                        qPrintable(replayText(shortest)));
+                        replayText(shortest).constData());
         }
-        std::printf("%-20s %9llu events %s\n", subject.name,
-                    static_cast<unsigned long long>(events), verdict);
+        std::printf("%-20s %9llu events %s\n", subject.name, events, verdict);
         std::fflush(stdout);
     }
     return failures ? 1 : 0;
