@@ -208,7 +208,6 @@ private Q_SLOTS:
     void keptBesideOthers();
 
     void groupBox();
-    void menuItemText();
     void rememberedScrollBar();
 
     void paintedOnceOrInPlace();
@@ -224,6 +223,7 @@ private:
     Recorder m_recorder;
     QHash<QString, QWidget *> m_widgets;
     QMainWindow m_mainWindow;
+    QObject m_popupItem;
 
     Row m_row;
     QVector<QPair<Row, QImage>> m_pictures;
@@ -249,6 +249,7 @@ void TestStyleElements::initTestCase()
                  {"top", &m_mainWindow}};
     for (const char *name : {"search", "popup", "titlebutton"})
         m_widgets[name]->setParent(child);
+    m_popupItem.setProperty("_q_isComboBoxPopupItem", true);
 }
 
 void TestStyleElements::elements_data()
@@ -343,6 +344,7 @@ void TestStyleElements::elements()
         m_row.clip = rect(settings.take("clip"));
     const bool isMirrored = settings.remove("mirrored");
     const bool isReadable = settings.remove("readable");
+    const bool isPopupItem = settings.remove("popupitem");
     m_recorder.isTransient = !settings.remove("solid");
     m_row.style = m_style.get();
     if (!m_recorder.isTransient)
@@ -351,6 +353,7 @@ void TestStyleElements::elements()
         m_row.style = &m_readable;
     m_row.option = builders[words[1]](rect(words[2]), state, settings);
     m_row.option->direction = isMirrored ? Qt::RightToLeft : Qt::LeftToRight;
+    m_row.option->styleObject = isPopupItem ? &m_popupItem : nullptr;
     if (isReadable)
         m_row.option->palette = DarkReadableStyle::palette(m_row.option->palette);
     for (auto role = roles.cbegin(); role != roles.cend(); ++role)
@@ -435,53 +438,6 @@ void TestStyleElements::groupBox()
     option.direction = Qt::RightToLeft;
     QCOMPARE(place(QStyle::SC_GroupBoxLabel), label.translated(162 - text.width(), 0));
     QCOMPARE(place(QStyle::SC_GroupBoxCheckBox), box.translated(184, 0));
-}
-
-/// As the toolkit would draw it, text and shortcut each in a place of its own.
-void TestStyleElements::menuItemText()
-{
-    QObject popupItem;
-    popupItem.setProperty("_q_isComboBoxPopupItem", true);
-    for (const QString look : {"", "mirrored", "selected", "disabled", "disabled mirrored",
-                               "disabled selected", "combobox", "popup"})
-    {
-        const bool isSelected = look.contains("selected");
-        const bool isEnabled = !look.contains("disabled");
-        const bool isMirrored = look.contains("mirrored");
-        auto option = makeOption<QStyleOptionMenuItem>(QRect(3, 2, 115, 28),
-                                                       isEnabled ? enabled : QStyle::State());
-        option.state.setFlag(QStyle::State_Selected, isSelected);
-        option.direction = isMirrored ? Qt::RightToLeft : Qt::LeftToRight;
-        option.styleObject = look == "popup" ? &popupItem : nullptr;
-        option.maxIconWidth = 22;
-        QtVersion::setShortcutWidth(option, 24);
-        option.text = QStringLiteral("&Open\tF1\tF2");
-
-        const int left = look == "combobox" || look == "popup" ? 30 : 32;
-        const QRect text(left, 10, 80 - left, 12);
-        const QRect shortcut(79, 10, 39, 12);
-        const auto role = isSelected && isEnabled ? QPalette::HighlightedText : QPalette::Text;
-        const QImage expected = picture([&](QPainter &painter) {
-            painter.setLayoutDirection(option.direction);
-            const auto draw = [&](const QRect &rect, const QString &words,
-                                  QPalette::ColorRole pen) {
-                painter.setPen(option.palette.color(pen));
-                painter.drawText(QStyle::visualRect(option.direction, option.rect, rect),
-                                 Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic
-                                     | Qt::TextDontClip | Qt::TextSingleLine,
-                                 words);
-            };
-            if (!isEnabled && !isSelected)
-                draw(shortcut.translated(isMirrored ? -1 : 1, 1), "F1\tF2", QPalette::Light);
-            draw(shortcut, "F1\tF2", role);
-            draw(text, "&Open", role);
-        });
-        const QImage image = picture([&](QPainter &painter) {
-            painter.setLayoutDirection(option.direction);
-            m_style->drawControl(QStyle::CE_MenuItem, &option, &painter, m_widgets.value(look));
-        });
-        QVERIFY2(image == expected, qPrintable(look));
-    }
 }
 
 /// A transient bar notes what it showed, whatever changes alone; a solid one notes nothing.
