@@ -369,14 +369,6 @@ void TestReadable::polishing()
     QTabBar bar;
     QApplication::style()->polish(&bar);
     QVERIFY(bar.testAttribute(Qt::WA_Hover));
-
-    QTextEdit edit;
-    edit.setPlainText(QString(500, QLatin1Char('\n')));
-    edit.resize(200, 100);
-    edit.show();
-    edit.grab(); // lays it out
-    QVERIFY(edit.verticalScrollBar()->isVisible());
-    QVERIFY(edit.viewport()->width() <= 200 - edit.verticalScrollBar()->width());
 }
 
 void TestReadable::listsOfComboBoxesBelowAHostsProxy()

@@ -161,7 +161,24 @@ void setScreenScale(qreal scale)
 /// What is drawn, and by which style.
 struct Row
 {
-    void drawBy(const QStyle &style, QPainter &painter) const;
+    void drawBy(const QStyle &style, QPainter &painter) const
+    {
+        painter.setLayoutDirection(option->direction);
+        if (!clip.isNull())
+            painter.setClipRect(clip);
+        const int value = number(element);
+        if (element.startsWith("SP_"))
+            painter.drawPixmap(option->rect.topLeft(),
+                               style.standardPixmap(QStyle::StandardPixmap(value), option.get()));
+        else if (element.startsWith("PE_"))
+            style.drawPrimitive(QStyle::PrimitiveElement(value), option.get(), &painter, widget);
+        else if (element.startsWith("CE_"))
+            style.drawControl(QStyle::ControlElement(value), option.get(), &painter, widget);
+        else if (element.startsWith("CC_"))
+            style.drawComplexControl(QStyle::ComplexControl(value),
+                                     static_cast<QStyleOptionComplex *>(option.get()), &painter,
+                                     widget);
+    }
     QImage picture() const
     {
         return StylePainting::picture([this](QPainter &painter) { drawBy(*style, painter); },
@@ -174,25 +191,6 @@ struct Row
     const QWidget *widget = nullptr;
     QRect clip;
 };
-
-void Row::drawBy(const QStyle &style, QPainter &painter) const
-{
-    painter.setLayoutDirection(option->direction);
-    if (!clip.isNull())
-        painter.setClipRect(clip);
-    const int value = number(element);
-    if (element.startsWith("SP_"))
-        painter.drawPixmap(option->rect.topLeft(),
-                           style.standardPixmap(QStyle::StandardPixmap(value), option.get()));
-    else if (element.startsWith("PE_"))
-        style.drawPrimitive(QStyle::PrimitiveElement(value), option.get(), &painter, widget);
-    else if (element.startsWith("CE_"))
-        style.drawControl(QStyle::ControlElement(value), option.get(), &painter, widget);
-    else if (element.startsWith("CC_"))
-        style.drawComplexControl(QStyle::ComplexControl(value),
-                                 static_cast<QStyleOptionComplex *>(option.get()), &painter,
-                                 widget);
-}
 
 } // namespace
 
@@ -280,7 +278,8 @@ QString TestStyleElements::answer(const QString &question, const QImage &image) 
             QStyle::ComplexControl(element), static_cast<QStyleOptionComplex *>(m_row.option.get()),
             QStyle::SubControl(number(question))));
     if (question == "hint")
-        return QString::number(m_style->styleHint(QStyle::StyleHint(element), m_row.option.get()));
+        return QString::number(
+            m_row.style->styleHint(QStyle::StyleHint(element), m_row.option.get()));
     if (question == "metric")
         return QString::number(
             m_style->pixelMetric(QStyle::PixelMetric(element), m_row.option.get()));

@@ -54,17 +54,13 @@ QVector<Element> ownElements()
 /// Palettes from which sums and factors leave the range of a colour, or that hold no colours.
 QVector<QPalette> extremePalettes()
 {
-    QPalette gradient = themePalette();
-    gradient.setBrush(QPalette::Window, QLinearGradient(0, 0, 0, 10));
-    QPalette texture = themePalette();
-    texture.setBrush(QPalette::Window, QBrush(QPixmap(4, 4)));
-    return {themePalette(),
-            QPalette(Qt::black),
-            QPalette(Qt::white),
-            QPalette(QColor()),
-            QPalette(QColor(1, 2, 3, 0)),
-            gradient,
-            texture};
+    QVector<QPalette> palettes = {themePalette(), QPalette(Qt::black), QPalette(Qt::white),
+                                  QPalette(QColor()), QPalette(QColor(1, 2, 3, 0))};
+    for (const QBrush &brush : {QBrush(QLinearGradient(0, 0, 0, 10)), QBrush(QPixmap(4, 4))}) {
+        palettes << themePalette();
+        palettes.last().setBrush(QPalette::Window, brush);
+    }
+    return palettes;
 }
 
 /// Everything of a painter that an element could leave changed.
