@@ -2,6 +2,7 @@
 #include "testsupport.h"
 #include "xserver.h"
 
+#include <nocturne/ColorBar>
 #include <nocturne/DarkUX>
 #include <nocturne/GradientTool>
 #include <nocturne/ListWidget>
@@ -116,6 +117,11 @@ private Q_SLOTS:
         const DeskState start = state();
         for (int i = 0; i < 3 && !QTest::currentTestFailed(); ++i)
             workRound();
+        auto *tally = m_window->findChild<ColorBar *>();
+        const QImage still = tally->grab().toImage();
+        click("auto");
+        int steady = 0; // looks in a row, for longer than one half of its flicker
+        QTRY_VERIFY((steady = tally->grab().toImage() == still ? steady + 1 : 0) > 20);
         const DeskState end = state();
         history()->setIndex(0);
         QVERIFY(state() == start);

@@ -21,7 +21,7 @@
 namespace {
 
 /// A step is the seed of its dice, so any part of a script can be replayed on its own.
-using Script = QVector<quint32>;
+using Script = QStringList;
 
 /// Warnings of the toolkit that say nothing about the library.
 const char *const expectedWarnings[] = {
@@ -137,10 +137,11 @@ public:
         for (int i = 0; i < 10 && QApplication::activePopupWidget(); ++i)
             QApplication::activePopupWidget()->close();
         // What a real pointer would show next: it moves with no button held.
+        const QPoint place(1, 1);
         using Receiver = QPointer<QWidget>;
         for (const Receiver &receiver : {Receiver(QWidget::mouseGrabber()), m_widget}) {
             if (receiver && m_widget)
-                send(receiver, QMouseEvent(QEvent::MouseMove, {1, 1}, receiver->mapToGlobal({1, 1}),
+                send(receiver, QMouseEvent(QEvent::MouseMove, place, receiver->mapToGlobal(place),
                                            Qt::NoButton, Qt::NoButton, Qt::NoModifier));
         }
         QCoreApplication::processEvents();
@@ -299,10 +300,10 @@ private:
             data.setUrls({QUrl(dice.text()), QUrl::fromLocalFile("/a/b.mov"), QUrl()});
         if (dice.coin())
             data.setColorData(dice.coin() ? QVariant(QColor(1, 2, 3)) : QVariant(dice.text()));
-        if (dice.coin())
-            data.setText(dice.text());
-        if (dice.coin())
-            data.setData("application/x-qabstractitemmodeldatalist", dice.text().toUtf8());
+        for (const char *format : {"text/plain", "application/x-qabstractitemmodeldatalist"}) {
+            if (dice.coin())
+                data.setData(format, dice.text().toUtf8());
+        }
         const QPoint place = pointOn(widget, dice);
         const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
         send(widget, QDragEnterEvent(place, actions, &data, Qt::LeftButton, {}));
@@ -437,35 +438,19 @@ private:
     int m_armed = -1; ///< what is done when the next signal is heard, nothing if negative
 };
 
-QByteArray replayText(const Script &script)
-{
-    QByteArrayList steps;
-    for (quint32 step : script)
-        steps << QByteArray::number(step);
-    return steps.join(',');
-}
-
-Script parsed(const QByteArray &text)
-{
-    Script script;
-    for (const QByteArray &step : text.split(','))
-        script.push_back(step.trimmed().toUInt());
-    return script;
-}
-
 /// Runs \a text as a script in this process and says what went wrong. Inside an event loop, as in a
 /// host: what is deleted later is deleted there.
 int replay(const Subject &subject, const QString &text)
 {
     QFile input;
     const bool isRead = text == "-" && input.open(stdin, QIODevice::ReadOnly);
-    const Script script = parsed(isRead ? input.readAll() : text.toLatin1());
+    const Script script = (isRead ? QString(input.readAll()) : text).split(',');
     qInstallMessageHandler(onMessage);
     QTimer::singleShot(0, qApp, [&] {
         {
-            Monkey monkey(subject, script.value(0));
+            Monkey monkey(subject, script.first().toUInt());
             for (int i = 0; i < script.size() && failure.isEmpty(); ++i)
-                monkey.step(script.at(i));
+                monkey.step(script.at(i).toUInt());
             if (failure.isEmpty())
                 monkey.rest();
         }
@@ -483,7 +468,7 @@ QString runApart(const char *name, const Script &script, unsigned long long *eve
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QCoreApplication::applicationFilePath(), {"--class", name, "--replay", "-"});
-    process.write(replayText(script));
+    process.write(script.join(',').toLatin1());
     process.closeWriteChannel();
     if (!process.waitForFinished(120000)) {
         process.kill();
@@ -518,8 +503,7 @@ Script shortened(const char *name, Script script, const QString &wrong)
     };
     for (int part = int(script.size()) / 2; part > 0; part /= 2) {
         for (int at = 0; at < script.size() && clock.elapsed() < 300000;) {
-            Script shorter = script;
-            shorter.remove(at, std::min(part, int(script.size()) - at));
+            const Script shorter = script.mid(0, at) + script.mid(at + part);
             if (fails(shorter))
                 script = shorter;
             else
@@ -547,7 +531,7 @@ int main(int argc, char *argv[])
                        {"replay", "The steps of a script, or - to read them.", "value"}});
     parser.process(app);
     const quint32 seed = parser.value("seed").toUInt();
-    const int steps = parser.value("steps").toInt();
+    const quint32 steps = parser.value("steps").toUInt();
 
     int failures = 0;
     for (const Subject &subject : subjects()) {
@@ -559,9 +543,9 @@ int main(int argc, char *argv[])
         unsigned long long events = 0;
         const char *verdict = "passed";
         for (quint32 part = 0; part < 4; ++part) {
-            Script script(1, seed * 4 + part);
-            for (int i = 1; i < std::max(2, steps / 4); ++i)
-                script.push_back(seed * 1000003u + part * 7919u + static_cast<quint32>(i) * 31u);
+            Script script{QString::number(seed * 4 + part)};
+            for (quint32 i = 1; i < std::max(2u, steps / 4); ++i)
+                script << QString::number(seed * 1000003u + part * 7919u + i * 31u);
             const QString wrong = runApart(subject.name, script, &events);
             if (wrong.isEmpty())
                 continue;
@@ -572,7 +556,7 @@ int main(int argc, char *argv[])
             std::fflush(stdout);
             const Script shortest = shortened(subject.name, script, wrong);
             std::printf("replay with: --class %s --replay %s\n", subject.name,
-                        replayText(shortest).constData());
+                        qPrintable(shortest.join(',')));
         }
         std::printf("%-20s %9llu events %s\n", subject.name, events, verdict);
         std::fflush(stdout);
