@@ -155,9 +155,8 @@ struct Count
 
     void send()
     {
-        if (isConnected)
-            output.sendNoteOn(countChannel, quint8(sent % countTo / 128), quint8(sent % 128));
-        sent += isConnected;
+        output.sendNoteOn(countChannel, quint8(sent % countTo / 128), quint8(sent % 128));
+        ++sent;
     }
 
     bool isConnected = false;
@@ -520,8 +519,9 @@ private Q_SLOTS:
 
     /// A server is killed, started anew and flooded at random moments while ports are opened,
     /// closed, renamed and destroyed. What one port sends arrives at another without a gap for as
-    /// long as the server lives. NOCTURNE_SOAK_MINUTES asks for more than a few seconds of it, and
-    /// NOCTURNE_SOAK_SEED for other dice.
+    /// long as the server lives. NOCTURNE_SOAK=<minutes> asks for more than a few seconds of it,
+    /// and NOCTURNE_SOAK_SEED for other dice. More than five need
+    /// QTEST_FUNCTION_TIMEOUT=<milliseconds> as well.
     void soak()
     {
         NEED_JACK();
@@ -532,12 +532,12 @@ private Q_SLOTS:
         const int threadsBefore = threadCount();
         int servers = 0;
         int counted = 0;
-        const QDeadlineTimer end(
-            qMax(4000, qEnvironmentVariableIntValue("NOCTURNE_SOAK_MINUTES") * 60000));
+        const QDeadlineTimer end(qMax(4000, qEnvironmentVariableIntValue("NOCTURNE_SOAK") * 60000));
         while (!end.hasExpired()) {
             JackServer server;
             QVERIFY2(server.start(), "no JACK server comes up");
             Count count(++servers);
+            QVERIFY(count.isConnected);
             std::vector<std::unique_ptr<QMidiOut>> outputs;
             std::vector<std::unique_ptr<QMidiIn>> inputs;
             for (int left = 200 + roll(800); left > 0 && !end.hasExpired(); --left) {

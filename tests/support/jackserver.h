@@ -5,8 +5,6 @@
 
 #include <QtCore/QStandardPaths>
 
-#include <rtmidi/RtMidi.h>
-
 /// A JACK server of the program's own, under a name of its own and without a sound card. This
 /// process uses it as its default server until the object ends.
 class JackServer
@@ -64,29 +62,14 @@ private:
         // A server that finds its name taken ends at once; whoever answers then is another's.
         if (!m_process.waitForStarted(5000) || m_process.waitForFinished(500))
             return false;
-        for (int i = 0; i < 75; ++i) {
-            if (answers())
-                return true;
-            if (m_process.waitForFinished(200))
-                return false;
-        }
+        QProcess wait; // which prints
+        wait.start(QStringLiteral("jack_wait"),
+                   {QStringLiteral("--server"), name, QStringLiteral("--wait"),
+                    QStringLiteral("--timeout"), QStringLiteral("15")});
+        if (wait.waitForFinished(20000) && wait.exitCode() == 0)
+            return true;
         stop();
         return false;
-    }
-
-    static bool answers()
-    {
-        bool failed = false;
-        try {
-            RtMidiOut probe(RtMidi::UNIX_JACK, "probe");
-            probe.setErrorCallback([](RtMidiError::Type, const std::string &,
-                                      void *flag) { *static_cast<bool *>(flag) = true; },
-                                   &failed);
-            probe.getPortCount();
-        } catch (const RtMidiError &) {
-            failed = true;
-        }
-        return !failed;
     }
 
     QtVersion::MortalProcess m_process;

@@ -4,7 +4,6 @@
 #include <QtCore/QLibraryInfo>
 #include <QtCore/QPointer>
 #include <QtCore/QProcess>
-#include <QtGui/QKeySequence>
 #include <QtGui/QTabletEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleOption>
@@ -60,11 +59,6 @@ inline QString toolsPath()
     return QLibraryInfo::location(QLibraryInfo::BinariesPath);
 }
 
-inline int firstKey(const QKeySequence &sequence)
-{
-    return sequence[0];
-}
-
 /// A pen that touches a tablet at \a position of a widget, lightly.
 inline QTabletEvent penEvent(QEvent::Type type, const QPointF &position, const QPointF &global)
 {
@@ -87,11 +81,6 @@ inline void setShortcutWidth(QStyleOptionMenuItem &option, int width)
 inline QString toolsPath()
 {
     return QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath);
-}
-
-inline int firstKey(const QKeySequence &sequence)
-{
-    return sequence[0].toCombined();
 }
 
 inline QTabletEvent penEvent(QEvent::Type type, const QPointF &position, const QPointF &global)
