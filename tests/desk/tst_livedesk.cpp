@@ -20,7 +20,7 @@
 #include <QtGui/QPixmapCache>
 #include <QtWidgets/QAbstractButton>
 
-#include <map>
+#include <algorithm>
 #include <memory>
 #include <numeric>
 #include <utility>
@@ -51,13 +51,20 @@ double residentMemory()
     return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(1).toDouble() * 4 : 0;
 }
 
-double mean(const double *begin, const double *end)
+/// How much \a values grow from one to the next, by linear regression.
+double slope(const std::vector<double> &values)
 {
-    return std::accumulate(begin, end, 0.0) / double(end - begin);
+    double products = 0, squares = 0;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const double distance = double(i) - double(values.size() - 1) / 2;
+        products += distance * values[i];
+        squares += distance * distance;
+    }
+    return products / squares;
 }
 
 /// Counts the events that are delivered from the event loop by the hundredths of a millisecond they
-/// took, so that the record itself hardly grows.
+/// took, so that the record itself does not grow.
 class TimedApplication : public QApplication
 {
 public:
@@ -70,7 +77,7 @@ public:
         timer.start();
         const bool result = QApplication::notify(receiver, event);
         if (!isNested)
-            ++m_counts[-timer.nsecsElapsed() / 10000];
+            ++m_counts[size_t(qMin<qint64>(timer.nsecsElapsed() / 10000, longest))];
         m_nested = isNested;
         return result;
     }
@@ -78,17 +85,16 @@ public:
     /// The time within which all but a thousandth of the events were done, in ms.
     double slowest() const
     {
-        qint64 events = 0;
-        for (const auto &slower : m_counts)
-            events += slower.second;
-        auto slower = m_counts.begin();
-        for (qint64 left = events / 1000 - slower->second; left >= 0; left -= slower->second)
-            ++slower;
-        return double(-slower->first) / 100;
+        qint64 left = std::accumulate(m_counts.begin(), m_counts.end(), qint64(0)) / 1000;
+        size_t at = m_counts.size();
+        while (at > 0 && left >= 0)
+            left -= m_counts[--at];
+        return double(at) / 100;
     }
 
 private:
-    std::map<qint64, qint64> m_counts; ///< the slowest first
+    static constexpr qint64 longest = 99999;
+    std::vector<qint64> m_counts = std::vector<qint64>(longest + 1);
     bool m_nested = false;
 };
 
@@ -194,13 +200,11 @@ private Q_SLOTS:
                 memory.push_back(residentMemory());
             }
         }
-        const double *end = memory.data() + memory.size();
-        const auto third = int(memory.size() / 3); // the first is for warming up
-        const double grown = mean(end - third, end) - mean(end - 2 * third, end - third);
-        std::printf("%d rounds, memory %+.2f KiB a sample over %d samples at %.0f KiB, "
+        memory.erase(memory.begin(), memory.begin() + int(memory.size() / 5)); // warming up
+        const auto *application = static_cast<TimedApplication *>(qApp);
+        std::printf("%d rounds, memory %+.2f KiB a sample over %zu samples at %.0f KiB, "
                     "99.9 %% of events within %.2f ms\n",
-                    rounds, grown / third, 2 * third, memory.back(),
-                    static_cast<TimedApplication *>(qApp)->slowest());
+                    rounds, slope(memory), memory.size(), memory.back(), application->slowest());
     }
 
 private:
@@ -225,6 +229,17 @@ private:
     Widget *find(const char *name) const
     {
         return m_window->findChild<Widget *>(name);
+    }
+
+    void drop(const QStringList &files)
+    {
+        QList<QUrl> urls;
+        for (const QString &file : files)
+            urls << QUrl::fromLocalFile(file);
+        QMimeData data;
+        data.setUrls(urls);
+        TestSupport::drop(find<ListWidget>("bin")->viewport(), data, {5, 5});
+        expectStep("a drop of files");
     }
 
     /// From one x to another, with the left button and expecting one step; like a real one, the
@@ -261,10 +276,7 @@ private:
     /// One stretch of work with every kind of gesture.
     void workRound()
     {
-        QMimeData files;
-        files.setUrls({QUrl("file:///clips/opening.mov"), QUrl("file:///clips/stage.mov")});
-        TestSupport::drop(find<ListWidget>("bin")->viewport(), files, {5, 5});
-        expectStep("a drop of files");
+        drop({"/clips/opening.mov", "/clips/stage.mov"});
         if (QTest::currentTestFailed())
             return;
 

@@ -181,7 +181,7 @@ private Q_SLOTS:
         QVERIFY(after.hasFocus());
     }
 
-    void receiversMayReplaceEverything()
+    void receiversMayReplaceOrDeleteEverything()
     {
         Editor editor;
         connect(&editor, &GradientTool::rampChanged, &editor, [&editor] {
@@ -189,6 +189,14 @@ private Q_SLOTS:
         });
         editor.run("press 105 -30, release 105, press 55, move 65, move 66, release 66");
         QCOMPARE(editor.getSliderNum(), 2);
+        for (const QPoint &point : {QPoint(105, 20), QPoint(5, 50)}) {
+            const QPointer<GradientTool> deleted(new Editor);
+            connect(deleted, &GradientTool::opacityValueChange, this,
+                    [deleted] { delete deleted; });
+            TestSupport::sendMouse(deleted, QEvent::MouseButtonPress, point, Qt::LeftButton,
+                                   Qt::LeftButton);
+            QVERIFY(!deleted);
+        }
     }
 
     void colorDialog()

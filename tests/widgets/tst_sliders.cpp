@@ -440,6 +440,21 @@ private Q_SLOTS:
         QCOMPARE(box.value(), 100);
     }
 
+    void theSpinBoxMayBeDeletedInMidDrag()
+    {
+        SpinFixture f;
+        f.box->run("enter, press 30, move 35");
+        delete f.box;
+        QVERIFY(TestSupport::nothingIsHeld());
+
+        const QPointer<SpinBox> box(f.sibling);
+        connect(f.sibling, QOverload<double, bool>::of(&SpinBox::valueChanged), this,
+                [&f] { delete f.sibling; });
+        f.sibling->run("press 30");
+        TestSupport::sendDrag(f.sibling, QPoint(33, 10));
+        QVERIFY(!box);
+    }
+
     void restoresOnlyItsOwnCursor()
     {
         QApplication::setOverrideCursor(Qt::WaitCursor);
